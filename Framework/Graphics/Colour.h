@@ -1,0 +1,40 @@
+#pragma once
+
+#include <boost/array.hpp>
+
+namespace quorva::graphics {
+
+/// Red, green, blue, alpha, each from 0 to 1. glColor4fv takes `data()` as it stands.
+class Colour {
+public:
+    boost::array<float, 4> components = {{0.0F, 0.0F, 0.0F, 0.0F}};
+
+    Colour() = default;
+    constexpr Colour(float red, float green, float blue, float alpha)
+        : components{{red, green, blue, alpha}} {}
+
+    const float* data() const { return components.data(); }
+
+    float red() const { return components[0]; }
+    float green() const { return components[1]; }
+    float blue() const { return components[2]; }
+    float alpha() const { return components[3]; }
+    void setAlpha(float alpha) { components[3] = alpha; }
+};
+
+/// The fixed palette; all other colours are named resources.
+namespace colours {
+
+constexpr Colour black(0.0F, 0.0F, 0.0F, 1.0F);
+constexpr Colour white(1.0F, 1.0F, 1.0F, 1.0F);
+constexpr Colour red(1.0F, 0.0F, 0.0F, 1.0F);
+constexpr Colour green(0.0F, 1.0F, 0.0F, 1.0F);
+constexpr Colour blue(0.0F, 0.0F, 1.0F, 1.0F);
+constexpr Colour pink(1.0F, 0.5F, 1.0F, 1.0F);
+constexpr Colour orange(1.0F, 0.5F, 0.0F, 1.0F);
+constexpr Colour cyan(0.0F, 1.0F, 1.0F, 1.0F);
+constexpr Colour yellow(1.0F, 1.0F, 0.0F, 1.0F);
+
+} // namespace colours
+
+} // namespace quorva::graphics

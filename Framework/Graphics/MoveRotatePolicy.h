@@ -1,0 +1,27 @@
+#pragma once
+
+#include "Framework/math/Quaternion.h"
+
+namespace quorva::graphics {
+
+class MovementPolicyBase {
+protected:
+    ~MovementPolicyBase() = default;
+};
+
+/// Where a shape stands inside its layer.
+class MoveRotatePolicy : public MovementPolicyBase {
+public:
+    math::Quaternion rotation;             ///< all zero: not turned
+    math::Point position;                  ///< world units
+    math::Vector scale{1.0, 1.0, 1.0};
+
+    void setScale(double factor) { scale = math::Vector(factor, factor, factor); }
+
+protected:
+    ~MoveRotatePolicy() = default;
+
+    void applyPlace() const; ///< translates, rotates and scales the current matrix
+};
+
+} // namespace quorva::graphics

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Framework/Graphics/ColourPolicy.h"
+#include "Framework/Graphics/MoveRotatePolicy.h"
+#include "Framework/Graphics/RenderInterface.h"
+
+namespace quorva::graphics {
+
+/// What every shape begins with: its colour, its place, its turn, its scale. A shape neither
+/// pushes nor pops the matrix: its layer does that.
+class Shape : public RenderInterface, public ColourPolicy, public MoveRotatePolicy {
+protected:
+    void begin() const {
+        applyColour1();
+        applyPlace();
+    }
+};
+
+} // namespace quorva::graphics

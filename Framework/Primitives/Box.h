@@ -1,0 +1,34 @@
+#pragma once
+
+namespace quorva::primitives {
+
+/// A rectangle, or the extents of a text, in world units.
+class Box {
+public:
+    double top = 0.0;
+    double bottom = 0.0;
+    double left = 0.0;
+    double right = 0.0;
+    double near = 0.0; ///< extents of a text only
+    double far = 0.0;
+
+    Box() = default;
+    Box(double top_, double bottom_, double left_, double right_, double near_ = 0.0,
+        double far_ = 0.0)
+        : top(top_), bottom(bottom_), left(left_), right(right_), near(near_), far(far_) {}
+
+    // Deliberate: a copy has passed through single precision. The score of a rectangle and its
+    // indicator are computed from copies, so a plain copy would change both.
+    Box(const Box& other) { *this = other; }
+    Box& operator=(const Box& other) {
+        top = static_cast<float>(other.top);
+        bottom = static_cast<float>(other.bottom);
+        left = static_cast<float>(other.left);
+        right = static_cast<float>(other.right);
+        near = static_cast<float>(other.near);
+        far = static_cast<float>(other.far);
+        return *this;
+    }
+};
+
+} // namespace quorva::primitives

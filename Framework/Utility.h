@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quorva::utility {
+
+/// Takes the white space off both ends of every string.
+void trimStringsInVector(std::vector<std::string>& strings);
+
+/// Takes out the empty strings, keeping the order of the others.
+void removeEmptyStringsFromVector(std::vector<std::string>& strings);
+
+/// The fields of `text` between characters of `separators`; a run of separators counts as one.
+std::vector<std::string> splitCompressed(const std::string& text, const char* separators);
+
+} // namespace quorva::utility
