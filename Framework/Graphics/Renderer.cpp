@@ -1,0 +1,116 @@
+#include <GL/glew.h>
+
+#include "Framework/Graphics/Renderer.h"
+
+#include "Framework/Config.h"
+#include "Framework/Entity.h"
+#include "Framework/GameInfo.h"
+#include "Framework/Constants.h"
+#include "Framework/Graphics/Camera.h"
+#include "Framework/Graphics/Draw.h"
+#include "Framework/Graphics/GraphicObject.h"
+#include "Framework/Managers/ResourceManagerManager.h"
+
+#include <SDL.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+
+namespace quorva::graphics {
+
+namespace {
+
+constexpr std::size_t usual_renderables = 500;   ///< room without an allocation
+constexpr float background_grey = 0.105882F;     ///< very dark, neutral
+constexpr int fallback_width = 800, fallback_height = 600, fallback_depth = 32;
+
+bool trySetVideoMode(int width, int height, int depth, Uint32 flags) {
+    if (SDL_SetVideoMode(width, height, depth, flags) != nullptr) return true;
+    std::cerr << "Couldn't set the video mode: " << SDL_GetError() << '\n';
+    return false;
+}
+
+void openVideoMode() {
+    const auto& config = config::Config::Instance();
+    const Uint32 flags = SDL_OPENGL | (config.getFullScreen() ? SDL_FULLSCREEN : 0U);
+    if (!trySetVideoMode(config.getScreenWidth(), config.getScreenHeight(),
+                         config.getColourDepth(), flags) &&
+        !trySetVideoMode(fallback_width, fallback_height, fallback_depth, flags))
+        std::exit(-1);
+    if (config.getFullScreen()) SDL_ShowCursor(SDL_DISABLE);
+    // After the mode, where it has no effect on this one: the context has SDL's defaults.
+    SDL_GL_SetAttribute(SDL_GL_DOUBLEBUFFER, 1);
+}
+
+void setupState() {
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
+    glClearColor(background_grey, background_grey, background_grey, 1.0F);
+    glClearAccum(0.0F, 0.0F, 0.0F, 1.0F);
+    glClear(GL_ACCUM_BUFFER_BIT);
+    glCullFace(GL_BACK);
+    draw::enableDepthTest();
+    draw::enableBlending();
+    draw::enableAlpha();
+    draw::enableCulling();
+    draw::setBlendMode(BLEND_STANDARD);
+    draw::renderSmooth();
+}
+
+void setupWindow() {
+    const char* const title = GameInfo::Instance().title.c_str();
+    SDL_WM_SetCaption(title, title);
+    SDL_Surface* const icon = SDL_LoadBMP_RW(SDL_RWFromFile("data/kov.ico", "rb"), 1);
+    SDL_WM_SetIcon(icon, nullptr);
+    SDL_FreeSurface(icon);
+}
+
+} // namespace
+
+bool RenderObjectSort::operator()(const RenderableThing* a, const RenderableThing* b) const {
+    return a->layer != b->layer ? a->layer < b->layer : a->depth < b->depth;
+}
+
+Renderer::Renderer(physics::PhysicsProcessor* physics_) : physics(physics_) {
+    subscribe<messages::ResetVideo>(this);
+    renderables.reserve(usual_renderables);
+    setupVideo();
+    glewInit();
+    setupWindow();
+}
+
+void Renderer::setupVideo() {
+    openVideoMode();
+    CameraClass& camera = Camera::Instance();
+    camera.setupProjection();
+    camera.setupFrustum();
+    setupState();
+}
+
+void Renderer::update() {
+    std::sort(renderables.begin(), renderables.end(), RenderObjectSort());
+    glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
+    for (RenderableThing* thing : renderables) thing->render();
+    SDL_GL_SwapBuffers();
+}
+
+void Renderer::addEntity(Entity* entity) {
+    for (RenderableThing* thing : entity->getGraphics()->things)
+        if (thing->active) renderables.push_back(thing);
+}
+
+void Renderer::removeEntity(Entity* entity) {
+    for (RenderableThing* thing : entity->getGraphics()->things)
+        renderables.erase(std::remove(renderables.begin(), renderables.end(), thing),
+                          renderables.end());
+}
+
+void Renderer::removeAllEntities() { renderables.clear(); }
+
+void Renderer::receiveMessage(const messages::ResetVideo*) {
+    setupVideo();
+    resources::ResourceManagerManager::Instance().load(resources::system_scope);
+}
+
+} // namespace quorva::graphics

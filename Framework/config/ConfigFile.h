@@ -1,0 +1,37 @@
+#pragma once
+
+#include <map>
+#include <stdexcept>
+#include <string>
+
+namespace quorva::config {
+
+/// The configuration file can't be read.
+class IPSError : public std::runtime_error {
+public:
+    explicit IPSError(const std::string& text) : std::runtime_error(text), message(text) {}
+
+    std::string message;
+};
+
+/// The keys and values of the configuration file, as it was when the program started. Loose in
+/// white space; '#' begins a comment line; of a key that stands twice the first counts.
+class ConfigFile {
+public:
+    /// Reads the whole file. Throws IPSError if that can't be done.
+    explicit ConfigFile(const std::string& path);
+    virtual ~ConfigFile() = default;
+
+    /// Makes the backup file, which stays empty.
+    /// @return false if it, or the file itself, can't be opened
+    virtual bool backup();
+
+    const std::map<std::string, std::string>& getKeyVals() const { return keyVals; }
+
+private:
+    void readLine(std::string line);
+
+    std::map<std::string, std::string> keyVals;
+};
+
+} // namespace quorva::config

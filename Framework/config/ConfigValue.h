@@ -1,0 +1,83 @@
+#pragma once
+
+#include <algorithm>
+#include <cstring>
+#include <string>
+#include <utility>
+#include <vector>
+
+/// A setting of three grades, given as "low", "medium" or "high".
+enum QualityE { quality_low, quality_medium, quality_high };
+
+namespace quorva::config {
+
+/// Groups the settings of the usage text.
+enum config_variable_section_e {
+    section_video,
+    section_sound,
+    section_effects,
+    section_input,
+    section_misc,
+};
+
+/// Both bounds inclusive.
+template <class T>
+struct CVRange {
+    T min;
+    T max;
+};
+
+/// The part of a setting that has no type.
+struct ConfigValueAnon {
+    char shortName;       ///< letter on the command line
+    std::string longName; ///< key in the file, and behind "--" on the command line
+    std::string description;
+    config_variable_section_e section;
+
+    bool operator==(char letter) const { return shortName == letter; }
+    bool operator==(const char* name) const { return longName == name; }
+    bool operator==(const std::string& name) const { return longName == name; }
+};
+
+/// Thrown by value when a setting is not found, or a value is refused.
+class ConfigValueException {
+public:
+    enum Reason { no_such_setting = 0, invalid_value = 1 };
+
+    explicit ConfigValueException(int reason_) : reason(reason_) {}
+
+    int reason;
+};
+
+/// One setting.
+template <class T>
+class ConfigValue : public ConfigValueAnon {
+public:
+    ConfigValue(char letter, const std::string& name, const std::string& text, T value_,
+                CVRange<T> range_, config_variable_section_e section_)
+        : ConfigValueAnon{letter, name, text, section_}, value(value_), defaultValue(value_),
+          range(range_) {}
+    ConfigValue(const ConfigValue&) = default;
+    ConfigValue& operator=(const ConfigValue&) = default;
+    virtual ~ConfigValue() = default;
+
+    void addValid(T v) { validValues.push_back(v); }
+
+    /// A list of valid values, where there is one, decides alone; else the range does.
+    bool isValid(T v) const {
+        if (validValues.empty()) return range.min <= v && v <= range.max;
+        return std::find(validValues.begin(), validValues.end(), v) != validValues.end();
+    }
+
+    void set(T v) {
+        if (!isValid(v)) throw ConfigValueException(ConfigValueException::invalid_value);
+        value = v;
+    }
+
+    T value;
+    T defaultValue;
+    CVRange<T> range;
+    std::vector<T> validValues;
+};
+
+} // namespace quorva::config

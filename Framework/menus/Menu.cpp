@@ -1,0 +1,60 @@
+#include "Framework/menus/Menu.h"
+
+#include "Framework/Graphics/Camera.h"
+#include "Framework/Graphics/GraphicObject.h"
+#include "Framework/Graphics/Stuff/GTransparentBox.h"
+#include "Framework/Graphics/Stuff/GWord.h"
+#include "Framework/Managers/ColourManager.h"
+#include "Framework/Managers/FontManager.h"
+
+namespace quorva::menus {
+
+namespace {
+
+constexpr unsigned short backdrop_index = 0, word_index = 1;
+
+primitives::Box viewBox() {
+    const auto& camera = graphics::Camera::Instance();
+    return {camera.top, camera.bottom, camera.left, camera.right};
+}
+
+const graphics::Colour* colourNamed(const char* name) {
+    return &ColourManager::Instance().getV(name);
+}
+
+} // namespace
+
+Menu::Menu(Menu* parent_)
+    : backgroundColour(colourNamed("Main Menu Background")),
+      wordOnColour(colourNamed("Main Menu Word On")),
+      wordOffColour(colourNamed("Main Menu Word Off")), titleColour(colourNamed("Menu Title")),
+      font(&FontManager::Instance().getV("Menu Font")), parent(parent_) {
+    bounds = viewBox();
+}
+
+void Menu::addBackground(const graphics::Colour* colour) {
+    background = getGraphics()->createGraphic<graphics::GTransparentBox>(backdrop_index);
+    background->box = bounds;
+    background->setColour1(colour);
+    graphics->things[backdrop_index]->layer = graphics::layer_menu_backdrop;
+}
+
+graphics::GWord* Menu::addWord(const char* text, const graphics::Colour* colour, double x,
+                               double y, double scale, int alignment) {
+    auto* const word = getGraphics()->createGraphic<graphics::GWord>(word_index);
+    graphics->things[word_index]->layer = graphics::layer_menu_text;
+    word->font = font;
+    word->setColour1(colour);
+    word->position = math::Point(x, y, word_depth);
+    word->setScale(scale);
+    word->alignment = alignment;
+    word->setWord(text);
+    return word;
+}
+
+void Menu::fitBackground() {
+    bounds = viewBox();
+    background->box = bounds;
+}
+
+} // namespace quorva::menus

@@ -1,0 +1,157 @@
+#include "game/GameBase.h"
+
+#include "Framework/Engine.h"
+#include "Framework/Graphics/Renderer.h"
+#include "Framework/Timer.h"
+#include "Framework/input/InputHandler.h"
+#include "Framework/input/KeyMapper.h"
+#include "Framework/input/MenuInputHandler.h"
+#include "Framework/menus/MainMenu.h"
+#include "Framework/physics/PhysicsProcessor.h"
+#include "game/FModMP3Input.h"
+#include "game/GameLevel.h"
+
+#include <SDL_keysym.h>
+
+#include <iostream>
+
+using namespace quorva;
+
+namespace {
+
+const math::Vector gravity(0.0, -6.0, 0.0); // nothing falls, as the physics stands
+
+/// Every action with its default key and joystick button, in the order of registration.
+const struct {
+    const char* action;
+    int key;
+    int button;
+} default_actions[] = {
+    {"Menu Select", SDLK_RETURN, 2},
+    {"Menu Escape", SDLK_ESCAPE, 8},
+    {"Game Pause", SDLK_p, input::no_button},
+    {"Up", SDLK_UP, input::no_button},
+    {"Down", SDLK_DOWN, input::no_button},
+    {"Left", SDLK_LEFT, input::no_button},
+    {"Right", SDLK_RIGHT, input::no_button},
+    {"Fire Up", SDLK_w, input::no_button},
+    {"Fire Down", SDLK_s, input::no_button},
+    {"Fire Left", SDLK_a, input::no_button},
+    {"Fire Right", SDLK_d, input::no_button},
+};
+
+} // namespace
+
+GameBase::GameBase() {
+    subscribe<messages::EndLevel>(this);
+    subscribe<messages::LoadLevel>(this);
+    subscribe<messages::MenuLoad>(this);
+    subscribe<messages::MenuUnLoad>(this);
+    subscribe<messages::EndGame>(this);
+    subscribe<PlayerDead>(this);
+
+    renderer = new graphics::Renderer(nullptr);
+    inputHandler = new input::InputHandler;
+    menuInputHandler = new input::MenuInputHandler;
+    audio = new FModMP3Input;
+    physicsProcessor = new physics::PhysicsProcessor(gravity);
+    EngineClass& engine = Engine::Instance();
+    engine.addComponent(renderer);
+    engine.addComponent(menuInputHandler);
+    engine.addComponent(audio);
+    mainMenu = engine.createEntity<menus::MainMenu>("Main Menu");
+    setDefaultKeyMapping();
+}
+
+GameBase::~GameBase() {
+    Component* const components[] = {renderer, inputHandler, menuInputHandler, physicsProcessor,
+                                     audio};
+    for (Component* component : components) Engine::Instance().delComponent(component);
+    for (Component* component : components) delete component;
+}
+
+void GameBase::setDefaultKeyMapping() {
+    input::KeyMapperClass& keys = input::KeyMapper::Instance();
+    for (const auto& row : default_actions)
+        keys.addMappableKey(row.action, static_cast<input::QuorvaKey>(row.key),
+                            static_cast<input::QuorvaJKey>(row.button), 0);
+    keys.readBindFiles();
+}
+
+void GameBase::receiveMessage(const messages::LoadLevel* m) {
+    if (m->endCurrentLevel) publish(messages::EndLevel());
+    if (level == nullptr)
+        startGame();
+    else
+        std::cerr << "Can't load level. Another level is already open\n";
+}
+
+void GameBase::startGame() {
+    if (!loadLevel()) return;
+    mainMenu->hide();
+    EngineClass& engine = Engine::Instance();
+    engine.delComponent(menuInputHandler);
+    engine.addComponent(inputHandler);
+    engine.addComponent(physicsProcessor);
+    renderer->physics = physicsProcessor;
+    Timer::Instance().reset();
+}
+
+bool GameBase::loadLevel() {
+    try {
+        level = Engine::Instance().createEntity<GameLevel>("Level");
+        return true;
+    } catch (...) {
+        level = nullptr;
+        std::cerr << "Invalid level\n";
+        return false;
+    }
+}
+
+void GameBase::unLoadLevel() {
+    publish(StopSong());
+    audio->stopSong();
+    if (level == nullptr) return;
+    level->dead = true;
+    level = nullptr;
+    EngineClass& engine = Engine::Instance();
+    engine.delComponent(inputHandler);
+    engine.addComponent(menuInputHandler);
+    engine.delComponent(physicsProcessor);
+    renderer->physics = nullptr;
+    Timer::Instance().unPauseGame(); // paused or not: the next game resets the clock
+}
+
+void GameBase::receiveMessage(const messages::EndLevel*) {
+    unLoadLevel();
+    mainMenu->show(menus::menu_load_normal);
+    if (!gameOverPending) return;
+    mainMenu->showGOScreen();
+    gameOverPending = false;
+}
+
+void GameBase::receiveMessage(const PlayerDead* m) {
+    if (m->gameOver) gameOverPending = true;
+}
+
+void GameBase::receiveMessage(const messages::EndGame*) {
+    dead = true;
+    mainMenu->dead = true;
+}
+
+void GameBase::receiveMessage(const messages::MenuLoad* m) {
+    if (level == nullptr || !m->active) return;
+    menuUp = true;
+    Timer::Instance().pauseGame();
+    Engine::Instance().delComponent(inputHandler);
+    Engine::Instance().addComponent(menuInputHandler);
+    mainMenu->show(menus::menu_load_pause);
+}
+
+void GameBase::receiveMessage(const messages::MenuUnLoad* m) {
+    if (level == nullptr || !m->active) return;
+    Engine::Instance().delComponent(menuInputHandler);
+    Engine::Instance().addComponent(inputHandler);
+    mainMenu->hide();
+    Timer::Instance().pauseGame(); // deliberate: the level stays frozen until the pause key
+}

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "Framework/Game.h"
+#include "Framework/MessageInterface.h"
+#include "Framework/Messages.h"
+
+class FModMP3Input;
+class GameLevel;
+
+namespace quorva {
+namespace graphics {
+class Renderer;
+}
+namespace input {
+class InputHandler;
+class MenuInputHandler;
+} // namespace input
+namespace menus {
+class MainMenu;
+}
+namespace physics {
+class PhysicsProcessor;
+}
+} // namespace quorva
+
+/// The one game object that `main` makes: it owns the components and decides which are active,
+/// and so switches between menu and level. It holds no rules of play.
+class GameBase : public quorva::Game,
+                 public quorva::MessageInterface<quorva::messages::EndLevel>,
+                 public quorva::MessageInterface<quorva::messages::LoadLevel>,
+                 public quorva::MessageInterface<quorva::messages::MenuLoad>,
+                 public quorva::MessageInterface<quorva::messages::MenuUnLoad>,
+                 public quorva::MessageInterface<quorva::messages::EndGame>,
+                 public quorva::MessageInterface<PlayerDead> {
+public:
+    GameBase(); ///< opens the window, the main menu and the key table
+    ~GameBase() override;
+
+    void process() override {}
+    void update() override {}
+
+    void receiveMessage(const quorva::messages::EndLevel*) override;
+    void receiveMessage(const quorva::messages::LoadLevel* m) override;
+    void receiveMessage(const quorva::messages::MenuLoad* m) override;
+    void receiveMessage(const quorva::messages::MenuUnLoad* m) override;
+    void receiveMessage(const quorva::messages::EndGame*) override;
+    void receiveMessage(const PlayerDead* m) override;
+
+    void setDefaultKeyMapping(); ///< the actions' defaults, then the bind file
+
+    GameLevel* level = nullptr; ///< null in the menu; the engine owns it
+    bool menuUp = true;
+    quorva::menus::MainMenu* mainMenu = nullptr; ///< for the whole run; the engine owns it
+    // The components, owned. They outlive every level: a level ends inside their own sweep.
+    quorva::graphics::Renderer* renderer;
+    quorva::input::InputHandler* inputHandler;
+    quorva::input::MenuInputHandler* menuInputHandler;
+    quorva::physics::PhysicsProcessor* physicsProcessor;
+    FModMP3Input* audio;
+    bool gameOverPending = false; ///< the level that ends next was lost
+
+private:
+    void startGame();
+    bool loadLevel(); ///< @return false, with a line on standard error, if it threw
+    void unLoadLevel();
+};

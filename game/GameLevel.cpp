@@ -1,0 +1,248 @@
+#include "game/GameLevel.h"
+
+#include "Framework/Engine.h"
+#include "Framework/Graphics/Camera.h"
+#include "Framework/Graphics/GraphicObject.h"
+#include "Framework/Graphics/Stuff/GBox.h"
+#include "Framework/Graphics/Stuff/GWord.h"
+#include "Framework/Managers/ColourManager.h"
+#include "Framework/Managers/FontManager.h"
+#include "Framework/Timer.h"
+#include "Framework/math/MTRand.h"
+#include "game/Border.h"
+#include "game/BombClear.h"
+#include "game/BombImmune.h"
+#include "game/CDLineIcon.h"
+#include "game/Marvo.h"
+#include "game/PUPLineIcon.h"
+#include "game/PlayerCharacter.h"
+#include "game/PupCooldown.h"
+#include "game/PupLine.h"
+#include "game/Triangle.h"
+
+#include <algorithm>
+
+using namespace quorva;
+
+namespace {
+
+math::MTRand_int32 Rand;
+
+/// A fresh draw in [0, 1). Two draws never share an expression: their order is the game.
+double draw() { return math::randomFraction(Rand); }
+
+constexpr double first_spawn_base = 0.995, highest_threshold = 0.995;
+constexpr double spawn_bonus_step = 0.001;
+constexpr double death_spawn_step = 0.00025, death_size_step = 0.025;
+constexpr std::uint16_t longest_spawn_gap = 50;     // ticks
+constexpr std::uint32_t difficulty_interval = 650;  // ticks
+constexpr std::uint16_t bomb_interval = 499;        // ticks; one above it drops a bomb
+constexpr std::uint16_t power_up_interval = 15;     // triangles; one above it drops a power-up
+constexpr double drop_width = 35.0, drop_height = 25.0; // world units about the origin
+constexpr double spawn_distance = 5.0;                  // world units outside the view
+constexpr double fastest = 10.0;
+constexpr double smallest = 0.45, largest = 2.25;
+
+constexpr double word_depth = 0.1F; // single precision, widened
+constexpr double display_height = 14.0, icon_height = 14.25, pause_scale = 1.5;
+
+math::Point dropPoint() {
+    const double x = (draw() - 0.5) * drop_width;
+    const double y = (draw() - 0.5) * drop_height;
+    return {x, y, 0.0};
+}
+
+} // namespace
+
+GameLevel::GameLevel() : spawnBase(first_spawn_base) {
+    subscribe<PlayerDead>(this);
+    subscribe<messages::PlayerInput>(this);
+    player = Engine::Instance().createEntity<PlayerCharacter>("Player", position);
+    Marvo::Instance().reset();
+    Marvo::Instance().player = player;
+    getGraphics()->getBaseLayer()->layer = graphics::layer_world;
+    Rand.seed(Timer::Instance().getTicks()); // this is why games differ
+    createDisplay();
+    createPauseOverlay();
+    spawnTriangle();
+    publish(PlaySong());
+    Engine::Instance().createEntity<Border>("The Border");
+}
+
+graphics::GWord* GameLevel::addWord(unsigned short layer, const char* text, double x, double y,
+                                    int alignment, double scale) {
+    auto* const word = getGraphics()->createGraphic<graphics::GWord>(layer);
+    word->font = &FontManager::Instance().getV("Menu Font");
+    word->setColour1(&ColourManager::Instance().getV("Score Font"));
+    word->position = math::Point(x, y, word_depth);
+    word->setScale(scale);
+    word->alignment = alignment;
+    word->setWord(text);
+    return word;
+}
+
+void GameLevel::createDisplay() {
+    const auto add = [this](const char* text, double x, int alignment) {
+        return addWord(0, text, x, display_height, alignment, 1.0);
+    };
+    scoreWord = add("0", 0.0, graphics::ALIGN_CENTRE);
+    livesWord = add("1UP!     3   lives", -19.0, graphics::ALIGN_LEFT);
+    nextLifeWord = add("Next Life 50000", 10.0, graphics::ALIGN_LEFT);
+    linePupWord = add("0", -9.0, graphics::ALIGN_LEFT);
+    cooldownPupWord = add("0", -7.0, graphics::ALIGN_LEFT);
+
+    const graphics::Colour& colour = ColourManager::Instance().getV("Score Font");
+    lineIcon = getGraphics()->createGraphic<PUPLineIcon>(0);
+    lineIcon->position = math::Point(-8.0, icon_height, word_depth);
+    lineIcon->setColour1(&colour);
+    cooldownIcon = getGraphics()->createGraphic<CDLineIcon>(0);
+    cooldownIcon->position = math::Point(-6.0, icon_height, word_depth);
+    cooldownIcon->setColour1(&colour);
+}
+
+void GameLevel::createPauseOverlay() {
+    const unsigned short layer = getGraphics()->createNewLayer();
+    graphics->things[layer]->layer = graphics::layer_menu_text;
+    const auto& camera = graphics::Camera::Instance();
+    pauseBox = getGraphics()->createGraphic<graphics::GBox>(layer);
+    pauseBox->box = primitives::Box(camera.top, camera.bottom, camera.left, camera.right);
+    pauseBox->setColour1(&ColourManager::Instance().getV("Pause BG"));
+    pauseBox->deactivate();
+    pauseWord = addWord(layer, "Paused!", 0.0, 0.0, graphics::ALIGN_CENTRE, pause_scale);
+    pauseWord->deactivate();
+}
+
+void GameLevel::process() {
+    spawnByChance();
+    raiseDifficulty();
+    dropBomb();
+    dropPowerUp();
+    refreshDisplay();
+}
+
+void GameLevel::spawnByChance() {
+    const double threshold =
+        std::min(spawnBase - spawnBonus + deathSpawnPenalty, highest_threshold);
+    if (draw() > threshold)
+        spawnTriangle();
+    else
+        ++ticksSinceSpawn;
+    if (ticksSinceSpawn > longest_spawn_gap) spawnTriangle();
+}
+
+void GameLevel::raiseDifficulty() {
+    const std::uint32_t t = tickCount++;
+    if (t <= levelNumber * difficulty_interval) return;
+    ++levelNumber;
+    spawnBonus += spawn_bonus_step;
+}
+
+void GameLevel::dropBomb() {
+    if (++ticksSinceBomb <= bomb_interval) return;
+    ticksSinceBomb = 0;
+    const math::Point place = dropPoint();
+    if (draw() >= 0.5)
+        Engine::Instance().createEntity<BombClear>("Clear Bomb", place);
+    else
+        Engine::Instance().createEntity<BombImmune>("Immune Bomb", place);
+}
+
+void GameLevel::dropPowerUp() {
+    if (trianglesSincePowerUp <= power_up_interval) return;
+    const bool longerLines = draw() < 0.5;
+    const math::Point place = dropPoint();
+    if (longerLines)
+        Engine::Instance().createEntity<PupLine>("Line Powerup", place);
+    else
+        Engine::Instance().createEntity<PupCooldown>("Cooldown Powerup", place);
+    trianglesSincePowerUp = 0;
+}
+
+void GameLevel::refreshDisplay() {
+    // Straight into the text: a word stays where its start text stood, and grows to the right.
+    const MarvoClass& marvo = Marvo::Instance();
+    scoreWord->word = std::to_string(marvo.score);
+    livesWord->word = "1UP!     " + std::to_string(marvo.lives) + "   lives";
+    nextLifeWord->word = "Next    Life    " + std::to_string(marvo.getNextLife());
+    linePupWord->word = std::to_string(marvo.numLinePUPS());
+    cooldownPupWord->word = std::to_string(marvo.numCDPUPS());
+}
+
+math::Point GameLevel::spawnPoint() const {
+    const auto& camera = graphics::Camera::Instance();
+    const double left = static_cast<float>(camera.left), right = static_cast<float>(camera.right);
+    const double top = static_cast<float>(camera.top), bottom = static_cast<float>(camera.bottom);
+    const auto beyond = [](double edge, double sign) {
+        return edge + sign * spawn_distance + sign * spawn_distance * draw();
+    };
+    const auto along = [](double half) { return 2.0 * (draw() - 0.5) * half; };
+    const double side = draw();
+    math::Point p;
+    if (side < 0.25) { // above
+        p.x = along(right);
+        p.y = beyond(top, 1.0);
+    } else if (side < 0.5) { // below
+        p.x = along(right);
+        p.y = beyond(bottom, -1.0);
+    } else if (side < 0.75) { // left
+        p.x = beyond(left, -1.0);
+        p.y = along(top);
+    } else { // right
+        p.x = beyond(right, 1.0);
+        p.y = along(top);
+    }
+    return p;
+}
+
+double GameLevel::spawnSpeed() const {
+    const int level = levelNumber - 1;
+    const double byLevel = level * (1.0 + 0.5 * draw());
+    const double speed = byLevel + 2.0 * (draw() - 0.25);
+    return speed > fastest ? fastest - draw() : speed;
+}
+
+double GameLevel::spawnSize() const {
+    double size = levelNumber / 15.0 + 1.0 + 2.0 * (draw() - 0.5) - deathSizePenalty;
+    if (size < smallest) size += 1.0; // once: a very small one stays small
+    if (size > largest) size = largest - 0.25 * draw();
+    return size;
+}
+
+void GameLevel::spawnTriangle() {
+    const math::Point place = spawnPoint();
+    const double speed = spawnSpeed();
+    const double size = spawnSize();
+    ++trianglesSincePowerUp;
+    Engine::Instance().createEntity<Triangle>("Triangle", place, speed, size);
+    ticksSinceSpawn = 0;
+}
+
+void GameLevel::receiveMessage(const PlayerDead*) {
+    deathSpawnPenalty += death_spawn_step;
+    deathSizePenalty += death_size_step;
+}
+
+void GameLevel::receiveMessage(const messages::PlayerInput* m) {
+    if (dead || !m->pause) return;
+    if (Timer::Instance().paused)
+        resume();
+    else
+        pause();
+}
+
+void GameLevel::pause() {
+    publish(SoundPause());
+    pauseBox->activate();
+    pauseWord->activate();
+    Timer::Instance().pauseGame();
+    PauseGame message;
+    message.paused = true;
+    publish(message);
+}
+
+void GameLevel::resume() {
+    pauseBox->deactivate();
+    pauseWord->deactivate();
+    Timer::Instance().unPauseGame();
+    publish(PauseGame());
+}

@@ -1,0 +1,56 @@
+#include "game/TriangleExplodeLine.h"
+
+#include "Framework/Graphics/Camera.h"
+#include "Framework/Graphics/GraphicObject.h"
+#include "Framework/Graphics/Stuff/GLine.h"
+#include "Framework/Managers/ColourManager.h"
+#include "Framework/math/MTRand.h"
+#include "Framework/physics/PhysicsObject.h"
+
+using namespace quorva;
+
+namespace {
+
+math::MTRand_int32 Rand;
+
+constexpr double drift_divisor = 10.0; // acceleration: a tenth of a world unit
+constexpr double field_margin = 5.0;   // world units outside the field at which it ends
+constexpr double spin_range = 20.0;    // degrees per tick
+constexpr float line_width = 4.0F;
+
+} // namespace
+
+TriangleExplodeLine::TriangleExplodeLine(const math::Point& position, const math::Point& start_,
+                                         const math::Point& end_, const math::Vector& drift_)
+    : start(start_), end(end_), drift(drift_) {
+    subscribe<messages::EndLevel>(this);
+    physics = new physics::PhysicsObject(position, false, false, false, false);
+    drift.x /= drift_divisor;
+    drift.y /= drift_divisor;
+
+    graphics::RenderableThing* const base = getGraphics()->getBaseLayer();
+    base->layer = graphics::layer_world;
+    base->position = &physics->position;
+    base->rotation = &rotation;
+    line = base->createGraphic<GLine>();
+    line->start = start;
+    line->end = end;
+    line->lineWidth = line_width;
+    line->setColour1(&ColourManager::Instance().getV("Badguy Colour"));
+}
+
+bool TriangleExplodeLine::isFarOutside() const {
+    const auto& camera = graphics::Camera::Instance();
+    const math::Point& p = physics->position;
+    return p.y > static_cast<float>(camera.top) + field_margin ||
+           p.y < static_cast<float>(camera.bottom) - field_margin ||
+           p.x > static_cast<float>(camera.right) + field_margin ||
+           p.x < static_cast<float>(camera.left) - field_margin;
+}
+
+void TriangleExplodeLine::process() {
+    physics->accelerate(drift);
+    if (isFarOutside()) dead = true;
+    spinAngle += math::randomFraction(Rand) * spin_range;
+    math::rotate(spinAngle, math::z_axis, rotation);
+}

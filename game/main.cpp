@@ -1,0 +1,45 @@
+#include "Framework/Config.h"
+#include "Framework/Constants.h"
+#include "Framework/GameInfo.h"
+#include "game/GameBase.h"
+
+#include <SDL.h>
+
+#include <iostream>
+
+using namespace quorva;
+
+namespace {
+
+void introduceGame() {
+    GameInfoClass& info = GameInfo::Instance();
+    info.name = "KOV";
+    info.title = "KOV";
+    info.version = "1.0";
+    info.homeDirectory = ".kov";
+    info.configFile = STARTING_PATH + "game.conf";
+}
+
+/// Reads every argument, also after a bad one.
+/// @return whether the game is to start
+bool readArguments(int argc, char* argv[]) {
+    bool good = true;
+    for (int i = 1; i < argc; ++i)
+        if (!config::Config::Instance().parseCmdLineArgs(argv[0], argv[i])) good = false;
+    return good;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    introduceGame();
+    config::Config::Instance().setDefaults();
+    config::Config::Instance().readFile();
+    if (SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK) < 0)
+        std::cerr << "Can't init the input handler\n"; // what needs it fails later, with a reason
+    if (!readArguments(argc, argv)) return 0;
+    config::Config::Instance().activateConfig();
+    GameBase game;
+    game.mainLoop();
+    return 0;
+}
