@@ -63,12 +63,14 @@ void storeFlag(ConfigValuesT& table, const std::string& name, bool v, bool defau
 
 } // namespace
 
-void writeSetValueError(const std::string& name) { std::cerr << "Couldn't set " << name << '\n'; }
+void writeSetValueError(const std::string& name) {
+    std::cerr << "Couldn't set " << name << '\n';
+}
 
 int numberFromText(const char* text) {
     const long number = std::strtol(text, nullptr, 10);
-    return static_cast<int>(std::clamp<long>(number, std::numeric_limits<int>::min(),
-                                             std::numeric_limits<int>::max()));
+    return static_cast<int>(
+        std::clamp<long>(number, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
 ConfigClass::ConfigClass() {
@@ -86,7 +88,9 @@ void ConfigClass::activateConfig() {
     configured = true;
 }
 
-bool ConfigClass::configActivated() const { return *activatedValues == *configValues; }
+bool ConfigClass::configActivated() const {
+    return *activatedValues == *configValues;
+}
 
 void ConfigClass::setDefaults() {
     for (const ConfigValueAnon* setting : configValues->getAnonNames())
@@ -125,42 +129,70 @@ void storeText(ConfigValuesT& table, Key key, const char* text) {
 
 } // namespace
 
-void ConfigClass::setSomeValue(char key, const char* text) { storeText(*configValues, key, text); }
+void ConfigClass::setSomeValue(char key, const char* text) {
+    storeText(*configValues, key, text);
+}
 void ConfigClass::setSomeValue(const char* key, const char* text) {
     storeText(*configValues, key, text);
 }
 
-unsigned short ConfigClass::getScreenWidth() const { return numberOr(*activatedValues, 'w', 800); }
+unsigned short ConfigClass::getScreenWidth() const {
+    return numberOr(*activatedValues, 'w', 800);
+}
 unsigned short ConfigClass::getScreenHeight() const {
     return numberOr(*activatedValues, 'l', 600);
 }
 unsigned short ConfigClass::getColourDepth() const {
     return numberOr(*activatedValues, 'c', 600); // deliberate: its neighbour's fallback
 }
-bool ConfigClass::getFullScreen() const { return flagOr(*activatedValues, 'f', false); }
-bool ConfigClass::getAntiAlias() const { return flagOr(*activatedValues, 'a', true); }
-bool ConfigClass::getCompatibility() const { return flagOr(*activatedValues, 'o', true); }
-unsigned short ConfigClass::getRate() const { return numberOr(*activatedValues, 'r', 41000); }
+bool ConfigClass::getFullScreen() const {
+    return flagOr(*activatedValues, 'f', false);
+}
+bool ConfigClass::getAntiAlias() const {
+    return flagOr(*activatedValues, 'a', true);
+}
+bool ConfigClass::getCompatibility() const {
+    return flagOr(*activatedValues, 'o', true);
+}
+unsigned short ConfigClass::getRate() const {
+    return numberOr(*activatedValues, 'r', 41000);
+}
 unsigned short ConfigClass::getSoftwareChannels() const {
     return numberOr(*activatedValues, 'n', 40);
 }
-bool ConfigClass::getJoyStickSupport() const { return flagOr(*activatedValues, 'j', true); }
+bool ConfigClass::getJoyStickSupport() const {
+    return flagOr(*activatedValues, 'j', true);
+}
 unsigned short ConfigClass::getActiveJoystick() const {
     return numberOr(*activatedValues, 'k', 0);
 }
 unsigned short ConfigClass::getJoystickSensitivity() const {
     return numberOr(*activatedValues, 'y', 3200);
 }
-bool ConfigClass::getInvertJoystick() const { return flagOr(*activatedValues, 'e', false); }
-bool ConfigClass::getIgnoreTime() const { return flagOr(*activatedValues, 'x', false); }
-bool ConfigClass::getPlayMusic() const { return flagOr(*activatedValues, 'm', true); }
-bool ConfigClass::getPlaySound() const { return flagOr(*activatedValues, 's', true); }
-unsigned short ConfigClass::getMusicVolume() const { return numberOr(*activatedValues, 'h', 100); }
-unsigned short ConfigClass::getFXVolume() const { return numberOr(*activatedValues, 'g', 100); }
+bool ConfigClass::getInvertJoystick() const {
+    return flagOr(*activatedValues, 'e', false);
+}
+bool ConfigClass::getIgnoreTime() const {
+    return flagOr(*activatedValues, 'x', false);
+}
+bool ConfigClass::getPlayMusic() const {
+    return flagOr(*activatedValues, 'm', true);
+}
+bool ConfigClass::getPlaySound() const {
+    return flagOr(*activatedValues, 's', true);
+}
+unsigned short ConfigClass::getMusicVolume() const {
+    return numberOr(*activatedValues, 'h', 100);
+}
+unsigned short ConfigClass::getFXVolume() const {
+    return numberOr(*activatedValues, 'g', 100);
+}
 unsigned short ConfigClass::getCollisionAccuracy() const {
     return numberOr(*activatedValues, 'z', 10);
 }
-bool ConfigClass::getSaveCPU() const { return flagOr(*activatedValues, 'u', false); }
+bool ConfigClass::getSaveCPU() const {
+    return flagOr(*activatedValues, 'u', false);
+}
 
 void ConfigClass::setScreenWidth(unsigned short v) {
     storeNumber(*configValues, 'w', default_screen_width_ln, v, 800, spaced_tail);
@@ -200,7 +232,9 @@ void ConfigClass::setJoystickSupport(bool v) {
 void ConfigClass::setFullScreen(bool v) {
     storeFlag(*configValues, default_fullscreen_ln, v, false);
 }
-void ConfigClass::setAntiAlias(bool v) { storeFlag(*configValues, default_antialias_ln, v, true); }
+void ConfigClass::setAntiAlias(bool v) {
+    storeFlag(*configValues, default_antialias_ln, v, true);
+}
 void ConfigClass::setCompatibility(bool v) {
     storeFlag(*configValues, default_compatibility_ln, v, true);
 }
@@ -216,6 +250,8 @@ void ConfigClass::setPlayMusic(bool v) {
 void ConfigClass::setPlaySound(bool v) {
     storeFlag(*configValues, default_play_sound_ln, v, true);
 }
-void ConfigClass::setSaveCPU(bool v) { storeFlag(*configValues, default_save_cpu_ln, v, false); }
+void ConfigClass::setSaveCPU(bool v) {
+    storeFlag(*configValues, default_save_cpu_ln, v, false);
+}
 
 } // namespace quorva::config

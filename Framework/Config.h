@@ -19,9 +19,9 @@ public:
     ConfigClass(); ///< reads the configuration file, if there is one, without taking it over yet
     virtual ~ConfigClass() = default;
 
-    virtual void readFile();   ///< takes the file's values over, and activates
+    virtual void readFile(); ///< takes the file's values over, and activates
     virtual void activateConfig();
-    virtual void saveConfig(); ///< writes the activated settings
+    virtual void saveConfig();            ///< writes the activated settings
     virtual bool configActivated() const; ///< no pending change awaits activation
 
     /// Takes one argument over. A bad one is answered with the usage message.
@@ -64,8 +64,8 @@ public:
     virtual void setPlayMusic(bool v);
     virtual void setPlaySound(bool v);
 
-    unsigned short getMusicVolume() const; ///< 0 to 100
-    unsigned short getFXVolume() const;    ///< 0 to 100
+    unsigned short getMusicVolume() const;       ///< 0 to 100
+    unsigned short getFXVolume() const;          ///< 0 to 100
     unsigned short getCollisionAccuracy() const; ///< sub-steps of a tick
     bool getSaveCPU() const;
     void setMusicVolume(unsigned short v);
@@ -92,7 +92,7 @@ public:
         setSomeValue(key.c_str(), text.c_str());
     }
 
-    std::unique_ptr<ConfigFile> file;              ///< null if it could not be read
+    std::unique_ptr<ConfigFile> file;               ///< null if it could not be read
     std::unique_ptr<ConfigValuesT> configValues;    ///< pending
     std::unique_ptr<ConfigValuesT> activatedValues; ///< what the game reads
     bool configured = false;
@@ -100,8 +100,8 @@ public:
 
 using Config = DefaultSingleton<ConfigClass>;
 
-void writeSetValueError(const std::string& name);  ///< on standard error
-void writeUsageMessage(const char* programName); ///< on standard error
+void writeSetValueError(const std::string& name); ///< on standard error
+void writeUsageMessage(const char* programName);  ///< on standard error
 
 /// Number at the head of `text`, 0 if there is none; one beyond the range of an int is cut to it.
 int numberFromText(const char* text);

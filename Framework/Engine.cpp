@@ -11,8 +11,8 @@ namespace {
 /// Live entities end with the process: their destructors would reach for services that have
 /// gone. Held here they stay reachable, so that a leak checker can tell them from leaks.
 void keepUntilProcessEnds(EngineClass::Entities entities) {
-    static EngineClass::Entities* kept = nullptr;
-    kept = new EngineClass::Entities(std::move(entities));
+    static std::vector<EngineClass::Entities>* const kept = new std::vector<EngineClass::Entities>;
+    kept->push_back(std::move(entities));
 }
 
 } // namespace
@@ -27,7 +27,8 @@ unsigned long EngineClass::addEntity(Entity* e) {
     if (e == nullptr || e->id != 0) return 0;
     const unsigned long id = nextId++;
     entities.insert({id, e});
-    for (std::size_t i = 0; i < components.size(); ++i) components[i]->addEntity(e);
+    for (std::size_t i = 0; i < components.size(); ++i)
+        components[i]->addEntity(e);
     return id;
 }
 
@@ -37,7 +38,8 @@ Entity* EngineClass::getEntity(unsigned long id) const {
 }
 
 void EngineClass::delEntity(Entities::iterator node) {
-    for (std::size_t i = 0; i < components.size(); ++i) components[i]->removeEntity(node->second);
+    for (std::size_t i = 0; i < components.size(); ++i)
+        components[i]->removeEntity(node->second);
     delete node->second;
 }
 
@@ -48,7 +50,8 @@ bool EngineClass::isActive(const Component* c) const {
 void EngineClass::addComponent(Component* c) {
     if (c == nullptr || isActive(c)) return;
     components.push_back(c);
-    for (const auto& [id, entity] : entities) c->addEntity(entity); // it joins late
+    for (const auto& [id, entity] : entities)
+        c->addEntity(entity); // it joins late
 }
 
 void EngineClass::delComponent(Component* c) {
@@ -70,13 +73,15 @@ void EngineClass::update() {
 
 void EngineClass::runEntities(void (Entity::*beat)()) {
     // One that is born in the sweep has the highest id, so the sweep still comes to it.
-    for (const auto& [id, entity] : entities) (entity->*beat)();
+    for (const auto& [id, entity] : entities)
+        (entity->*beat)();
 }
 
 void EngineClass::runComponents(void (Component::*beat)()) {
     // By position: a component may add and remove components, itself among them.
     const std::size_t bound = components.size();
-    for (std::size_t i = 0; i < bound && i < components.size(); ++i) (components[i]->*beat)();
+    for (std::size_t i = 0; i < bound && i < components.size(); ++i)
+        (components[i]->*beat)();
 }
 
 void EngineClass::cleanupDeadEntities() {

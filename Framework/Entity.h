@@ -27,12 +27,12 @@ public:
     graphics::GraphicObject* getGraphics();
     void createGraphicObjectIfNoneExist();
 
-    unsigned long id = 0;                       ///< the engine's key; 0 until registered
+    unsigned long id = 0;                        ///< the engine's key; 0 until registered
     graphics::GraphicObject* graphics = nullptr; ///< owned, may be null
-    physics::PhysicsObject* physics = nullptr;  ///< owned, may be null
-    bool dead = false;                          ///< the engine deletes it at the next tick
-    bool visible = true;                        ///< a menu listens to keys only while this is set
-    std::uint32_t creationTicks;                ///< ms of game time
+    physics::PhysicsObject* physics = nullptr;   ///< owned, may be null
+    bool dead = false;                           ///< the engine deletes it at the next tick
+    bool visible = true;                         ///< a menu listens to keys only while this is set
+    std::uint32_t creationTicks;                 ///< ms of game time
 };
 
 } // namespace quorva

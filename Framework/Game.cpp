@@ -21,7 +21,9 @@ void rest(const TimerClass& timer) {
 
 } // namespace
 
-Game::~Game() { SDL_Quit(); }
+Game::~Game() {
+    SDL_Quit();
+}
 
 void Game::mainLoop() {
     TimerClass& timer = Timer::Instance();

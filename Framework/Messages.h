@@ -17,7 +17,6 @@ struct PauseGame {
     bool paused = false;
 };
 
-
 // One for each sound effect.
 struct SoundBullet {};
 struct SoundBuletHit {}; ///< spelt so since its first day
@@ -64,8 +63,8 @@ struct MenuUnLoad {
 
 /// What the player at the keys wants.
 struct PlayerInput {
-    math::Vector move; ///< held until keys change; only the signs of x and y are read
-    math::Vector fire; ///< x and y each -1, 0 or +1; for this message only
+    math::Vector move;  ///< held until keys change; only the signs of x and y are read
+    math::Vector fire;  ///< x and y each -1, 0 or +1; for this message only
     bool pause = false; ///< for this message only
     std::uint16_t player = 0;
 };

@@ -22,9 +22,13 @@ void TimerClass::reset() {
     correction = 0;
 }
 
-std::uint32_t TimerClass::getTicks() const { return SDL_GetTicks() - startTicks - correction; }
+std::uint32_t TimerClass::getTicks() const {
+    return SDL_GetTicks() - startTicks - correction;
+}
 
-bool TimerClass::isItTimeToProcess() const { return SDL_GetTicks() - lastBlip >= processRate; }
+bool TimerClass::isItTimeToProcess() const {
+    return SDL_GetTicks() - lastBlip >= processRate;
+}
 
 std::uint16_t TimerClass::getTimeUntilNextProcess() const {
     return static_cast<std::uint16_t>(processRate + lastBlip - SDL_GetTicks());
@@ -35,7 +39,9 @@ void TimerClass::calculateLastBlip() {
     ++blips;
 }
 
-void TimerClass::correct(unsigned long t) { correction += static_cast<std::uint32_t>(t); }
+void TimerClass::correct(unsigned long t) {
+    correction += static_cast<std::uint32_t>(t);
+}
 
 void TimerClass::pauseGame() {
     pauseStart = SDL_GetTicks();

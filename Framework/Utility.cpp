@@ -5,7 +5,8 @@
 namespace quorva::utility {
 
 void trimStringsInVector(std::vector<std::string>& strings) {
-    for (std::string& text : strings) boost::algorithm::trim(text);
+    for (std::string& text : strings)
+        boost::algorithm::trim(text);
 }
 
 void removeEmptyStringsFromVector(std::vector<std::string>& strings) {

@@ -33,4 +33,6 @@ const PageLine lines[] = {
 
 } // namespace
 
-AboutMenu::AboutMenu() { addPageLines(*this, std::begin(lines), std::end(lines)); }
+AboutMenu::AboutMenu() {
+    addPageLines(*this, std::begin(lines), std::end(lines));
+}

@@ -48,7 +48,8 @@ ArrowIndicator::ArrowIndicator(const math::Point* follow_, double angle_, double
 }
 
 void ArrowIndicator::showUpTo(unsigned int n) {
-    for (unsigned int k = 0; k < chevron_count; ++k) cheverons[k]->active = k < n;
+    for (unsigned int k = 0; k < chevron_count; ++k)
+        cheverons[k]->active = k < n;
 }
 
 void ArrowIndicator::fire() {

@@ -36,7 +36,7 @@ public:
     double offset;
     bool firing = false;
     bool restoring = false;
-    quorva::math::Point firedFrom; ///< where the player died
+    quorva::math::Point firedFrom;                                        ///< where the player died
     boost::array<double, chevron_count> outward = {{0.0, 0.0, 0.0, 0.0}}; ///< speed when firing
     boost::array<double, chevron_count> inward = {{0.0, 0.0, 0.0, 0.0}};  ///< when restoring
     std::uint16_t restoreTicks = 0;

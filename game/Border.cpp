@@ -11,9 +11,9 @@ using namespace quorva;
 
 namespace {
 
-constexpr double inset = 0.1;          // of the segments from the edge, world units
-constexpr double width_share = 0.1;    // line width, by the field's width
-constexpr double margin_share = 0.25;  // reach of the radar, by the field's width
+constexpr double inset = 0.1;         // of the segments from the edge, world units
+constexpr double width_share = 0.1;   // line width, by the field's width
+constexpr double margin_share = 0.25; // reach of the radar, by the field's width
 
 /// Segment at `value` along a side from `low` to `high`; what is outside counts to the last one.
 unsigned int segmentAt(double value, double low, double high) {
@@ -78,7 +78,7 @@ void Border::addSegments(Side side, const math::Point& first, const math::Vector
 void Border::process() {
     darken();
     const Field field;
-    for (const auto& [id, entity] : Engine::Instance().entities)
+    for (const auto& [key, entity] : Engine::Instance().entities)
         if (entity->physics != nullptr) notice(entity->physics->position, field);
 }
 

@@ -29,8 +29,8 @@ Bullet::Bullet(math::Point position, const math::Vector& velocity)
     base->layer = graphics::layer_bullets;
     base->position = &physics->position;
     base->rotation = &rotation;
-    for (const math::Point& arm : {math::Point(arm_length, 0.0, 0.0),
-                                   math::Point(0.0, arm_length, 0.0)}) {
+    for (const math::Point& arm :
+         {math::Point(arm_length, 0.0, 0.0), math::Point(0.0, arm_length, 0.0)}) {
         auto* const line = base->createGraphic<GLine>();
         line->start = arm * -1.0;
         line->end = arm;
@@ -69,4 +69,6 @@ void Bullet::process() {
     if (colour.alpha() <= 0.0F) dead = true;
 }
 
-void Bullet::update() { noticeHit(); }
+void Bullet::update() {
+    noticeHit();
+}

@@ -53,7 +53,8 @@ void ConvergingLines::addLine(std::size_t i, double halfLength) {
 }
 
 void ConvergingLines::process() {
-    for (std::size_t i = 0; i < positions.size(); ++i) positions[i] += velocities[i];
+    for (std::size_t i = 0; i < positions.size(); ++i)
+        positions[i] += velocities[i];
     colour.setAlpha(colour.alpha() - fadeStep);
     if (0.0F >= colour.alpha()) dead = true;
 }

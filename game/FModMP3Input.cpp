@@ -16,7 +16,7 @@ namespace {
 
 math::MTRand_int32 Rand;
 
-constexpr std::uint16_t no_song = 37626; // simply no index that occurs
+constexpr std::uint16_t no_song = 37626;     // simply no index that occurs
 constexpr unsigned int effect_mode = 0x4149; // no loop, 2D, software, loaded whole
 constexpr unsigned int stream_mode = 64;     // software
 constexpr unsigned int length_in_ms = 1;

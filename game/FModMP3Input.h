@@ -68,8 +68,8 @@ public:
                *hitSound = nullptr, *squareSound = nullptr, *clearSound = nullptr,
                *immuneSound = nullptr, *pupSound = nullptr, *badSound = nullptr,
                *pauseSound = nullptr;
-    std::uint32_t songLength = 0;  ///< ms
-    std::uint32_t songEndTime = 0; ///< clock at which the song ends, but for pauses
+    std::uint32_t songLength = 0;   ///< ms
+    std::uint32_t songEndTime = 0;  ///< clock at which the song ends, but for pauses
     std::vector<std::string> songs; ///< file names, without the folder
     bool songPlaying = false;       ///< update watches for the song's end, or for the setting
     std::uint16_t lastSongID;

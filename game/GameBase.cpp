@@ -27,16 +27,11 @@ const struct {
     int key;
     int button;
 } default_actions[] = {
-    {"Menu Select", SDLK_RETURN, 2},
-    {"Menu Escape", SDLK_ESCAPE, 8},
-    {"Game Pause", SDLK_p, input::no_button},
-    {"Up", SDLK_UP, input::no_button},
-    {"Down", SDLK_DOWN, input::no_button},
-    {"Left", SDLK_LEFT, input::no_button},
-    {"Right", SDLK_RIGHT, input::no_button},
-    {"Fire Up", SDLK_w, input::no_button},
-    {"Fire Down", SDLK_s, input::no_button},
-    {"Fire Left", SDLK_a, input::no_button},
+    {"Menu Select", SDLK_RETURN, 2},          {"Menu Escape", SDLK_ESCAPE, 8},
+    {"Game Pause", SDLK_p, input::no_button}, {"Up", SDLK_UP, input::no_button},
+    {"Down", SDLK_DOWN, input::no_button},    {"Left", SDLK_LEFT, input::no_button},
+    {"Right", SDLK_RIGHT, input::no_button},  {"Fire Up", SDLK_w, input::no_button},
+    {"Fire Down", SDLK_s, input::no_button},  {"Fire Left", SDLK_a, input::no_button},
     {"Fire Right", SDLK_d, input::no_button},
 };
 
@@ -66,8 +61,10 @@ GameBase::GameBase() {
 GameBase::~GameBase() {
     Component* const components[] = {renderer, inputHandler, menuInputHandler, physicsProcessor,
                                      audio};
-    for (Component* component : components) Engine::Instance().delComponent(component);
-    for (Component* component : components) delete component;
+    for (Component* component : components)
+        Engine::Instance().delComponent(component);
+    for (Component* component : components)
+        delete component;
 }
 
 void GameBase::setDefaultKeyMapping() {

@@ -9,9 +9,9 @@
 #include "Framework/Managers/FontManager.h"
 #include "Framework/Timer.h"
 #include "Framework/math/MTRand.h"
-#include "game/Border.h"
 #include "game/BombClear.h"
 #include "game/BombImmune.h"
+#include "game/Border.h"
 #include "game/CDLineIcon.h"
 #include "game/Marvo.h"
 #include "game/PUPLineIcon.h"
@@ -29,15 +29,17 @@ namespace {
 math::MTRand_int32 Rand;
 
 /// A fresh draw in [0, 1). Two draws never share an expression: their order is the game.
-double draw() { return math::randomFraction(Rand); }
+double draw() {
+    return math::randomFraction(Rand);
+}
 
 constexpr double first_spawn_base = 0.995, highest_threshold = 0.995;
 constexpr double spawn_bonus_step = 0.001;
 constexpr double death_spawn_step = 0.00025, death_size_step = 0.025;
-constexpr std::uint16_t longest_spawn_gap = 50;     // ticks
-constexpr std::uint32_t difficulty_interval = 650;  // ticks
-constexpr std::uint16_t bomb_interval = 499;        // ticks; one above it drops a bomb
-constexpr std::uint16_t power_up_interval = 15;     // triangles; one above it drops a power-up
+constexpr std::uint16_t longest_spawn_gap = 50;         // ticks
+constexpr std::uint32_t difficulty_interval = 650;      // ticks
+constexpr std::uint16_t bomb_interval = 499;            // ticks; one above it drops a bomb
+constexpr std::uint16_t power_up_interval = 15;         // triangles; one above it drops a power-up
 constexpr double drop_width = 35.0, drop_height = 25.0; // world units about the origin
 constexpr double spawn_distance = 5.0;                  // world units outside the view
 constexpr double fastest = 10.0;

@@ -17,4 +17,6 @@ const PageLine lines[] = {
 
 } // namespace
 
-HelpMenu::HelpMenu() { addPageLines(*this, std::begin(lines), std::end(lines)); }
+HelpMenu::HelpMenu() {
+    addPageLines(*this, std::begin(lines), std::end(lines));
+}

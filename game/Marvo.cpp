@@ -3,8 +3,8 @@
 #include "Framework/Constants.h"
 #include "Framework/Engine.h"
 #include "Framework/Graphics/Camera.h"
-#include "Framework/Messages.h"
 #include "Framework/MessageHandler.h"
+#include "Framework/Messages.h"
 #include "game/PlayerCharacter.h"
 #include "game/SquareIndicator.h"
 
@@ -53,13 +53,21 @@ void MarvoClass::process() {
     ++lives;
 }
 
-unsigned long MarvoClass::getNextLife() const { return nextLife * extra_life_interval; }
+unsigned long MarvoClass::getNextLife() const {
+    return nextLife * extra_life_interval;
+}
 
-unsigned short MarvoClass::getPlayerLineLength() const { return player->lineLength; }
+unsigned short MarvoClass::getPlayerLineLength() const {
+    return player->lineLength;
+}
 
-unsigned short MarvoClass::numLinePUPS() const { return player->linePups; }
+unsigned short MarvoClass::numLinePUPS() const {
+    return player->linePups;
+}
 
-unsigned short MarvoClass::numCDPUPS() const { return player->cooldownPups; }
+unsigned short MarvoClass::numCDPUPS() const {
+    return player->cooldownPups;
+}
 
 void MarvoClass::killPlayer() {
     if (player->invulnerable) return;

@@ -34,11 +34,11 @@ public:
     /// a file that can't be written is passed over.
     void saveHighScore();
 
-    std::int16_t lives;     ///< spare ones; below 0 the game is over
-    std::uint32_t score;    ///< keeps its last value after a game
+    std::int16_t lives;                ///< spare ones; below 0 the game is over
+    std::uint32_t score;               ///< keeps its last value after a game
     PlayerCharacter* player = nullptr; ///< the engine owns it; gone once its level has ended
-    double fieldArea;       ///< of the playfield at first use, square world units
-    std::uint16_t nextLife; ///< number of the next extra life
+    double fieldArea;                  ///< of the playfield at first use, square world units
+    std::uint16_t nextLife;            ///< number of the next extra life
     std::uint32_t highScore = 0;
 };
 

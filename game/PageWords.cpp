@@ -14,8 +14,7 @@ constexpr double column_x = -19.0, line_scale = 0.75;
 
 } // namespace
 
-graphics::GWord* addPageWord(Entity& page, const char* fontName, double x, double y,
-                             double scale) {
+graphics::GWord* addPageWord(Entity& page, const char* fontName, double x, double y, double scale) {
     page.getGraphics()->getBaseLayer()->layer = graphics::layer_menu_text;
     auto* const word = page.getGraphics()->createGraphic<graphics::GWord>(0);
     word->font = &FontManager::Instance().getV(fontName);

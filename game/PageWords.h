@@ -9,8 +9,8 @@ class GWord;
 /// Adds a word to a page, in its first layer, which becomes one of menu text: colour "Score
 /// Font", left-aligned, without a text yet.
 /// @param fontName resource
-quorva::graphics::GWord* addPageWord(quorva::Entity& page, const char* fontName, double x,
-                                     double y, double scale);
+quorva::graphics::GWord* addPageWord(quorva::Entity& page, const char* fontName, double x, double y,
+                                     double scale);
 
 /// One line of a page of still text.
 struct PageLine {

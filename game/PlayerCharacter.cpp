@@ -108,7 +108,8 @@ void PlayerCharacter::update() {
 }
 
 void PlayerCharacter::receiveMessage(const PlayerDead*) {
-    for (ArrowIndicator* arrow : arrows) arrow->fire();
+    for (ArrowIndicator* arrow : arrows)
+        arrow->fire();
     invulnerable = true;
     invulnerableTicks = invulnerable_duration;
     blinkTicks = blink_interval;
@@ -143,8 +144,7 @@ void PlayerCharacter::fireBullet(const math::Vector& direction) {
     for (const auto& gun : guns) {
         if (!(direction == gun.direction)) continue;
         const math::Point position = physics->position;
-        auto* const bullet =
-            Engine::Instance().createEntity<Bullet>("Bullet", position, direction);
+        auto* const bullet = Engine::Instance().createEntity<Bullet>("Bullet", position, direction);
         PhysicsLineMessage line;
         line.position = position - gun.direction * line_start_distance;
         line.bullet = bullet;
@@ -171,7 +171,8 @@ void PlayerCharacter::process() {
 
 void PlayerCharacter::lieDead() {
     if (--deathTicks != arrows_return) return;
-    for (ArrowIndicator* arrow : arrows) arrow->restore();
+    for (ArrowIndicator* arrow : arrows)
+        arrow->restore();
 }
 
 void PlayerCharacter::steer() {

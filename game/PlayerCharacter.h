@@ -38,7 +38,7 @@ public:
     /// Fires a bullet, with its line. Only the four axis directions do anything.
     void fireBullet(const quorva::math::Vector& direction);
 
-    GCube* cube = nullptr;                           ///< the graphics own it
+    GCube* cube = nullptr;                            ///< the graphics own it
     const quorva::graphics::Colour* colour = nullptr; ///< resource, not owned
     bool moveUp = false, moveDown = false, moveLeft = false, moveRight = false;
     bool invulnerable = true; ///< cannot be killed
@@ -49,11 +49,11 @@ public:
     boost::array<std::uint16_t, gun_count> fireTimers = {{0, 0, 0, 0}}; ///< ticks, by Gun
     /// The power-up taken last; not owned, and soon deleted: nothing reads it.
     quorva::Entity* lastPickup = nullptr;
-    std::uint16_t pickupLock = 0; ///< ticks during which nothing can be taken
-    std::uint16_t deathTicks = 0; ///< left of the death sequence
+    std::uint16_t pickupLock = 0;            ///< ticks during which nothing can be taken
+    std::uint16_t deathTicks = 0;            ///< left of the death sequence
     boost::array<ArrowIndicator*, 4> arrows; ///< up, left, down, right; the engine owns them
-    std::uint16_t linePups = 0;     ///< line power-ups taken
-    std::uint16_t cooldownPups = 0; ///< cooldown power-ups and bombs taken
+    std::uint16_t linePups = 0;              ///< line power-ups taken
+    std::uint16_t cooldownPups = 0;          ///< cooldown power-ups and bombs taken
 
 private:
     void fire(Gun gun);

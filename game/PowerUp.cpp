@@ -14,7 +14,9 @@ constexpr unsigned int circle_resolution = 16; // points
 
 } // namespace
 
-PowerUp::PowerUp(const math::Point&) { subscribe<messages::EndLevel>(this); }
+PowerUp::PowerUp(const math::Point&) {
+    subscribe<messages::EndLevel>(this);
+}
 
 void PowerUp::build(const math::Point& position, const graphics::Colour& colour) {
     physics = new physics::PhysicsObject(position, true, false, true, true);

@@ -11,8 +11,7 @@ class Colour;
 }
 
 /// Something that lies on the field to be touched by the player, who carries out its effect.
-class PowerUp : public quorva::Entity,
-                public quorva::MessageInterface<quorva::messages::EndLevel> {
+class PowerUp : public quorva::Entity, public quorva::MessageInterface<quorva::messages::EndLevel> {
 public:
     void process() override = 0;
     void update() override {}

@@ -13,13 +13,13 @@ math::MTRand_int32 Rand;
 
 constexpr double depth_step = 0.1;
 constexpr std::size_t max_rays = 100;
-constexpr double ray_threshold = 0.9;   // a draw above this starts a ray
-constexpr double first_length = 0.01;   // world units
-constexpr double full_length = 60.0;    // world units, well past the field
-constexpr double growth_step = 0.01;    // world units per tick and tick
+constexpr double ray_threshold = 0.9;    // a draw above this starts a ray
+constexpr double first_length = 0.01;    // world units
+constexpr double full_length = 60.0;     // world units, well past the field
+constexpr double growth_step = 0.01;     // world units per tick and tick
 constexpr double first_spin_range = 8.0; // degrees per tick
-constexpr double spin_step = 0.1;       // degrees per tick and tick
-constexpr double fade_step = 0.00125;   // alpha per tick and ray
+constexpr double spin_step = 0.1;        // degrees per tick and tick
+constexpr double fade_step = 0.00125;    // alpha per tick and ray
 
 void placeEnd(const ParticleLine& ray) {
     const double radians = ray.angle * math::pi / 180.0;

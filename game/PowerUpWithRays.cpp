@@ -11,8 +11,8 @@ PowerUpWithRays::PowerUpWithRays(const math::Point& position, const char* colour
     : PowerUp(position) {
     const graphics::Colour& colour = ColourManager::Instance().getV(colourName);
     build(position, colour);
-    lines = Engine::Instance().createEntity<PowerUpLines>("PULs", physics->position, &colour,
-                                                          reverse);
+    lines =
+        Engine::Instance().createEntity<PowerUpLines>("PULs", physics->position, &colour, reverse);
     linesId = lines->id;
 }
 

@@ -18,8 +18,8 @@ SquareIndicator::SquareIndicator(const primitives::Box& box)
                       fade_step) {
     const primitives::Box rounded(box);
     const double half = (rounded.right - rounded.left) * 0.5;
-    centre = math::Point(rounded.left + half,
-                         rounded.bottom + (rounded.top - rounded.bottom) * 0.5, 0.0);
+    centre = math::Point(rounded.left + half, rounded.bottom + (rounded.top - rounded.bottom) * 0.5,
+                         0.0);
     for (std::size_t i = 0; i < line_count; ++i) {
         positions[i] = aim(i);
         positions[i].x += (math::randomFraction(Rand) - 0.5) * half;

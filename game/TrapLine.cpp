@@ -12,7 +12,7 @@ namespace {
 
 constexpr float line_depth = -10.0F; // behind the rest of the world
 constexpr float line_width = 4.0F;
-constexpr std::uint32_t solid_after = 5;   // ticks
+constexpr std::uint32_t solid_after = 5;    // ticks
 constexpr std::uint16_t blinking_life = 74; // ticks left from which a line blinks
 constexpr std::uint16_t blink_start = 8, blink_end = 4;
 constexpr float fade_acceleration = 0.01F;

@@ -16,19 +16,21 @@ namespace {
 
 math::MTRand_int32 Rand;
 
-constexpr double nose_length = 2.0;       // world units, at size 1
-constexpr double slowest_divisor = 15.0;  // velocity: 1 / (this - speed)
-constexpr double turn_limit = 2.5;        // degrees per tick
+constexpr double nose_length = 2.0;      // world units, at size 1
+constexpr double slowest_divisor = 15.0; // velocity: 1 / (this - speed)
+constexpr double turn_limit = 2.5;       // degrees per tick
 constexpr std::uint16_t rest_ticks = 16;
 constexpr std::uint16_t held_ticks = 3;
-constexpr double contracted_share = 1.1;  // squared lengths: nose to base over this
+constexpr double contracted_share = 1.1; // squared lengths: nose to base over this
 
 void addInPlane(math::Point& point, const math::Vector& offset) {
     point.x += offset.x;
     point.y += offset.y;
 }
 
-double squaredLength(const math::Vector& v) { return v.dot(v); }
+double squaredLength(const math::Vector& v) {
+    return v.dot(v);
+}
 
 /// `corner` of the model turned by `radians`, at `length` from the origin.
 /// atan of an infinite slope is a right angle, as it should be.
@@ -113,8 +115,10 @@ void Triangle::reposition() {
     toPlayer.normalise();
     // On the player's very place there is no direction: not-a-number goes through to `angle`.
     const double cosine = forward.dot(toPlayer);
-    const double turn = std::acos(cosine < -1.0 ? -1.0 : cosine > 1.0 ? 1.0 : cosine) * 180.0 /
-                        math::pi;
+    const double turn = std::acos(cosine < -1.0  ? -1.0
+                                  : cosine > 1.0 ? 1.0
+                                                 : cosine) *
+                        180.0 / math::pi;
     const double side = toPlayer.x * forward.y - toPlayer.y * forward.x;
     const double radians = (turn > turn_limit ? turn_limit : turn) * math::pi / 180.0;
     angle += side < 0.0 ? radians : -radians;
@@ -145,10 +149,18 @@ bool Triangle::isHeld() {
 void Triangle::walk() {
     reposition();
     switch (state) {
-    case contracting: contract(); break;
-    case restAfterContract: restContracted(); break;
-    case expanding: expand(); break;
-    case restAfterExpand: restExpanded(); break;
+    case contracting:
+        contract();
+        break;
+    case restAfterContract:
+        restContracted();
+        break;
+    case expanding:
+        expand();
+        break;
+    case restAfterExpand:
+        restExpanded();
+        break;
     }
     addInPlane(graphic->b(), baseOffset);
     addInPlane(graphic->c(), baseOffset);

@@ -70,7 +70,9 @@ void Font::loadFont(const std::string& path) {
     font->CharMap(FT_ENCODING_UNICODE);
 }
 
-bool Font::isUsable() const { return font != nullptr && !name.empty(); }
+bool Font::isUsable() const {
+    return font != nullptr && !name.empty();
+}
 
 primitives::Box Font::getBoundingBox(const std::string& text) {
     if (font == nullptr) return {1.0, -1.0, -1.0, 1.0, 0.0, 1.0};

@@ -3,7 +3,8 @@
 namespace quorva::graphics {
 
 GraphicObject::~GraphicObject() {
-    for (RenderableThing* thing : things) delete thing;
+    for (RenderableThing* thing : things)
+        delete thing;
 }
 
 RenderableThing* GraphicObject::getBaseLayer() {
@@ -17,7 +18,8 @@ unsigned short GraphicObject::createNewLayer() {
 }
 
 void GraphicObject::setThingsActive(bool active) {
-    for (RenderableThing* thing : things) thing->active = active;
+    for (RenderableThing* thing : things)
+        thing->active = active;
 }
 
 void GraphicObject::setEnabled(bool on) {

@@ -15,13 +15,14 @@ public:
     GraphicObject(const GraphicObject&) = delete;
     GraphicObject& operator=(const GraphicObject&) = delete;
 
-    RenderableThing* getBaseLayer();  ///< the first layer, made if there is none
-    unsigned short createNewLayer();  ///< @return the index of the new, last layer
+    RenderableThing* getBaseLayer(); ///< the first layer, made if there is none
+    unsigned short createNewLayer(); ///< @return the index of the new, last layer
 
     /// Makes a shape in the layer at `index`; that layer, and all below it, are made if missing.
     template <class T>
     T* createGraphic(unsigned short index) {
-        while (things.size() <= index) createNewLayer();
+        while (things.size() <= index)
+            createNewLayer();
         return things[index]->createGraphic<T>();
     }
 

@@ -12,8 +12,8 @@ protected:
 /// Where a shape stands inside its layer.
 class MoveRotatePolicy : public MovementPolicyBase {
 public:
-    math::Quaternion rotation;             ///< all zero: not turned
-    math::Point position;                  ///< world units
+    math::Quaternion rotation; ///< all zero: not turned
+    math::Point position;      ///< world units
     math::Vector scale{1.0, 1.0, 1.0};
 
     void setScale(double factor) { scale = math::Vector(factor, factor, factor); }

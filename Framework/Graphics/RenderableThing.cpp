@@ -6,7 +6,8 @@
 namespace quorva::graphics {
 
 RenderableThing::~RenderableThing() {
-    for (RenderInterface* graphic : graphics) delete graphic;
+    for (RenderInterface* graphic : graphics)
+        delete graphic;
 }
 
 void RenderableThing::addGraphic(RenderInterface* graphic) {

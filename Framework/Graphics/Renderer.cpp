@@ -3,9 +3,9 @@
 #include "Framework/Graphics/Renderer.h"
 
 #include "Framework/Config.h"
+#include "Framework/Constants.h"
 #include "Framework/Entity.h"
 #include "Framework/GameInfo.h"
-#include "Framework/Constants.h"
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/Draw.h"
 #include "Framework/Graphics/GraphicObject.h"
@@ -21,8 +21,8 @@ namespace quorva::graphics {
 
 namespace {
 
-constexpr std::size_t usual_renderables = 500;   ///< room without an allocation
-constexpr float background_grey = 0.105882F;     ///< very dark, neutral
+constexpr std::size_t usual_renderables = 500; ///< room without an allocation
+constexpr float background_grey = 0.105882F;   ///< very dark, neutral
 constexpr int fallback_width = 800, fallback_height = 600, fallback_depth = 32;
 
 bool trySetVideoMode(int width, int height, int depth, Uint32 flags) {
@@ -34,8 +34,8 @@ bool trySetVideoMode(int width, int height, int depth, Uint32 flags) {
 void openVideoMode() {
     const auto& config = config::Config::Instance();
     const Uint32 flags = SDL_OPENGL | (config.getFullScreen() ? SDL_FULLSCREEN : 0U);
-    if (!trySetVideoMode(config.getScreenWidth(), config.getScreenHeight(),
-                         config.getColourDepth(), flags) &&
+    if (!trySetVideoMode(config.getScreenWidth(), config.getScreenHeight(), config.getColourDepth(),
+                         flags) &&
         !trySetVideoMode(fallback_width, fallback_height, fallback_depth, flags))
         std::exit(-1);
     if (config.getFullScreen()) SDL_ShowCursor(SDL_DISABLE);
@@ -91,7 +91,8 @@ void Renderer::setupVideo() {
 void Renderer::update() {
     std::sort(renderables.begin(), renderables.end(), RenderObjectSort());
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    for (RenderableThing* thing : renderables) thing->render();
+    for (RenderableThing* thing : renderables)
+        thing->render();
     SDL_GL_SwapBuffers();
 }
 
@@ -106,7 +107,9 @@ void Renderer::removeEntity(Entity* entity) {
                           renderables.end());
 }
 
-void Renderer::removeAllEntities() { renderables.clear(); }
+void Renderer::removeAllEntities() {
+    renderables.clear();
+}
 
 void Renderer::receiveMessage(const messages::ResetVideo*) {
     setupVideo();

@@ -27,15 +27,18 @@ void ResourceManagerManagerClass::removeResourceManager(ResourceManagerInterface
 }
 
 void ResourceManagerManagerClass::save(std::string scope) {
-    for (ResourceManagerInterface* manager : managers) manager->save(scope);
+    for (ResourceManagerInterface* manager : managers)
+        manager->save(scope);
 }
 
 void ResourceManagerManagerClass::load(std::string scope) {
-    for (ResourceManagerInterface* manager : managers) manager->load(scope);
+    for (ResourceManagerInterface* manager : managers)
+        manager->load(scope);
 }
 
 void ResourceManagerManagerClass::close(std::string scope) {
-    for (ResourceManagerInterface* manager : managers) manager->close(scope);
+    for (ResourceManagerInterface* manager : managers)
+        manager->close(scope);
 }
 
 } // namespace quorva::resources

@@ -17,8 +17,12 @@ using utility::splitCompressed;
 
 namespace {
 
-double toNumber(const std::string& text) { return std::strtod(text.c_str(), nullptr); }
-float toFloat(const std::string& text) { return static_cast<float>(toNumber(text)); }
+double toNumber(const std::string& text) {
+    return std::strtod(text.c_str(), nullptr);
+}
+float toFloat(const std::string& text) {
+    return static_cast<float>(toNumber(text));
+}
 
 const struct {
     const char* text;

@@ -95,8 +95,9 @@ void ConfigClass::printCmdLineFlags(const char* programName) {
         for (const ConfigValueAnon* setting : configValues->getAnonNames()) {
             if (setting->section != part.section) continue;
             const std::size_t length = setting->longName.size();
-            const char* const tabs =
-                length < part.shortName ? "\t\t\t" : length > long_name ? "\t" : "\t\t";
+            const char* const tabs = length < part.shortName ? "\t\t\t"
+                                     : length > long_name    ? "\t"
+                                                             : "\t\t";
             std::cout << "  -" << setting->shortName << ", --" << setting->longName << tabs
                       << setting->description << '\n';
         }

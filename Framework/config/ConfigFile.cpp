@@ -15,7 +15,8 @@ ConfigFile::ConfigFile(const std::string& path) {
     if (!file) throw failure;
     try {
         std::string line;
-        while (std::getline(file, line)) readLine(line);
+        while (std::getline(file, line))
+            readLine(line);
     } catch (const std::exception&) {
         throw failure;
     }
@@ -41,7 +42,8 @@ bool ConfigFile::backup() {
     std::string line;
     // Deliberate: the flag has just been cleared, so that no line is copied. An old backup must
     // not look like a current one.
-    while (file.eof() && std::getline(file, line)) copy << line << '\n';
+    while (file.eof() && std::getline(file, line))
+        copy << line << '\n';
     return true;
 }
 

@@ -42,15 +42,24 @@ const struct {
 
 /// The settings in the order of the file.
 const std::string* const written[] = {
-    &default_screen_width_ln,   &default_screen_height_ln,
-    &default_colour_depth_ln,   &default_fullscreen_ln,
-    &default_antialias_ln,      &default_compatibility_ln,
-    &default_use_joystick_ln,   &default_active_joystick_ln,
-    &default_joystick_sensitivity_ln, &default_invert_joystick_Y_ln,
-    &default_rate_ln,           &default_software_channels_ln,
-    &default_play_sound_ln,     &default_play_music_ln,
-    &default_music_vol_ln,      &default_fx_vol_ln,
-    &default_ignore_time_ln,    &default_collision_accuracy_ln,
+    &default_screen_width_ln,
+    &default_screen_height_ln,
+    &default_colour_depth_ln,
+    &default_fullscreen_ln,
+    &default_antialias_ln,
+    &default_compatibility_ln,
+    &default_use_joystick_ln,
+    &default_active_joystick_ln,
+    &default_joystick_sensitivity_ln,
+    &default_invert_joystick_Y_ln,
+    &default_rate_ln,
+    &default_software_channels_ln,
+    &default_play_sound_ln,
+    &default_play_music_ln,
+    &default_music_vol_ln,
+    &default_fx_vol_ln,
+    &default_ignore_time_ln,
+    &default_collision_accuracy_ln,
     &default_save_cpu_ln,
 };
 

@@ -19,16 +19,40 @@ const struct {
     {default_screen_width_ln, 'w', 800, 480, 1920, {}, section_video, default_screen_width_desc},
     {default_screen_height_ln, 'l', 600, 480, 1920, {}, section_video, default_screen_height_desc},
     {default_colour_depth_ln, 'c', 32, 16, 32, {16, 32}, section_video, default_colour_depth_desc},
-    {default_rate_ln, 'r', 41000, 10250, 41000, {10250, 20500, 41000}, section_sound,
+    {default_rate_ln,
+     'r',
+     41000,
+     10250,
+     41000,
+     {10250, 20500, 41000},
+     section_sound,
      default_rate_desc},
-    {default_software_channels_ln, 'n', 40, 10, 255, {}, section_sound,
+    {default_software_channels_ln,
+     'n',
+     40,
+     10,
+     255,
+     {},
+     section_sound,
      default_software_channels_desc},
     {default_fx_vol_ln, 'g', 100, 0, 100, {}, section_sound, default_fx_vol_desc},
     {default_music_vol_ln, 'h', 100, 0, 100, {}, section_sound, default_music_vol_desc},
     {default_active_joystick_ln, 'k', 0, 0, 16, {}, section_input, default_active_joystick_desc},
-    {default_joystick_sensitivity_ln, 'y', 3200, 0, 32768, {}, section_input,
+    {default_joystick_sensitivity_ln,
+     'y',
+     3200,
+     0,
+     32768,
+     {},
+     section_input,
      default_joystick_sensitivity_desc},
-    {default_collision_accuracy_ln, 'z', 10, 1, 1000, {}, section_misc,
+    {default_collision_accuracy_ln,
+     'z',
+     10,
+     1,
+     1000,
+     {},
+     section_misc,
      default_collision_accuracy_desc},
 };
 
@@ -63,7 +87,9 @@ const struct {
     throw ConfigValueException(reason);
 }
 
-bool isLower(char letter) { return std::islower(static_cast<unsigned char>(letter)) != 0; }
+bool isLower(char letter) {
+    return std::islower(static_cast<unsigned char>(letter)) != 0;
+}
 
 char otherCase(char letter, int (*convert)(int)) {
     return static_cast<char>(convert(static_cast<unsigned char>(letter)));
@@ -138,7 +164,8 @@ ConfigValuesT::ConfigValuesT() {
     for (const auto& row : int_settings) {
         intValues.emplace_back(row.letter, row.name, row.description, row.value,
                                CVRange<int>{row.min, row.max}, row.section);
-        for (const int v : row.valid) intValues.back().addValid(v);
+        for (const int v : row.valid)
+            intValues.back().addValid(v);
     }
     const auto addFlag = [this](char letter, const std::string& name, const std::string& text,
                                 bool value, config_variable_section_e section) {
@@ -152,16 +179,23 @@ ConfigValuesT::ConfigValuesT() {
         addFlag(otherCase(row.letter, std::toupper), default_negative_prefix + row.name,
                 row.negativeDescription, row.value, row.section);
     }
-    for (auto& setting : intValues) anonNames.push_back(&setting);
-    for (auto& setting : boolValues) anonNames.push_back(&setting);
-    for (auto& setting : qualityValues) anonNames.push_back(&setting);
+    for (auto& setting : intValues)
+        anonNames.push_back(&setting);
+    for (auto& setting : boolValues)
+        anonNames.push_back(&setting);
+    for (auto& setting : qualityValues)
+        anonNames.push_back(&setting);
 }
 
-int ConfigValuesT::getIntVal(char key) const { return requireValue(intValues, key).value; }
+int ConfigValuesT::getIntVal(char key) const {
+    return requireValue(intValues, key).value;
+}
 int ConfigValuesT::getIntVal(const std::string& key) const {
     return requireValue(intValues, key).value;
 }
-bool ConfigValuesT::getBoolVal(char key) const { return requireValue(boolValues, key).value; }
+bool ConfigValuesT::getBoolVal(char key) const {
+    return requireValue(boolValues, key).value;
+}
 bool ConfigValuesT::getBoolVal(const char* key) const {
     return requireValue(boolValues, key).value;
 }
@@ -234,11 +268,19 @@ bool ConfigValuesT::setValue(const std::string& key, QualityE q) {
     return true;
 }
 
-void ConfigValuesT::setDefault(char key) { restoreDefault(*this, key); }
-void ConfigValuesT::setDefault(const std::string& key) { restoreDefault(*this, key); }
+void ConfigValuesT::setDefault(char key) {
+    restoreDefault(*this, key);
+}
+void ConfigValuesT::setDefault(const std::string& key) {
+    restoreDefault(*this, key);
+}
 
-ConfigValueAnon& ConfigValuesT::getTypelessValue(const char* key) { return typeless(*this, key); }
-ConfigValueAnon& ConfigValuesT::getTypelessValue(char key) { return typeless(*this, key); }
+ConfigValueAnon& ConfigValuesT::getTypelessValue(const char* key) {
+    return typeless(*this, key);
+}
+ConfigValueAnon& ConfigValuesT::getTypelessValue(char key) {
+    return typeless(*this, key);
+}
 
 bool ConfigValuesT::operator==(const ConfigValuesT& other) const {
     return haveSameValues(intValues, other.intValues) &&

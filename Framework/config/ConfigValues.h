@@ -69,7 +69,7 @@ public:
     std::vector<ConfigValue<int>> intValues;
     std::vector<ConfigValue<bool>> boolValues;
     std::vector<ConfigValue<QualityE>> qualityValues; ///< the game defines none
-    std::vector<ConfigValueAnon*> anonNames; ///< integers, booleans, qualities, as defined
+    std::vector<ConfigValueAnon*> anonNames;          ///< integers, booleans, qualities, as defined
 };
 
 } // namespace quorva::config

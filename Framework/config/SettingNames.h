@@ -38,8 +38,7 @@ const std::string default_antialias_desc = "Forces AntiAlias.";
 const std::string default_antialias_desc_neg = "Forces Non-AntiAlias.";
 const std::string default_compatibility_ln = "Compatibility";
 const std::string default_compatibility_desc = "Forces Graphic Compatibility.";
-const std::string default_compatibility_desc_neg =
-    "Forces No Graphic Compatibility. (non ATI/NV)";
+const std::string default_compatibility_desc_neg = "Forces No Graphic Compatibility. (non ATI/NV)";
 const std::string default_play_sound_ln = "PlaySound";
 const std::string default_play_sound_desc = "Enables Playing sound";
 const std::string default_play_sound_desc_neg = "Disables Playing sound"; // has no entry

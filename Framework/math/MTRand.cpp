@@ -63,8 +63,8 @@ void MTRand_int32::seed(const unsigned long* key, int keyLength) {
 
 void MTRand_int32::gen_state() {
     for (int i = 0; i < state_size; ++i)
-        state[i] = state[(i + shift_size) % state_size] ^
-                   twist(state[i], state[(i + 1) % state_size]);
+        state[i] =
+            state[(i + shift_size) % state_size] ^ twist(state[i], state[(i + 1) % state_size]);
     p = 0;
 }
 

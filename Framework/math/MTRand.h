@@ -10,7 +10,7 @@ public:
     /// Seeds the stream with 5489 if no object has been made before.
     MTRand_int32();
 
-    void seed(unsigned long value);                   ///< the low 32 bits count
+    void seed(unsigned long value);                     ///< the low 32 bits count
     void seed(const unsigned long* key, int keyLength); ///< at least one word, else no effect
 
     /// Next word, uniform on [0, 2^32). Never fails.

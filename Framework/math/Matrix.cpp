@@ -15,7 +15,9 @@ void Matrix::set(double a, double b, double c, double d, double e, double f, dou
     m = {a, e, i, n, b, f, j, o, c, g, k, p, d, h, l, q};
 }
 
-void Matrix::makeIdentity() { set(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1); }
+void Matrix::makeIdentity() {
+    set(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1);
+}
 
 void Matrix::makeRotation(double angle, double x, double y, double z) {
     Vector axis(x, y, z);
@@ -54,8 +56,10 @@ namespace {
 
 double halfTurnDegrees(double radians) {
     double degrees = radians * 180.0 / pi;
-    while (degrees > 180.0) degrees -= 360.0;
-    while (degrees <= -180.0) degrees += 360.0;
+    while (degrees > 180.0)
+        degrees -= 360.0;
+    while (degrees <= -180.0)
+        degrees += 360.0;
     return degrees;
 }
 
@@ -95,13 +99,15 @@ Quaternion Matrix::getQuaternion() const {
 
 Matrix operator+(const Matrix& a, const Matrix& b) {
     Matrix sum;
-    for (std::size_t i = 0; i < sum.m.size(); ++i) sum[i] = a[i] + b[i];
+    for (std::size_t i = 0; i < sum.m.size(); ++i)
+        sum[i] = a[i] + b[i];
     return sum;
 }
 
 Matrix operator-(const Matrix& a, const Matrix& b) {
     Matrix difference;
-    for (std::size_t i = 0; i < difference.m.size(); ++i) difference[i] = a[i] - b[i];
+    for (std::size_t i = 0; i < difference.m.size(); ++i)
+        difference[i] = a[i] - b[i];
     return difference;
 }
 
@@ -116,7 +122,8 @@ Matrix operator*(const Matrix& a, const Matrix& b) {
 
 Matrix operator*(double s, const Matrix& a) {
     Matrix scaled;
-    for (std::size_t i = 0; i < scaled.m.size(); ++i) scaled[i] = s * a[i];
+    for (std::size_t i = 0; i < scaled.m.size(); ++i)
+        scaled[i] = s * a[i];
     return scaled;
 }
 
@@ -147,6 +154,8 @@ bool inverse(Matrix& out, const Matrix& in) {
     return true;
 }
 
-bool fastInverse(Matrix& out, const Matrix& in) { return inverse(out, in); }
+bool fastInverse(Matrix& out, const Matrix& in) {
+    return inverse(out, in);
+}
 
 } // namespace quorva::math

@@ -16,8 +16,7 @@ public:
     double z = 0.0;
 
     constexpr Quaternion() = default;
-    constexpr Quaternion(double w_, double x_, double y_, double z_)
-        : w(w_), x(x_), y(y_), z(z_) {}
+    constexpr Quaternion(double w_, double x_, double y_, double z_) : w(w_), x(x_), y(y_), z(z_) {}
 
     /// The turn as an angle in degrees about a unit axis; 0 about x if there is no axis.
     /// A w that rounding has carried past 1 counts as 1.

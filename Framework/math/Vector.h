@@ -39,7 +39,9 @@ public:
 };
 
 inline Point::Point(const Vector& v) : x(v.x), y(v.y), z(v.z) {}
-inline Point& Point::operator=(const Vector& v) { return *this = Point(v); }
+inline Point& Point::operator=(const Vector& v) {
+    return *this = Point(v);
+}
 
 inline Point& Point::operator+=(const Vector& v) {
     x += v.x;
@@ -54,8 +56,12 @@ inline Vector operator+(const Vector& a, const Vector& b) {
 inline Vector operator-(const Vector& a, const Vector& b) {
     return {a.x - b.x, a.y - b.y, a.z - b.z};
 }
-inline Vector operator*(const Vector& v, double s) { return {v.x * s, v.y * s, v.z * s}; }
-inline Vector operator*(double s, const Vector& v) { return v * s; }
+inline Vector operator*(const Vector& v, double s) {
+    return {v.x * s, v.y * s, v.z * s};
+}
+inline Vector operator*(double s, const Vector& v) {
+    return v * s;
+}
 
 inline Point operator+(const Point& p, const Vector& v) {
     return {p.x + v.x, p.y + v.y, p.z + v.z};
@@ -66,15 +72,23 @@ inline Point operator-(const Point& p, const Vector& v) {
 inline Vector operator-(const Point& a, const Point& b) {
     return {a.x - b.x, a.y - b.y, a.z - b.z};
 }
-inline Point operator*(const Point& p, double s) { return {p.x * s, p.y * s, p.z * s}; }
+inline Point operator*(const Point& p, double s) {
+    return {p.x * s, p.y * s, p.z * s};
+}
 
 /// Sameness to within fuzzyEqual, component by component.
 inline bool operator==(const Vector& a, const Vector& b) {
     return fuzzyEqual(a.x, b.x) && fuzzyEqual(a.y, b.y) && fuzzyEqual(a.z, b.z);
 }
-inline bool operator==(const Point& a, const Point& b) { return Vector(a) == Vector(b); }
-inline bool operator!=(const Vector& a, const Vector& b) { return !(a == b); }
-inline bool operator!=(const Point& a, const Point& b) { return !(a == b); }
+inline bool operator==(const Point& a, const Point& b) {
+    return Vector(a) == Vector(b);
+}
+inline bool operator!=(const Vector& a, const Vector& b) {
+    return !(a == b);
+}
+inline bool operator!=(const Point& a, const Point& b) {
+    return !(a == b);
+}
 
 constexpr Point zero_point(0.0, 0.0, 0.0);
 constexpr Vector zero_vector(0.0, 0.0, 0.0);

@@ -34,7 +34,8 @@ std::string sizeText(unsigned short width, unsigned short height) {
 } // namespace
 
 ConfigMenu::ConfigMenu(Menu* parent_) : Menu(parent_) {
-    for (const auto& size : resolution_table) resolutions.emplace_back(size[1], size[0]);
+    for (const auto& size : resolution_table)
+        resolutions.emplace_back(size[1], size[0]);
     const auto& config = config::Config::Instance();
     width = config.getScreenWidth();
     height = config.getScreenHeight();
@@ -82,8 +83,10 @@ void ConfigMenu::show(menu_load_mode_e mode) {
 }
 
 void ConfigMenu::update() {
-    for (graphics::GWord* word : names) word->setColour1(wordOffColour);
-    for (graphics::GWord* word : values) word->setColour1(wordOffColour);
+    for (graphics::GWord* word : names)
+        word->setColour1(wordOffColour);
+    for (graphics::GWord* word : values)
+        word->setColour1(wordOffColour);
     saveWord->setColour1(wordOffColour);
     cancelWord->setColour1(wordOffColour);
     if (selection < setting_count) {
@@ -94,9 +97,13 @@ void ConfigMenu::update() {
     }
 }
 
-void ConfigMenu::moveSelectorUp() { selection = selection == 0 ? row_cancel : selection - 1; }
+void ConfigMenu::moveSelectorUp() {
+    selection = selection == 0 ? row_cancel : selection - 1;
+}
 
-void ConfigMenu::moveSelectorDown() { selection = selection == row_cancel ? 0 : selection + 1; }
+void ConfigMenu::moveSelectorDown() {
+    selection = selection == row_cancel ? 0 : selection + 1;
+}
 
 void ConfigMenu::receiveMessage(const messages::MenuMove* m) {
     if (!visible) return;
@@ -145,8 +152,8 @@ void ConfigMenu::save() {
 unsigned short ConfigMenu::getResIndex() const {
     const auto found =
         std::find(resolutions.begin(), resolutions.end(), std::make_pair(height, width));
-    return static_cast<unsigned short>(
-        found == resolutions.end() ? 0 : found - resolutions.begin());
+    return static_cast<unsigned short>(found == resolutions.end() ? 0
+                                                                  : found - resolutions.begin());
 }
 
 void ConfigMenu::setNewResolutionStuff(unsigned short index) {
@@ -178,7 +185,9 @@ void ConfigMenu::toggleFullScreen() {
     toggle(fullScreen, row_fullscreen, fullscreen_on, fullscreen_off);
 }
 
-void ConfigMenu::toggleSaveCPU() { toggle(saveCPU, row_save_cpu, save_cpu_on, save_cpu_off); }
+void ConfigMenu::toggleSaveCPU() {
+    toggle(saveCPU, row_save_cpu, save_cpu_on, save_cpu_off);
+}
 
 void ConfigMenu::toggle(bool& setting, Row row, const char* on, const char* off) {
     setting = !setting;
@@ -188,8 +197,12 @@ void ConfigMenu::toggle(bool& setting, Row row, const char* on, const char* off)
 void ConfigMenu::process() {
     setHelp("", "");
     switch (selection) {
-    case row_music_volume: step(musicVolume, 0, full_volume); break;
-    case row_fx_volume: step(fxVolume, 0, full_volume); break;
+    case row_music_volume:
+        step(musicVolume, 0, full_volume);
+        break;
+    case row_fx_volume:
+        step(fxVolume, 0, full_volume);
+        break;
     case row_accuracy:
         step(collisionAccuracy, 1, most_accurate);
         setHelp("Sets   how   many   times   the   collision   detector   steps   between   frames",
@@ -199,7 +212,8 @@ void ConfigMenu::process() {
         setHelp("Makes   the   game   sleep   while   its   not   processing",
                 "Saves   battery   life                     EXPERIMENTAL!!!");
         break;
-    default: break;
+    default:
+        break;
     }
     if (leftHeld) ++leftHeldTicks;
     if (rightHeld) ++rightHeldTicks;

@@ -52,11 +52,11 @@ public:
     void changeValueSettingDown() {}
 
     std::vector<std::pair<unsigned short, unsigned short>> resolutions; ///< height, width
-    const graphics::Colour* selectingColour; ///< resource, not used
+    const graphics::Colour* selectingColour;                            ///< resource, not used
     std::uint16_t selection = row_resolution;
     // The graphics own the words.
     graphics::GWord *titleWord, *videoWord, *soundWord, *miscWord, *saveWord, *cancelWord;
-    bool changing = false; ///< never set; escape works only while it is false
+    bool changing = false;                ///< never set; escape works only while it is false
     std::vector<graphics::GWord*> names;  ///< by row
     std::vector<graphics::GWord*> values; ///< by row
     graphics::GWord *helpLine1, *helpLine2;

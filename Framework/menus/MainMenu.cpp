@@ -50,7 +50,8 @@ boost::array<graphics::GWord*, 5> MainMenu::items() const {
 
 void MainMenu::update() {
     if (!shown) return;
-    for (graphics::GWord* item : items()) item->setColour1(wordOffColour);
+    for (graphics::GWord* item : items())
+        item->setColour1(wordOffColour);
     items()[selection]->setColour1(wordOnColour);
 }
 
@@ -69,15 +70,20 @@ void MainMenu::show(menu_load_mode_e mode) {
 
 void MainMenu::setShapesActive(bool active) {
     getGraphics()->setEnabled(active);
-    for (graphics::GWord* item : items()) item->active = active;
+    for (graphics::GWord* item : items())
+        item->active = active;
     logo->active = active;
     taglineWord->active = active;
     highScoreWord->active = active;
 }
 
-void MainMenu::moveSelectorUp() { selection = selection == 0 ? itemCount - 1 : selection - 1; }
+void MainMenu::moveSelectorUp() {
+    selection = selection == 0 ? itemCount - 1 : selection - 1;
+}
 
-void MainMenu::moveSelectorDown() { selection = selection + 1 == itemCount ? 0 : selection + 1; }
+void MainMenu::moveSelectorDown() {
+    selection = selection + 1 == itemCount ? 0 : selection + 1;
+}
 
 bool MainMenu::isPageOpen() const {
     return subMenu != nullptr || gameOverScreen != nullptr || helpMenu != nullptr ||
@@ -112,12 +118,23 @@ void MainMenu::closePage(Page*& page) {
 void MainMenu::checkMenuSelection() {
     EngineClass& engine = Engine::Instance();
     switch (selection) {
-    case item_start: publish(messages::LoadLevel()); return; // whoever loads it hides the menu
-    case item_config: subMenu = engine.createEntity<ConfigMenu>("Config Menu", this); break;
-    case item_help: helpMenu = engine.createEntity<HelpMenu>("HELP"); break;
-    case item_about: aboutMenu = engine.createEntity<AboutMenu>("About!"); break;
-    case item_exit: publish(messages::EndGame()); return;
-    default: return;
+    case item_start:
+        publish(messages::LoadLevel());
+        return; // whoever loads it hides the menu
+    case item_config:
+        subMenu = engine.createEntity<ConfigMenu>("Config Menu", this);
+        break;
+    case item_help:
+        helpMenu = engine.createEntity<HelpMenu>("HELP");
+        break;
+    case item_about:
+        aboutMenu = engine.createEntity<AboutMenu>("About!");
+        break;
+    case item_exit:
+        publish(messages::EndGame());
+        return;
+    default:
+        return;
     }
     hide();
 }

@@ -39,8 +39,8 @@ void Menu::addBackground(const graphics::Colour* colour) {
     graphics->things[backdrop_index]->layer = graphics::layer_menu_backdrop;
 }
 
-graphics::GWord* Menu::addWord(const char* text, const graphics::Colour* colour, double x,
-                               double y, double scale, int alignment) {
+graphics::GWord* Menu::addWord(const char* text, const graphics::Colour* colour, double x, double y,
+                               double scale, int alignment) {
     auto* const word = getGraphics()->createGraphic<graphics::GWord>(word_index);
     graphics->things[word_index]->layer = graphics::layer_menu_text;
     word->font = font;

@@ -36,11 +36,11 @@ public:
     const graphics::Colour* wordOffColour;
     menu_load_mode_e loadMode = menu_load_normal; ///< as shown last
     const graphics::Colour* titleColour;
-    primitives::Box bounds; ///< extents of the view
+    primitives::Box bounds;                          ///< extents of the view
     graphics::GTransparentBox* background = nullptr; ///< made by the derived class
     graphics::Font* font;                            ///< resource, not owned
-    Menu* subMenu = nullptr; ///< an open one; the engine owns it
-    Menu* parent;            ///< who opened this menu; null for the main menu
+    Menu* subMenu = nullptr;                         ///< an open one; the engine owns it
+    Menu* parent; ///< who opened this menu; null for the main menu
 
 protected:
     explicit Menu(Menu* parent);
@@ -49,7 +49,7 @@ protected:
     graphics::GWord* addWord(const char* text, const graphics::Colour* colour, double x, double y,
                              double scale = 1.0, int alignment = 0);
     void addBackground(const graphics::Colour* colour); ///< on the first layer
-    void fitBackground(); ///< to the view as it is now
+    void fitBackground();                               ///< to the view as it is now
 };
 
 } // namespace quorva::menus

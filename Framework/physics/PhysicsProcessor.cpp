@@ -41,19 +41,18 @@ Corners worldCorners(const PhysicsObject& body) {
     return corners;
 }
 
-bool isPlayer(const Entity* e) { return dynamic_cast<const PlayerCharacter*>(e) != nullptr; }
+bool isPlayer(const Entity* e) {
+    return dynamic_cast<const PlayerCharacter*>(e) != nullptr;
+}
 
 /// Tests the box's corners against the triangle, and marks both at each hit.
-unsigned int countBoxCornersInside(PhysicsObject& box, PhysicsObject& triangle,
-                                   const Corners& c) {
+unsigned int countBoxCornersInside(PhysicsObject& box, PhysicsObject& triangle, const Corners& c) {
     const double x = box.position.x, y = box.position.y;
     const double hw = box.boxes.front().halfWidth, hh = box.boxes.front().halfHeight;
     // Deliberate: bottom right stands twice and top left is missing, so a triangle may graze
     // that corner unpunished. A "repaired" list would break every recorded game.
-    const Point corners[] = {{x + hw, y - hh, 0.0},
-                             {x + hw, y + hh, 0.0},
-                             {x - hw, y - hh, 0.0},
-                             {x + hw, y - hh, 0.0}};
+    const Point corners[] = {
+        {x + hw, y - hh, 0.0}, {x + hw, y + hh, 0.0}, {x - hw, y - hh, 0.0}, {x + hw, y - hh, 0.0}};
     unsigned int hits = 0;
     for (const Point& corner : corners) {
         if (!pointInTriangle(corner, c[0], c[1], c[2])) continue;
@@ -92,7 +91,8 @@ void PhysicsProcessor::addEntity(Entity* e) {
     if (e->physics == nullptr) return;
     entities.push_back(e);
     if (e->physics->type != shape_triangle) return;
-    for (TrapLine* line : lines) e->physics->lines.push_back({line, {}}); // it joins late
+    for (TrapLine* line : lines)
+        e->physics->lines.push_back({line, {}}); // it joins late
 }
 
 void PhysicsProcessor::removeEntity(Entity* e) {
@@ -158,15 +158,18 @@ void PhysicsProcessor::receiveMessage(const PhysicsLineMessage* m) {
         "Bullet Line", m->position, m->bullet, Marvo::Instance().getPlayerLineLength(),
         m->horizontal);
     lines.push_back(line);
-    for (Entity* e : entities) e->physics->lines.push_back({line, {}});
+    for (Entity* e : entities)
+        e->physics->lines.push_back({line, {}});
 }
 
 void PhysicsProcessor::zeroAllVelocities() {
-    for (Entity* e : entities) e->physics->velocity = math::zero_vector;
+    for (Entity* e : entities)
+        e->physics->velocity = math::zero_vector;
 }
 
 void PhysicsProcessor::clearBooleanTestResults() {
-    for (Entity* e : entities) e->physics->booleanResult = false;
+    for (Entity* e : entities)
+        e->physics->booleanResult = false;
 }
 
 void PhysicsProcessor::booleanTestDynamicObjects() {

@@ -36,8 +36,8 @@ public:
     /// @param gravity world units per tick, taken over the length of a tick in ms. Nothing falls.
     explicit PhysicsProcessor(const math::Vector& gravity);
 
-    void update() override;  ///< publishes EndLevel in the pass after the last death
-    void process() override; ///< one tick
+    void update() override;             ///< publishes EndLevel in the pass after the last death
+    void process() override;            ///< one tick
     void addEntity(Entity* e) override; ///< one without a body is ignored
     void removeEntity(Entity* e) override;
     void removeAllEntities() override; ///< the lines stay
@@ -62,7 +62,7 @@ public:
 
     bool testLineTriangle(Entity* e) const; ///< whether a line is in the triangle's way
     void constructSquares();                ///< fills `squares` from `lines`
-    void testBoxes(); ///< the first rectangle that holds a triangle pays out
+    void testBoxes();                       ///< the first rectangle that holds a triangle pays out
 
     void zeroAllVelocities();
     void clearBooleanTestResults();

@@ -28,8 +28,12 @@ struct Span {
     bool holds(double value) const { return value >= min && value <= max; }
 };
 
-Span alongX(const TrapLine& line) { return {line.start.x, line.end.x}; }
-Span alongY(const TrapLine& line) { return {line.start.y, line.end.y}; }
+Span alongX(const TrapLine& line) {
+    return {line.start.x, line.end.x};
+}
+Span alongY(const TrapLine& line) {
+    return {line.start.y, line.end.y};
+}
 
 /// Two horizontal lines that can be the top and the bottom of a rectangle.
 struct Rails {
@@ -115,7 +119,8 @@ unsigned short PhysicsProcessor::catchTriangles(const Square& square) {
 }
 
 void PhysicsProcessor::payOut(const Square& square, unsigned short count) {
-    for (TrapLine* side : square) side->fakeKill(true);
+    for (TrapLine* side : square)
+        side->fakeKill(true);
     const primitives::Box box(square[0]->start.y, square[3]->start.y, square[1]->start.x,
                               square[2]->start.x);
     Marvo::Instance().killTriangles(box, count);

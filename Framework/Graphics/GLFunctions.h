@@ -1,0 +1,58 @@
+#pragma once
+
+#include "Framework/Graphics/FunctionsBase.h"
+
+#include <stack>
+
+namespace quorva::graphics {
+
+/// The GL primitive of a shape. Deliberate: a quad strip maps to triangles and points to a
+/// polygon mode, and what has no mapping is passed on unchanged.
+unsigned int getGLShape(ShapeEnum shape);
+
+/// The state of GL. Shapes and vertices are left to a derived class.
+class GLFunctions : public FunctionsBase {
+public:
+    /// Smooth in every respect, as recorded. The one object is made before there is a GL
+    /// context, so that GL itself learns of it only when the video mode is set up.
+    GLFunctions();
+
+    void startFrame() override {}
+    void endFrame() override {}
+    void rotate(double angle, double x, double y, double z) override;
+    void multMatrix(const math::Matrix& matrix) override;
+    void translate(double x, double y, double z) override;
+    void scale(double x, double y, double z) override;
+    void setColour(float red, float green, float blue, float alpha) override;
+    void setColour(const float* components) override;
+    void pushMatrix() override;
+    void popMatrix() override;
+    void enableBlending() override;
+    void disableBlending() override;
+    void enableCulling() override;
+    void disableCulling() override;
+    void drawSolid() override;
+    void drawLine() override;
+    void setLineWidth(float width) override;
+    void enableDepthTest() override;
+    void disableDepthTest() override;
+    void enableAlpha() override;
+    void disableAlpha() override;
+    void saveBlendMode() override;
+    void setBlendMode(BlendModeEnum mode) override;
+    void restoreBlendMode() override; ///< without a call to GL; an empty stack has no effect
+    void smoothLines(bool on) override;
+    bool isSmoothLines() override { return smoothLinesOn; }
+    void smoothShapes(bool on) override;
+    bool isSmoothShapes() override { return smoothShapesOn; }
+    void smoothShading(bool on) override;
+    bool isSmoothShading() override { return smoothShadingOn; }
+
+    bool smoothLinesOn = true;
+    bool smoothShapesOn = true;
+    bool smoothShadingOn = true;
+    std::stack<BlendModeEnum> blendModeStack;
+    BlendModeEnum currentBlendMode = BLEND_STANDARD;
+};
+
+} // namespace quorva::graphics

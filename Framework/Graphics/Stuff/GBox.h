@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Framework/Graphics/Shape.h"
+#include "Framework/Primitives/Box.h"
+
+namespace quorva::graphics {
+
+/// A filled rectangle.
+class GBox : public Shape {
+public:
+    void render() override;
+
+    primitives::Box box; ///< world units, relative to `position`
+
+protected:
+    void plot() const;
+};
+
+} // namespace quorva::graphics

@@ -1,0 +1,19 @@
+#include "Framework/Graphics/Stuff/GCircle.h"
+
+#include "Framework/Graphics/Draw.h"
+#include "Framework/math/Quaternion.h"
+
+using namespace quorva;
+using namespace quorva::graphics;
+
+void GCircle::render() {
+    begin();
+    draw::disableDepthTest();
+    draw::begin(SHAPE_POLYGON);
+    for (unsigned int i = 0; i < resolution; ++i) {
+        const double angle = i * 360.0 / resolution * math::pi / 180.0;
+        draw::vertex2D(radius * std::cos(angle), radius * std::sin(angle));
+    }
+    draw::end();
+    draw::enableDepthTest();
+}

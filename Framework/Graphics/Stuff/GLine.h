@@ -1,0 +1,12 @@
+#pragma once
+
+#include "Framework/Graphics/Shape.h"
+
+/// A line.
+class GLine : public quorva::graphics::Shape {
+public:
+    void render() override;
+
+    quorva::math::Point start, end; ///< world units, relative to `position`
+    float lineWidth = 1.0F;         ///< pixels on the reference screen
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Framework/Graphics/Shape.h"
+
+/// A circle about the origin.
+class GOutlinedCircle : public quorva::graphics::Shape {
+public:
+    void render() override;
+
+    float lineWidth = 1.0F;       ///< pixels, whatever the screen
+    float radius = 1.0F;          ///< world units
+    unsigned int resolution = 12; ///< points
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Framework/Graphics/Stuff/GBox.h"
+
+namespace quorva::graphics {
+
+/// A filled rectangle drawn without depth test; how much shows through is its colour's alpha.
+class GTransparentBox : public GBox {
+public:
+    void render() override;
+};
+
+} // namespace quorva::graphics

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "Framework/Singleton.h"
+
+#include <boost/noncopyable.hpp>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quorva::input {
+
+using QuorvaKey = unsigned short;  ///< an SDL 1.2 key symbol
+using QuorvaJKey = unsigned short; ///< a joystick button, 0 to 15
+
+constexpr QuorvaKey unknown_key = 323; ///< no event carries it
+constexpr QuorvaJKey no_button = 999;  ///< no event carries it
+
+/// What an action of a player is bound to.
+struct InputKey {
+    std::string name; ///< of the action
+    QuorvaKey key;
+    QuorvaJKey jsButton;
+    unsigned short player;
+};
+
+/// The table from named actions to keys and buttons. Filled once at the start of the game.
+class KeyMapperClass : private boost::noncopyable {
+public:
+    /// @return false, with nothing changed, if the player has an action of that name
+    bool addMappableKey(const std::string& name, QuorvaKey key, QuorvaJKey jsButton,
+                        unsigned short player);
+
+    /// @return the action of that name and player; null if there is none
+    const InputKey* getButton(const char* name, unsigned short player) const;
+    const InputKey* getButton(const std::string& name, unsigned short player) const {
+        return getButton(name.c_str(), player);
+    }
+
+    /// Rebinds player 0's actions as bind1.conf has it. What is wrong in it is reported on
+    /// standard error, line by line, and passed over.
+    void readBindFiles();
+
+    std::vector<std::unique_ptr<InputKey>> keys; ///< in order of registration
+
+private:
+    void readLine(std::string line);
+    void bind(const std::vector<std::string>& fields);
+};
+
+using KeyMapper = ReturningSingleton<KeyMapperClass>;
+
+/// The key of a word such as "UP" or "a", in any case. An unknown one is reported on standard
+/// error and gives unknown_key. Deliberate: of the function keys only "F1" is known.
+QuorvaKey keyFromWord(const std::string& word);
+
+/// Button 0 to 15 of "JOY1" to "JOY16", upper case alone; anything else gives no_button.
+QuorvaJKey jsbuttonFromWord(const std::string& word);
+
+} // namespace quorva::input

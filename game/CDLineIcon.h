@@ -1,0 +1,9 @@
+#pragma once
+
+#include "Framework/Graphics/Shape.h"
+
+/// Sign of the cooldown power-ups: a small square.
+class CDLineIcon : public quorva::graphics::Shape {
+public:
+    void render() override;
+};
