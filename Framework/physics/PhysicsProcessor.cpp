@@ -100,8 +100,20 @@ void PhysicsProcessor::removeEntity(Entity* e) {
     // The engine is about to delete it: nobody may keep its address.
     for (Entity* other : entities)
         if (other->physics->collidedWith == e) other->physics->collidedWith = nullptr;
+    const auto gone = std::find(lines.begin(), lines.end(), e);
+    if (gone != lines.end()) {
+        forgetLine(*gone);
+        lines.erase(gone);
+    }
     for (TrapLine* line : lines)
         if (line->bullet == e) line->bullet = nullptr;
+}
+
+void PhysicsProcessor::forgetLine(TrapLine* line) {
+    for (Entity* e : entities) {
+        auto& known = e->physics->lines;
+        known.erase(std::remove(known.begin(), known.end(), TriLine{line, {}}), known.end());
+    }
 }
 
 void PhysicsProcessor::removeAllEntities() {
@@ -301,10 +313,7 @@ void PhysicsProcessor::postSimulate() {
     for (TrapLine* line : lines) {
         line->updateBullet();
         if (!line->isFakeDone()) continue;
-        for (Entity* e : entities) {
-            auto& known = e->physics->lines;
-            known.erase(std::remove(known.begin(), known.end(), TriLine{line, {}}), known.end());
-        }
+        forgetLine(line);
         line->dead = true;
     }
     lines.erase(std::remove_if(lines.begin(), lines.end(),

@@ -89,6 +89,7 @@ public:
 
 private:
     void clearPairs();
+    void forgetLine(TrapLine* line); ///< no body knows of it from now on
     void pairUp(Entity* a, Entity* b);
     void addSquaresBetween(TrapLine* a, TrapLine* b, const std::vector<TrapLine*>& vertical);
     unsigned short catchTriangles(const Square& square);

@@ -1,0 +1,211 @@
+#include <GL/glew.h>
+
+#include "platform/headless/GLRecorder.h"
+
+#include <sstream>
+
+namespace quorva::headless {
+
+void GLRecorder::start() {
+    calls.clear();
+    recording = true;
+}
+
+std::string GLRecorder::text() const {
+    std::ostringstream out;
+    for (const GLCall& call : calls) {
+        out << call.name;
+        for (unsigned int i = 0; i < call.count; ++i)
+            out << ' ' << call.arguments[i];
+        out << '\n';
+    }
+    return out.str();
+}
+
+std::vector<GLCall> GLRecorder::callsTo(const std::string& name) const {
+    std::vector<GLCall> found;
+    for (const GLCall& call : calls)
+        if (call.name == name) found.push_back(call);
+    return found;
+}
+
+GLRecorder& glRecorder() {
+    static GLRecorder recorder; // calls come before main already
+    return recorder;
+}
+
+} // namespace quorva::headless
+
+namespace {
+
+template <class... Arguments>
+void record(const char* name, Arguments... arguments) {
+    auto& recorder = quorva::headless::glRecorder();
+    ++recorder.total;
+    if (!recorder.recording) return;
+    recorder.calls.push_back({name, {static_cast<double>(arguments)...}, sizeof...(arguments)});
+}
+
+/// Names of lists and textures, never given twice.
+GLuint nextNames(GLsizei count) {
+    static GLuint next = 1;
+    const GLuint first = next;
+    next += static_cast<GLuint>(count);
+    return first;
+}
+
+} // namespace
+
+extern "C" {
+
+GLenum GLEWAPIENTRY glewInit() {
+    return GLEW_OK;
+}
+
+void GLAPIENTRY glBegin(GLenum mode) {
+    record("glBegin", mode);
+}
+void GLAPIENTRY glEnd() {
+    record("glEnd");
+}
+void GLAPIENTRY glVertex2f(GLfloat x, GLfloat y) {
+    record("glVertex2f", x, y);
+}
+void GLAPIENTRY glVertex3f(GLfloat x, GLfloat y, GLfloat z) {
+    record("glVertex3f", x, y, z);
+}
+void GLAPIENTRY glColor4f(GLfloat r, GLfloat g, GLfloat b, GLfloat a) {
+    record("glColor4f", r, g, b, a);
+}
+void GLAPIENTRY glColor4fv(const GLfloat* c) {
+    record("glColor4fv", c[0], c[1], c[2], c[3]);
+}
+void GLAPIENTRY glPushMatrix() {
+    record("glPushMatrix");
+}
+void GLAPIENTRY glPopMatrix() {
+    record("glPopMatrix");
+}
+void GLAPIENTRY glTranslatef(GLfloat x, GLfloat y, GLfloat z) {
+    record("glTranslatef", x, y, z);
+}
+void GLAPIENTRY glScalef(GLfloat x, GLfloat y, GLfloat z) {
+    record("glScalef", x, y, z);
+}
+void GLAPIENTRY glRotatef(GLfloat angle, GLfloat x, GLfloat y, GLfloat z) {
+    record("glRotatef", angle, x, y, z);
+}
+void GLAPIENTRY glMultMatrixf(const GLfloat* m) {
+    record("glMultMatrixf", m[0], m[1], m[2], m[3], m[4], m[5], m[6], m[7], m[8], m[9], m[10],
+           m[11], m[12], m[13], m[14], m[15]);
+}
+void GLAPIENTRY glMatrixMode(GLenum mode) {
+    record("glMatrixMode", mode);
+}
+void GLAPIENTRY glLoadIdentity() {
+    record("glLoadIdentity");
+}
+void GLAPIENTRY glOrtho(GLdouble l, GLdouble r, GLdouble b, GLdouble t, GLdouble n, GLdouble f) {
+    record("glOrtho", l, r, b, t, n, f);
+}
+void GLAPIENTRY glFrustum(GLdouble l, GLdouble r, GLdouble b, GLdouble t, GLdouble n, GLdouble f) {
+    record("glFrustum", l, r, b, t, n, f);
+}
+void GLAPIENTRY glViewport(GLint x, GLint y, GLsizei w, GLsizei h) {
+    record("glViewport", x, y, w, h);
+}
+void GLAPIENTRY glDepthRange(GLclampd near, GLclampd far) {
+    record("glDepthRange", near, far);
+}
+void GLAPIENTRY glGetFloatv(GLenum name, GLfloat* values) {
+    record("glGetFloatv", name);
+    for (int i = 0; i < 16; ++i)
+        values[i] = i % 5 == 0 ? 1.0F : 0.0F;
+}
+void GLAPIENTRY glEnable(GLenum what) {
+    record("glEnable", what);
+}
+void GLAPIENTRY glDisable(GLenum what) {
+    record("glDisable", what);
+}
+void GLAPIENTRY glShadeModel(GLenum mode) {
+    record("glShadeModel", mode);
+}
+void GLAPIENTRY glPolygonMode(GLenum face, GLenum mode) {
+    record("glPolygonMode", face, mode);
+}
+void GLAPIENTRY glLineWidth(GLfloat width) {
+    record("glLineWidth", width);
+}
+void GLAPIENTRY glBlendFunc(GLenum source, GLenum target) {
+    record("glBlendFunc", source, target);
+}
+void GLAPIENTRY glCullFace(GLenum mode) {
+    record("glCullFace", mode);
+}
+void GLAPIENTRY glClear(GLbitfield mask) {
+    record("glClear", mask);
+}
+void GLAPIENTRY glClearColor(GLclampf r, GLclampf g, GLclampf b, GLclampf a) {
+    record("glClearColor", r, g, b, a);
+}
+void GLAPIENTRY glClearAccum(GLfloat r, GLfloat g, GLfloat b, GLfloat a) {
+    record("glClearAccum", r, g, b, a);
+}
+
+// What the font library draws with.
+GLuint GLAPIENTRY glGenLists(GLsizei range) {
+    record("glGenLists", range);
+    return nextNames(range);
+}
+void GLAPIENTRY glNewList(GLuint list, GLenum mode) {
+    record("glNewList", list, mode);
+}
+void GLAPIENTRY glEndList() {
+    record("glEndList");
+}
+void GLAPIENTRY glCallList(GLuint list) {
+    record("glCallList", list);
+}
+void GLAPIENTRY glDeleteLists(GLuint list, GLsizei range) {
+    record("glDeleteLists", list, range);
+}
+void GLAPIENTRY glNormal3d(GLdouble x, GLdouble y, GLdouble z) {
+    record("glNormal3d", x, y, z);
+}
+void GLAPIENTRY glNormal3f(GLfloat x, GLfloat y, GLfloat z) {
+    record("glNormal3f", x, y, z);
+}
+void GLAPIENTRY glTexCoord2f(GLfloat s, GLfloat t) {
+    record("glTexCoord2f", s, t);
+}
+void GLAPIENTRY glVertex2fv(const GLfloat* v) {
+    record("glVertex2f", v[0], v[1]);
+}
+void GLAPIENTRY glVertex3d(GLdouble x, GLdouble y, GLdouble z) {
+    record("glVertex3d", x, y, z);
+}
+void GLAPIENTRY glTexEnvi(GLenum t, GLenum p, GLint v) {
+    record("glTexEnvi", t, p, v);
+}
+void GLAPIENTRY glPushAttrib(GLbitfield mask) {
+    record("glPushAttrib", mask);
+}
+void GLAPIENTRY glPopAttrib() {
+    record("glPopAttrib");
+}
+void GLAPIENTRY glPushClientAttrib(GLbitfield mask) {
+    record("glPushClientAttrib", mask);
+}
+void GLAPIENTRY glPopClientAttrib() {
+    record("glPopClientAttrib");
+}
+void GLAPIENTRY glGetIntegerv(GLenum name, GLint* value) {
+    record("glGetIntegerv", name);
+    *value = 0;
+}
+GLenum GLAPIENTRY glGetError() {
+    return GL_NO_ERROR;
+}
+
+} // extern "C"

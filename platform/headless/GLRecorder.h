@@ -1,0 +1,37 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+// A stand-in for OpenGL at link time: a program that links it draws without a window, and can
+// look at the calls that a frame has sent.
+
+namespace quorva::headless {
+
+struct GLCall {
+    const char* name;
+    std::array<double, 16> arguments;
+    unsigned int count; ///< of arguments
+};
+
+class GLRecorder {
+public:
+    /// Starts a new recording.
+    void start();
+    void stop() { recording = false; }
+
+    /// A call a line: the name, then its arguments.
+    std::string text() const;
+    /// The recorded calls of that name.
+    std::vector<GLCall> callsTo(const std::string& name) const;
+
+    bool recording = false; ///< else calls are only counted
+    std::uint64_t total = 0;
+    std::vector<GLCall> calls;
+};
+
+GLRecorder& glRecorder();
+
+} // namespace quorva::headless

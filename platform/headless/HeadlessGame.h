@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+class GameBase;
+
+namespace quorva::headless {
+
+/// The real game on virtual time, without window, wall clock or sound card. One at a time; the
+/// program must link the stand-ins of this folder.
+class HeadlessGame {
+public:
+    /// Starts a run as a fresh process would: clock at `startTicks` ms, an unseeded random
+    /// stream, default settings, an empty event queue.
+    explicit HeadlessGame(std::uint32_t startTicks = 0);
+    ~HeadlessGame(); ///< every entity has gone afterwards
+    HeadlessGame(const HeadlessGame&) = delete;
+    HeadlessGame& operator=(const HeadlessGame&) = delete;
+
+    /// One pass of the main loop in which a tick is due: 30 ms, then process and update.
+    void tick();
+    void ticks(unsigned int count);
+    // The two halves of a pass.
+    void process(); ///< 30 ms go by, and the tick runs unless the game is paused
+    void frame();
+
+    void press(int symbol);          ///< key down and up, taken at the next pass
+    void key(int symbol, bool down); ///< key down or up, taken at the next pass
+    void startLevel();               ///< chooses "Start Game" by keys
+    bool isOver() const;             ///< the program wants to end
+
+    GameBase& game() { return *base; }
+
+    /// Hash of all that play depends on: positions, lines, score, lives, random state.
+    std::uint32_t stateHash() const;
+    /// The same in words, an entity a line, for finding what differs.
+    std::string describe() const;
+
+private:
+    std::unique_ptr<GameBase> base;
+};
+
+} // namespace quorva::headless

@@ -1,0 +1,203 @@
+#include "Framework/Engine.h"
+
+#include "Framework/Component.h"
+#include "Framework/MessageHandler.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+using namespace quorva;
+
+namespace {
+
+std::vector<std::string> journal;
+
+struct Probe : Entity {
+    explicit Probe(std::string name_, std::function<void()> onProcess_ = {})
+        : name(std::move(name_)), onProcess(std::move(onProcess_)) {}
+    ~Probe() override { journal.push_back("end " + name); }
+    void process() override {
+        journal.push_back("process " + name);
+        if (onProcess) onProcess();
+    }
+    void update() override { journal.push_back("update " + name); }
+
+    std::string name;
+    std::function<void()> onProcess;
+};
+
+struct Service : Component {
+    explicit Service(std::string name_, std::function<void()> onUpdate_ = {})
+        : name(std::move(name_)), onUpdate(std::move(onUpdate_)) {}
+    void update() override {
+        journal.push_back("update " + name);
+        if (onUpdate) onUpdate();
+    }
+    void process() override { journal.push_back("process " + name); }
+    void addEntity(Entity* e) override {
+        journal.push_back(name + " + " + static_cast<Probe*>(e)->name + std::to_string(e->id));
+    }
+    void removeEntity(Entity* e) override {
+        journal.push_back(name + " - " + static_cast<Probe*>(e)->name);
+    }
+    void removeAllEntities() override { journal.push_back(name + " - all"); }
+
+    std::string name;
+    std::function<void()> onUpdate;
+};
+
+using Journal = std::vector<std::string>;
+
+class EngineTest : public testing::Test {
+protected:
+    void SetUp() override { journal.clear(); }
+    Probe* add(const std::string& name, std::function<void()> onProcess = {}) {
+        auto* const probe = new Probe(name, std::move(onProcess));
+        probe->id = engine.addEntity(probe);
+        return probe;
+    }
+    Journal run(void (EngineClass::*beat)()) {
+        journal.clear();
+        (engine.*beat)();
+        return journal;
+    }
+    void TearDown() override {
+        engine.components.clear(); // the test's own, gone by now
+        for (const auto& [id, entity] : engine.entities)
+            entity->dead = true;
+    }
+
+    EngineClass engine;
+};
+
+struct Note {};
+struct Listener : MessageInterface<Note> {
+    explicit Listener(std::function<void()> onNote_ = {}) : onNote(std::move(onNote_)) {}
+    void receiveMessage(const Note*) override {
+        ++received;
+        if (onNote) onNote();
+    }
+    int received = 0;
+    std::function<void()> onNote;
+};
+
+} // namespace
+
+TEST_F(EngineTest, GivesIdsFromOneAndNeverAgain) {
+    EXPECT_EQ(engine.addEntity(nullptr), 0U);
+    Probe* const first = add("a");
+    EXPECT_EQ(first->id, 1U);
+    first->dead = true;
+    engine.process();
+    EXPECT_EQ(engine.getEntity(1), nullptr);
+    EXPECT_EQ(add("b")->id, 2U);
+}
+
+TEST_F(EngineTest, RunsEntitiesByIdThenComponentsInListOrder) {
+    Service one("one"), two("two");
+    engine.addComponent(&two);
+    engine.addComponent(&one);
+    engine.addComponent(&two); // no effect
+    add("a");
+    add("b");
+    EXPECT_EQ(run(&EngineClass::process),
+              (Journal{"process a", "process b", "process two", "process one"}));
+    EXPECT_EQ(run(&EngineClass::update),
+              (Journal{"update a", "update b", "update two", "update one"}));
+}
+
+TEST_F(EngineTest, ShowsEntitiesToComponentsWithoutAnIdYetAndReplaysThemToLateOnes) {
+    Service early("early"), late("late");
+    engine.addComponent(&early);
+    add("a");
+    add("b");
+    engine.addComponent(&late);
+    engine.delComponent(&early);
+    engine.delComponent(&early); // not active any more
+    EXPECT_EQ(journal,
+              (Journal{"early + a0", "early + b0", "late + a1", "late + b2", "early - all"}));
+}
+
+TEST_F(EngineTest, KeepsTheDeadToTheNextTickAndRunsTheNewbornInTheSameSweep) {
+    Service service("s");
+    engine.addComponent(&service);
+    Probe* a = nullptr;
+    a = add("a", [&] {
+        a->dead = true;
+        add("new");
+    });
+    EXPECT_EQ(run(&EngineClass::process),
+              (Journal{"process a", "s + new0", "process new", "process s"}));
+    EXPECT_EQ(run(&EngineClass::update), (Journal{"update a", "update new", "update s"}));
+    EXPECT_EQ(run(&EngineClass::process), (Journal{"s - a", "end a", "process new", "process s"}));
+}
+
+TEST_F(EngineTest, SweepsComponentsByPositionWhileTheyComeAndGo) {
+    Service last("last"), added("added");
+    Service changer("changer", [&] {
+        engine.delComponent(&changer);
+        engine.addComponent(&added);
+    });
+    engine.addComponent(&changer);
+    engine.addComponent(&last);
+    // After the change "last" stands at position 0, which has been, and "added" at 1.
+    EXPECT_EQ(run(&EngineClass::update),
+              (Journal{"update changer", "changer - all", "update added"}));
+
+    Service emptier("emptier", [&] {
+        for (Component* c : {static_cast<Component*>(&last), static_cast<Component*>(&added),
+                             static_cast<Component*>(&emptier)})
+            engine.delComponent(c);
+    });
+    engine.addComponent(&emptier);
+    run(&EngineClass::update);
+    EXPECT_TRUE(engine.components.empty());
+}
+
+TEST(MessageBus, DeliversInOrderOfSubscriptionOncePerSubscriber) {
+    MessageHandlerClass<Note> bus;
+    std::string order;
+    Listener a([&] { order += 'a'; }), b([&] { order += 'b'; });
+    bus.publish(nullptr); // nobody there
+    bus.subscribe(&b);
+    bus.subscribe(&a);
+    bus.subscribe(&b);
+    bus.publish(nullptr);
+    EXPECT_EQ(order, "ba");
+    bus.unsubscribe(&b);
+    bus.unsubscribe(&b);
+    bus.publish(nullptr);
+    EXPECT_EQ(order, "baa");
+}
+
+TEST(MessageBus, TakesMoreSubscribersDuringADeliveryThanItHasRoomFor) {
+    MessageHandlerClass<Note> bus;
+    std::vector<std::unique_ptr<Listener>> crowd;
+    Listener first([&] {
+        for (int i = 0; i < 300; ++i) {
+            crowd.push_back(std::make_unique<Listener>());
+            bus.subscribe(crowd.back().get());
+        }
+    });
+    Listener second;
+    bus.subscribe(&first);
+    bus.subscribe(&second);
+    bus.publish(nullptr);
+    EXPECT_EQ(second.received, 1);
+    EXPECT_EQ(crowd.front()->received, 0) << "one that came during the delivery";
+}
+
+TEST(MessageBus, ForgetsASubscriberThatEnds) {
+    {
+        Listener gone;
+        subscribe<Note>(&gone);
+    }
+    Listener present;
+    subscribe<Note>(&present);
+    publish(Note());
+    EXPECT_EQ(present.received, 1);
+}

@@ -1,0 +1,114 @@
+#include "Framework/Component.h"
+#include "Framework/Engine.h"
+#include "Framework/Game.h"
+#include "Framework/Timer.h"
+#include "platform/headless/VirtualSDL.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+using namespace quorva;
+using headless::sdl;
+
+namespace {
+
+struct BareGame : Game {
+    void process() override {}
+    void update() override {}
+};
+
+/// Counts the beats, and lets `onPass` see every pass.
+struct Metronome : Component {
+    void process() override {
+        ++ticks;
+        sdl().ticks += tickDuration;
+    }
+    void update() override {
+        ++passes;
+        sdl().ticks += passDuration;
+        onPass();
+    }
+    int ticks = 0, passes = 0;
+    std::uint32_t tickDuration = 0, passDuration = 10;
+    std::function<void()> onPass;
+};
+
+class LoopTest : public testing::Test {
+protected:
+    void SetUp() override {
+        sdl().ticks = 1000;
+        Timer::Instance().paused = false;
+        Timer::Instance().reset();
+        Engine::Instance().addComponent(&metronome);
+    }
+    void TearDown() override {
+        Engine::Instance().delComponent(&metronome);
+        Timer::Instance().paused = false;
+    }
+    /// Turns the loop for that many passes.
+    void passes(int count, const std::function<void(int)>& onPass = {}) {
+        BareGame game;
+        metronome.passes = 0;
+        metronome.onPass = [&] {
+            if (onPass) onPass(metronome.passes);
+            if (metronome.passes == count) game.dead = true;
+        };
+        game.mainLoop();
+    }
+
+    Metronome metronome;
+};
+
+} // namespace
+
+TEST_F(LoopTest, TicksEveryThirtyMillisecondsAndUpdatesEveryPass) {
+    passes(31); // ticks fall due after passes 3, 6, ... 30
+    EXPECT_EQ(metronome.ticks, 10);
+    EXPECT_EQ(metronome.passes, 31);
+}
+
+TEST_F(LoopTest, MeasuresFromTheEndOfATickAndMakesNothingUp) {
+    metronome.tickDuration = 100;
+    passes(7); // due at pass 4 (30 ms) and, 30 ms after its end, at pass 7
+    EXPECT_EQ(metronome.ticks, 2);
+}
+
+TEST_F(LoopTest, StandsStillInAPauseButGoesOnUpdating) {
+    TimerClass& timer = Timer::Instance();
+    passes(20, [&](int pass) {
+        if (pass == 1) timer.pauseGame();
+        if (pass == 18) timer.unPauseGame();
+    });
+    EXPECT_EQ(metronome.ticks, 1) << "the first tick after the pause comes at once";
+    EXPECT_EQ(timer.getTicks(), 30U) << "the pause of 170 ms is out of the game's time";
+}
+
+TEST(Timer, CutsTheTimeToTheNextTickToSixteenBits) {
+    const struct {
+        const char* what;
+        std::uint32_t elapsed;
+        std::uint16_t left;
+    } cases[] = {{"just ticked", 0, 30}, {"due now", 30, 0}, {"overdue by one", 31, 65535}};
+    sdl().ticks = 5000;
+    TimerClass timer;
+    for (const auto& c : cases) {
+        sdl().ticks = 5000 + c.elapsed;
+        EXPECT_EQ(timer.getTimeUntilNextProcess(), c.left) << c.what;
+        EXPECT_EQ(timer.isItTimeToProcess(), c.elapsed >= 30) << c.what;
+    }
+}
+
+TEST(Timer, ASecondPauseForgetsTheFirst) {
+    sdl().ticks = 0;
+    TimerClass timer;
+    timer.pauseGame();
+    sdl().ticks = 400;
+    timer.pauseGame();
+    sdl().ticks = 1000;
+    timer.unPauseGame();
+    EXPECT_EQ(timer.getTicks(), 400U);
+    timer.reset();
+    timer.correct(0xFFFFFFFFUL);
+    EXPECT_EQ(timer.getTicks(), 1U) << "times wrap at 32 bits";
+}

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "Framework/Engine.h"
+#include "Framework/physics/PhysicsObject.h"
+#include "Framework/physics/PhysicsProcessor.h"
+#include "game/Bullet.h"
+#include "game/GameBase.h"
+#include "game/GameLevel.h"
+#include "game/Marvo.h"
+#include "game/PlayerCharacter.h"
+#include "game/TrapLine.h"
+#include "game/Triangle.h"
+#include "platform/headless/HeadlessGame.h"
+#include "platform/headless/VirtualSDL.h"
+
+#include <gtest/gtest.h>
+
+/// A running level whose field a test furnishes by hand: nothing spawns, nothing hunts.
+class FieldTest : public testing::Test {
+protected:
+    FieldTest() : run(100) {
+        run.startLevel();
+        level = run.game().level;
+        player = level->player;
+        physics = run.game().physicsProcessor;
+        for (const auto& [id, entity] : quorva::Engine::Instance().entities)
+            if (auto* const triangle = dynamic_cast<Triangle*>(entity)) {
+                triangle->explodes = false;
+                triangle->dead = true;
+            }
+        quorva::Engine::Instance().cleanupDeadEntities();
+        body(player).isActive = false; // nobody kills it unless a test wants so
+    }
+
+    static quorva::physics::PhysicsObject& body(quorva::Entity* e) { return *e->physics; }
+
+    /// A triangle that lies still, with the corners given in world units.
+    Triangle* lay(const quorva::math::Point& a, const quorva::math::Point& b,
+                  const quorva::math::Point& c) {
+        auto* const triangle = quorva::Engine::Instance().createEntity<Triangle>(
+            "Triangle", quorva::math::Point(), 0.0, 1.0);
+        body(triangle).velocity = quorva::math::zero_vector;
+        body(triangle).vertices = {a, b, c};
+        return triangle;
+    }
+    /// A small one about a point.
+    Triangle* layAt(double x, double y) {
+        return lay({x - 0.1, y - 0.1, 0}, {x + 0.1, y - 0.1, 0}, {x, y + 0.1, 0});
+    }
+
+    /// A line that stands, without a bullet.
+    TrapLine* stand(const quorva::math::Point& start, const quorva::math::Point& end) {
+        auto* const bullet =
+            quorva::Engine::Instance().createEntity<Bullet>("Bullet", end, quorva::math::Vector());
+        PhysicsLineMessage message;
+        message.position = start;
+        message.bullet = bullet;
+        message.horizontal = start.y == end.y;
+        const std::size_t before = physics->lines.size();
+        quorva::publish(message);
+        bullet->dead = true;
+        if (physics->lines.size() == before) return nullptr; // refused
+        TrapLine* const line = physics->lines.back();
+        line->bullet = nullptr;
+        line->end = end;
+        return line;
+    }
+    TrapLine* across(double y, double x1, double x2) { return stand({x1, y, 0}, {x2, y, 0}); }
+    TrapLine* upright(double x, double y1, double y2) { return stand({x, y1, 0}, {x, y2, 0}); }
+
+    template <class T>
+    static int countOf() {
+        int count = 0;
+        for (const auto& [id, entity] : quorva::Engine::Instance().entities)
+            if (dynamic_cast<T*>(entity) != nullptr) ++count;
+        return count;
+    }
+
+    quorva::headless::HeadlessGame run;
+    GameLevel* level;
+    PlayerCharacter* player;
+    quorva::physics::PhysicsProcessor* physics;
+};

@@ -1,0 +1,32 @@
+#!/bin/sh
+# Installs those of the named groups' Debian packages that are missing: build, test.
+set -eu
+
+packages=""
+for group in "$@"; do
+    case "$group" in
+    build) packages="$packages g++ cmake ninja-build pkg-config libsdl1.2-dev libglew-dev
+        libgl-dev libglu1-mesa-dev libftgl-dev libfreetype-dev libloki-dev libboost-dev
+        libboost-filesystem-dev libgl1-mesa-dri" ;;
+    test) packages="$packages libgtest-dev clang-format" ;;
+    *) echo "install_packages.sh: no such group: $group" >&2; exit 2 ;;
+    esac
+done
+
+missing=""
+for package in $packages; do
+    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
+        missing="$missing $package"
+done
+[ -n "$missing" ] || exit 0
+
+echo "Installing:$missing"
+as_root=""
+if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "Please install these packages as root first." >&2; exit 1; }
+    as_root=sudo
+fi
+export DEBIAN_FRONTEND=noninteractive
+$as_root apt-get update -qq
+# shellcheck disable=SC2086 # a list of words
+$as_root apt-get install -y -qq --no-install-recommends $missing >/dev/null
