@@ -95,9 +95,9 @@ TEST_F(ActorsTest, PickUpsImproveWithinTheirBounds) {
     for (int i = 0; i < 20; ++i)
         give<PupCooldown>();
     EXPECT_EQ(player->cooldown, 5);
-    Triangle* const triangle = layAt(9, 9);
+    const unsigned long triangle = layAt(9, 9)->id;
     give<BombClear>();
-    EXPECT_EQ(engine().getEntity(triangle->id), nullptr) << "a clear bomb";
+    EXPECT_EQ(engine().getEntity(triangle), nullptr) << "a clear bomb";
     player->invulnerable = false;
     player->invulnerableTicks = 3;
     give<BombImmune>();
