@@ -1,0 +1,308 @@
+#include "Framework/Config.h"
+#include "Framework/GameInfo.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <functional>
+#include <sstream>
+
+using namespace quorva;
+using namespace quorva::config;
+
+namespace {
+
+constexpr const char* file_name = "settings-under-test.conf";
+
+class ConfigTest : public testing::Test {
+protected:
+    void SetUp() override {
+        GameInfoClass& info = GameInfo::Instance();
+        info.title = "KOV";
+        info.version = "1.0";
+        info.configFile = file_name;
+    }
+    void TearDown() override {
+        GameInfo::Instance().configFile = "game.conf";
+        std::remove(file_name);
+        std::remove((std::string(file_name) + ".bak").c_str());
+    }
+    static void write(const std::string& text) { std::ofstream(file_name) << text; }
+    static std::string read(const std::string& name) {
+        std::ifstream file(name);
+        std::ostringstream text;
+        text << file.rdbuf();
+        return file ? text.str() : "no such file";
+    }
+    static std::string errorsOf(const std::function<void()>& act) {
+        testing::internal::CaptureStderr();
+        act();
+        return testing::internal::GetCapturedStderr();
+    }
+    static int reasonOf(const std::function<void()>& act) {
+        try {
+            act();
+        } catch (const ConfigValueException& e) {
+            return e.reason;
+        }
+        return -1;
+    }
+};
+
+const std::string usage = "Usage: kov [OPTION]...\nTry `kov --help` for more information.\n";
+
+} // namespace
+
+TEST_F(ConfigTest, ValuesAreCheckedAgainstTheListOrElseTheRange) {
+    ConfigValuesT table;
+    const struct {
+        char letter;
+        int value;
+        bool good;
+    } cases[] = {{'w', 479, false}, {'w', 480, true},   {'w', 1920, true},   {'w', 1921, false},
+                 {'c', 24, false},  {'c', 16, true},    {'r', 20000, false}, {'z', 0, false},
+                 {'z', 1000, true}, {'z', 1001, false}, {'k', 17, false},    {'y', 32768, true}};
+    for (const auto& c : cases) {
+        const int reason = reasonOf([&] { table.setValue(c.letter, c.value); });
+        EXPECT_EQ(reason, c.good ? -1 : 1) << c.letter << ' ' << c.value;
+        if (c.good) {
+            EXPECT_EQ(table.getIntVal(c.letter), c.value);
+        }
+    }
+}
+
+TEST_F(ConfigTest, AKeyAloneChoosesTheValueOfAFlag) {
+    ConfigValuesT table;
+    const struct {
+        const char* key;
+        int value;
+        const char* flag;
+        bool stored;
+    } cases[] = {{"f", 0, "FullScreen", true},
+                 {"F", 1, "FullScreen", false},
+                 {"S", 1, "PlaySound", false},
+                 {"FullScreen", 0, "FullScreen", true},
+                 {"NoFullScreen", 1, "FullScreen", false},
+                 {"NoPlaySound", 1, "PlaySound", false},
+                 {"NoUseJoystick", 1, "UseJoystick", false}};
+    for (const auto& c : cases) {
+        const std::string key = c.key;
+        if (key.size() == 1)
+            table.setValue(key[0], c.value);
+        else
+            table.setValue(key, c.value);
+        EXPECT_EQ(table.getBoolVal(c.flag), c.stored) << key;
+    }
+    EXPECT_FALSE(table.getBoolVal("NoFullScreen")) << "a negative entry keeps its own value";
+}
+
+TEST_F(ConfigTest, TellsUnknownKeysFromBadValues) {
+    ConfigValuesT table;
+    EXPECT_EQ(reasonOf([&] { table.setValue('q', 1); }), 0);
+    EXPECT_EQ(reasonOf([&] { table.setValue("q", 1); }), 1) << "shorter than the prefix";
+    EXPECT_EQ(reasonOf([&] { table.setValue("Quite", 1); }), 0);
+    EXPECT_EQ(reasonOf([&] { table.setValue("No", 1); }), 0);
+    EXPECT_EQ(reasonOf([&] { table.setValue('w', quality_low); }), 1);
+    EXPECT_EQ(reasonOf([&] { table.getIntVal("Quite"); }), 1);
+    EXPECT_EQ(reasonOf([&] { table.setDefault("Quite"); }), 0);
+    EXPECT_EQ(reasonOf([&] { ConfigClass().getConfigValueInfo('q'); }), 0);
+}
+
+TEST_F(ConfigTest, StepsWrapAtTheEndsOfRangesAndLists) {
+    ConfigValuesT table;
+    EXPECT_EQ(table.getNextIntVal('c'), 16);
+    EXPECT_EQ(table.getNextIntVal('g'), 0);
+    EXPECT_EQ(table.getPrevIntVal("EffectsVolume"), 99);
+    table.setValue('r', 10250);
+    EXPECT_EQ(table.getPrevIntVal('r'), 41000);
+    EXPECT_EQ(table.getNextIntVal('r'), 20500);
+    EXPECT_TRUE(table.getNextBoolVal("FullScreen"));
+}
+
+TEST_F(ConfigTest, SettersReportAndFallBackOnTheDefault) {
+    ConfigClass config;
+    const struct {
+        std::function<void()> act;
+        const char* errors;
+    } cases[] = {
+        {[&] { config.setScreenWidth(100); }, "Invalid ScreenWidth , using default: 800\n"},
+        {[&] { config.setRate(100); }, "Invalid Rate, using default: 41000\n"},
+        {[&] { config.setMusicVolume(101); }, "Invalid MusicVolume , using default: 100\n"},
+        {[&] { config.setActiveJoystick(17); }, "Invalid ActiveJoystick, using default: 0\n"},
+        {[&] { config.setScreenWidth(1024); }, ""},
+        {[&] { config.setPlaySound(false); }, ""},
+        {[&] { config.setJoystickSupport(false); }, ""},
+        {[&] {
+             config.getConfigValues().boolValues.clear();
+             config.setFullScreen(true);
+         },
+         "Couldn't set FullScreen\n"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(errorsOf(c.act), c.errors);
+    EXPECT_EQ(config.getScreenWidth(), 800) << "pending until it is activated";
+    EXPECT_FALSE(config.configActivated());
+    config.activateConfig();
+    EXPECT_EQ(config.getScreenWidth(), 1024);
+    EXPECT_TRUE(config.getPlaySound()) << "a lost setting falls back";
+}
+
+TEST_F(ConfigTest, JoystickSupportCannotBeTurnedOffByItsSetter) {
+    ConfigClass config;
+    config.setJoystickSupport(false);
+    config.activateConfig();
+    EXPECT_TRUE(config.getJoyStickSupport());
+    config.getConfigValues().setValue("NoUseJoystick", 0);
+    config.activateConfig();
+    EXPECT_FALSE(config.getJoyStickSupport());
+}
+
+TEST_F(ConfigTest, ReadsTheFileLoosely) {
+    const struct {
+        const char* what;
+        const char* text;
+        int width;
+        const char* errors;
+    } cases[] = {
+        {"plain", "ScreenWidth=1024", 1024, ""},
+        {"blanks everywhere", "   ScreenWidth   =   1024  \r", 1024, ""},
+        {"a run of separators", "ScreenWidth == 1024", 1024, ""},
+        {"comment", "#ScreenWidth=1024", 800, ""},
+        {"no value", "ScreenWidth =", 800, ""},
+        {"three fields", "ScreenWidth = 1024 = 5", 800, ""},
+        {"other case", "screenwidth = 1024", 800, ""},
+        {"the first counts", "ScreenWidth = 1024\nScreenWidth = 640", 1024, ""},
+        {"cut to sixteen bits", "ScreenWidth = 66336", 800, ""},
+        {"too large", "ScreenWidth = 4000", 800, "Invalid ScreenWidth , using default: 800\n"},
+        {"no number", "ScreenWidth = wide", 800, "Invalid ScreenWidth , using default: 800\n"},
+        {"unknown", "Depth = 3", 800, ""},
+    };
+    for (const auto& c : cases) {
+        write(c.text);
+        ConfigClass config;
+        EXPECT_EQ(errorsOf([&] { config.readFile(); }), c.errors) << c.what;
+        EXPECT_EQ(config.getScreenWidth(), c.width) << c.what;
+    }
+    write("FullScreen = yes\nPlayMusic = 0\nInvertJoystickAxis = 1\nUseJoystick = 0");
+    ConfigClass config;
+    config.readFile();
+    EXPECT_FALSE(config.getFullScreen()) << "a word counts as 0";
+    EXPECT_FALSE(config.getPlayMusic());
+    EXPECT_FALSE(config.getInvertJoystick()) << "never restored";
+    EXPECT_TRUE(config.getJoyStickSupport()) << "always restored as true";
+}
+
+TEST_F(ConfigTest, WritesWhatItReadsAndAnEmptyBackup) {
+    const std::string backup = std::string(file_name) + ".bak";
+    {
+        ConfigClass config;
+        config.setScreenWidth(1280);
+        config.setSaveCPU(true);
+        config.activateConfig();
+        config.setScreenHeight(720); // pending only
+        config.saveConfig();
+    }
+    EXPECT_EQ(read(file_name),
+              "#Config file for: KOV. v.1.0\nScreenWidth = 1280\nScreenHeight = 600\n"
+              "ColourDepth = 32\nFullScreen = 0\nAntiAlias = 1\nCompatibility = 1\n"
+              "UseJoystick = 1\nActiveJoystick = 0\nJoystickSensitivity = 3200\n"
+              "InvertJoystickAxis = 0\nRate = 41000\nChannels = 40\nPlaySound = 1\n"
+              "PlayMusic = 1\nMusicVolume = 100\nEffectsVolume = 100\nIgnoreTime = 0\n"
+              "CollisionAccuracy = 10\nSaveCPU = 1\n#eof\n");
+    EXPECT_EQ(read(backup), "no such file") << "there was nothing to keep";
+    ConfigClass config;
+    config.readFile();
+    EXPECT_EQ(config.getScreenWidth(), 1280);
+    EXPECT_TRUE(config.getSaveCPU());
+    config.saveConfig();
+    EXPECT_EQ(read(backup), "");
+}
+
+TEST_F(ConfigTest, TakesArgumentsAndTellsWhetherToStart) {
+    const struct {
+        const char* argument;
+        bool starts, explains;
+        std::function<int(const ConfigClass&)> setting;
+        int value;
+    } cases[] = {
+        {"foo", false, true, {}, 0},
+        {"foo=bar", true, false, {}, 0},
+        {"", false, true, {}, 0},
+        {"-", false, true, {}, 0},
+        {"--", false, true, {}, 0},
+        {"-=5", false, true, {}, 0},
+        {"--=5", false, true, {}, 0},
+        {"--ScreenWidth=", true, true, &ConfigClass::getScreenWidth, 800},
+        {"--ScreenWidth=640=5", true, true, &ConfigClass::getScreenWidth, 800},
+        {"--ScreenWidth=640", true, false, &ConfigClass::getScreenWidth, 640},
+        {" -w==1024 ", true, false, &ConfigClass::getScreenWidth, 1024},
+        {"-w = 1024", true, false, &ConfigClass::getScreenWidth, 1024},
+        {"-w=99999999999999999999", false, true, &ConfigClass::getScreenWidth, 800},
+        {"-wx=5", false, true, {}, 0},
+        {"-w", false, true, {}, 0},
+        {"-fx", false, true, {}, 0},
+        {"-r=20500", true, false, &ConfigClass::getRate, 20500},
+        {"-r=20000", false, true, &ConfigClass::getRate, 41000},
+        {"-f=0", true, false, &ConfigClass::getFullScreen, 1},
+        {"-x", true, false, &ConfigClass::getIgnoreTime, 1},
+        {"-S", true, false, &ConfigClass::getPlaySound, 0},
+        {"--NoPlaySound", true, false, &ConfigClass::getPlaySound, 0},
+        {"--NoUseJoystick", true, false, &ConfigClass::getJoyStickSupport, 0},
+        {"--Fullscreen", false, true, &ConfigClass::getFullScreen, 0},
+        {"-\xe4", false, true, {}, 0},
+    };
+    for (const auto& c : cases) {
+        ConfigClass config;
+        bool starts = false;
+        const std::string errors =
+            errorsOf([&] { starts = config.parseCmdLineArgs("kov", c.argument); });
+        EXPECT_EQ(starts, c.starts) << c.argument;
+        EXPECT_EQ(errors, c.explains ? usage : "") << c.argument;
+        config.activateConfig();
+        if (c.setting) {
+            EXPECT_EQ(c.setting(config), c.value) << c.argument;
+        }
+    }
+}
+
+TEST_F(ConfigTest, HelpListsEverySettingInItsSection) {
+    for (const char* argument : {"-h", "--help"}) {
+        ConfigClass config;
+        testing::internal::CaptureStdout();
+        EXPECT_FALSE(config.parseCmdLineArgs("./game", argument));
+        EXPECT_EQ(
+            testing::internal::GetCapturedStdout(),
+            "Usage: ./game [OPTIONS]...\nAll flags are case-sensitive.\nVideo Options:\n"
+            "  -w, --ScreenWidth\t\t=[NUM] Set Height at the same time\n"
+            "  -l, --ScreenHeight\t\t=[NUM] Set Width at the same time\n"
+            "  -c, --ColourDepth\t\t=[16|32] bit colour\n"
+            "  -f, --FullScreen\t\tForces Fullscreen.\n"
+            "  -F, --NoFullScreen\t\tForces Windowed.\n"
+            "  -a, --AntiAlias\t\tForces AntiAlias.\n"
+            "  -A, --NoAntiAlias\t\tForces Non-AntiAlias.\n"
+            "  -o, --Compatibility\t\tForces Graphic Compatibility.\n"
+            "  -O, --NoCompatibility\t\tForces No Graphic Compatibility. (non ATI/NV)\n\n"
+            "Sound Options:\n"
+            "  -r, --Rate\t\t\t=[10250|20500|41000] Set Audio Rate.\n"
+            "  -n, --Channels\t\t=[NUM] (10-255) Software Audio Channels.\n"
+            "  -g, --EffectsVolume\t\t=[NUM] (0-100)\n"
+            "  -h, --MusicVolume\t\t=[NUM] (0-100)\n"
+            "  -s, --PlaySound\t\tEnables Playing sound\n"
+            "  -m, --PlayMusic\t\tEnables Playing music\n\n"
+            "Input Options:\n"
+            "  -k, --ActiveJoystick\t\t=[NUM] Sets which Joystick to use (default=0)\n"
+            "  -y, --JoystickSensitivity\t=[0-32768] Sets Joystick Sens (default=3200)\n"
+            "  -j, --UseJoystick\t\tEnables Joystick Support\n"
+            "  -J, --NoUseJoystick\t\tDisables Joystick Support\n"
+            "  -e, --InvertJoystickAxis\tDon't Invert joystick Y axis\n"
+            "  -E, --NoInvertJoystickAxis\tInvert joystick Y axis\n\n"
+            "Effects:\nMisc:\n"
+            "  -z, --CollisionAccuracy\t=[1-1000] Sets sweep test range (EXPERT ONLY)\n"
+            "  -x, --IgnoreTime\t\tCauses the game to run as fast as possible\n"
+            "  -X, --NoIgnoreTime\t\tCauses the game to run normally\n"
+            "  -u, --SaveCPU\t\tMakes the game sleep while not processing (experimental)\n"
+            "  -U, --NoSaveCPU\t\tMakes the game process as fast as it can (using 100% CPU)\n\n")
+            << argument;
+    }
+}

@@ -1,0 +1,299 @@
+#include "Framework/Config.h"
+#include "Framework/MessageHandler.h"
+#include "Framework/input/InputHandler.h"
+#include "Framework/input/Joystick.h"
+#include "Framework/input/KeyMapper.h"
+#include "Framework/input/MenuInputHandler.h"
+#include "platform/headless/VirtualSDL.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <fstream>
+#include <sstream>
+
+using namespace quorva;
+using namespace quorva::input;
+using headless::pushAxisMotion;
+using headless::pushButton;
+using headless::pushKey;
+using headless::sdl;
+
+namespace {
+
+/// Writes down what the handlers publish.
+struct Recorder : MessageInterface<messages::PlayerInput>,
+                  MessageInterface<messages::MenuMove>,
+                  MessageInterface<messages::EndGame>,
+                  MessageInterface<messages::EndLevel>,
+                  MessageInterface<messages::LiteralCharacter> {
+    Recorder() {
+        subscribe<messages::PlayerInput>(this);
+        subscribe<messages::MenuMove>(this);
+        subscribe<messages::EndGame>(this);
+        subscribe<messages::EndLevel>(this);
+        subscribe<messages::LiteralCharacter>(this);
+    }
+    void receiveMessage(const messages::PlayerInput* m) override {
+        out << m->move.x << ',' << m->move.y;
+        if (m->fire.x != 0 || m->fire.y != 0) out << " fire " << m->fire.x << ',' << m->fire.y;
+        out << (m->pause ? " pause; " : "; ");
+    }
+    void receiveMessage(const messages::MenuMove* m) override {
+        out << (m->select   ? "select"
+                : m->escape ? "escape"
+                : m->up     ? "up"
+                : m->down   ? "down"
+                : m->left   ? "left"
+                : m->right  ? "right"
+                            : "none")
+            << "; ";
+    }
+    void receiveMessage(const messages::EndGame*) override { out << "EndGame; "; }
+    void receiveMessage(const messages::EndLevel*) override { out << "EndLevel; "; }
+    void receiveMessage(const messages::LiteralCharacter* m) override {
+        out << m->character << "; ";
+    }
+    std::string take() {
+        const std::string text = out.str();
+        out.str("");
+        return text;
+    }
+    std::ostringstream out;
+};
+
+class InputTest : public testing::Test {
+protected:
+    void SetUp() override {
+        sdl().events.clear();
+        keys.keys.clear();
+        const struct {
+            const char* action;
+            int key, button;
+        } actions[] = {{"Menu Select", SDLK_RETURN, 2},   {"Menu Escape", SDLK_ESCAPE, 8},
+                       {"Game Pause", SDLK_p, no_button}, {"Up", SDLK_UP, no_button},
+                       {"Down", SDLK_DOWN, no_button},    {"Left", SDLK_LEFT, no_button},
+                       {"Right", SDLK_RIGHT, no_button},  {"Fire Up", SDLK_w, 3},
+                       {"Fire Right", SDLK_d, no_button}};
+        for (const auto& a : actions)
+            keys.addMappableKey(a.action, static_cast<QuorvaKey>(a.key),
+                                static_cast<QuorvaJKey>(a.button), 0);
+        JoystickClass& joystick = Joystick::Instance();
+        joystick.joysticks.clear();
+        sdl().axes = {};
+        joystick.joysticks.push_back(
+            std::make_unique<JoystickInfo>(JoystickInfo{"stick", 4, 16, SDL_JoystickOpen(0)}));
+        joystick.sensitivity = 3200;
+    }
+    void TearDown() override {
+        keys.keys.clear();
+        Joystick::Instance().joysticks.clear();
+        std::remove("bind1.conf");
+    }
+    std::string play(Component& handler) {
+        handler.update();
+        return recorder.take();
+    }
+    std::string stick(Component& handler, int x, int y) {
+        sdl().axes[0] = {static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0, 0};
+        pushAxisMotion();
+        return play(handler);
+    }
+    std::string bind(const std::string& text) {
+        std::ofstream("bind1.conf") << text;
+        testing::internal::CaptureStderr();
+        keys.readBindFiles();
+        return testing::internal::GetCapturedStderr();
+    }
+
+    KeyMapperClass& keys = KeyMapper::Instance();
+    Recorder recorder;
+};
+
+} // namespace
+
+TEST_F(InputTest, NewestOfTwoOppositeKeysWinsAndFallsBack) {
+    InputHandler handler;
+    const struct {
+        int key;
+        bool down;
+        const char* published;
+    } steps[] = {{SDLK_LEFT, true, "-1,0; "},   {SDLK_RIGHT, true, "1,0; "},
+                 {SDLK_RIGHT, false, "-1,0; "}, {SDLK_RIGHT, true, "1,0; "},
+                 {SDLK_LEFT, false, "1,0; "},   {SDLK_RIGHT, false, "0,0; "},
+                 {SDLK_UP, true, "0,1; "},      {SDLK_DOWN, true, "0,-1; "},
+                 {SDLK_DOWN, false, "0,1; "},   {SDLK_UP, false, "0,0; "}};
+    for (const auto& step : steps) {
+        pushKey(step.key, step.down);
+        EXPECT_EQ(play(handler), step.published) << step.key << (step.down ? " down" : " up");
+    }
+}
+
+TEST_F(InputTest, FiresOnceAPressWhileTheMoveStays) {
+    InputHandler handler;
+    pushKey(SDLK_RIGHT, true);
+    pushKey(SDLK_w, true);
+    pushKey(SDLK_p, true);
+    pushButton(3, true);
+    pushButton(3, false);
+    pushButton(4, true); // bound to nothing
+    EXPECT_EQ(play(handler), "1,0; 1,0 fire 0,1; 1,0 pause; 1,0 fire 0,1; ");
+    keys.keys[7]->key = SDLK_UP; // one key for two actions
+    pushKey(SDLK_UP, true);
+    EXPECT_EQ(play(handler), "1,1 fire 0,1; ");
+    pushKey(SDLK_ESCAPE, true);
+    pushButton(8, true);
+    EXPECT_EQ(play(handler), "EndLevel; EndLevel; ");
+}
+
+TEST_F(InputTest, AClosedWindowLeavesTheRestOfTheQueue) {
+    InputHandler handler;
+    handler.dirty[0] = true;
+    headless::pushQuit();
+    pushKey(SDLK_RIGHT, true);
+    EXPECT_EQ(play(handler), "EndGame; ");
+    EXPECT_EQ(play(handler), "1,0; ");
+}
+
+TEST_F(InputTest, AxesCountBeyondTheirThresholdUnalike) {
+    InputHandler handler;
+    const struct {
+        int x, y;
+        const char* published;
+    } cases[] = {{3200, -3200, "0,0; "},         {3201, 0, "0.0976897,0; "},
+                 {-32768, 0, "-1.00003,0; "},    {0, -3201, "0,3.05185e-05; "},
+                 {0, 32767, "0,-3.05185e-05; "}, {0, 0, "0,0; "}};
+    for (const auto& c : cases)
+        EXPECT_EQ(stick(handler, c.x, c.y), c.published);
+    EXPECT_TRUE(handler.leftHeld && handler.rightHeld && handler.upHeld && handler.downHeld)
+        << "only keys clear these";
+}
+
+TEST_F(InputTest, DriversMaySetEveryPlayer) {
+    InputHandler handler;
+    handler.xDown(2, 32767);
+    handler.yDown2(3, -32767);
+    EXPECT_EQ(handler.playerInputs[2].move.x, 1.0);
+    EXPECT_TRUE(handler.rightHeld);
+    EXPECT_EQ(handler.playerInputs[3].fire.y, -1.0);
+    handler.xUp(2);
+    EXPECT_EQ(handler.playerInputs[2].move.x, 0.0);
+    handler.yDown(0, 0);
+    EXPECT_TRUE(handler.downHeld && !handler.upHeld) << "less than one counts as down";
+    EXPECT_EQ(play(handler), "") << "published with the next event";
+}
+
+TEST_F(InputTest, MenusMatchByKeyOrButton) {
+    MenuInputHandler handler;
+    for (const int key : {SDLK_RIGHT, SDLK_LEFT, SDLK_UP, SDLK_DOWN, SDLK_RETURN, SDLK_ESCAPE})
+        pushKey(key, true);
+    EXPECT_EQ(play(handler), "right; left; up; down; select; escape; ");
+    pushKey(SDLK_RIGHT, false);
+    pushKey(SDLK_UP, false);
+    pushButton(2, true);
+    pushButton(2, false);
+    pushKey(SDLK_5, true);
+    pushKey(SDLK_KP5, true);
+    EXPECT_EQ(play(handler), "none; select; 5; 5; ");
+    keys.keys[0]->jsButton = 1; // JOY2: every key press carries a 1 in that place
+    pushKey(SDLK_UP, true);
+    EXPECT_EQ(play(handler), "up; select; ");
+}
+
+TEST_F(InputTest, MenusStepByTheStickWithADelayUpAndDownAlone) {
+    MenuInputHandler handler;
+    EXPECT_EQ(stick(handler, 0, -3200), "");
+    EXPECT_EQ(stick(handler, 0, -3201), "up; ");
+    EXPECT_EQ(stick(handler, 0, -9000), "") << "delayed";
+    for (int i = 0; i < 4; ++i)
+        handler.process();
+    EXPECT_EQ(stick(handler, 0, 9000), "");
+    handler.process();
+    EXPECT_EQ(stick(handler, 0, 9000), "down; ");
+    EXPECT_EQ(stick(handler, -9000, 0), "left; ");
+    EXPECT_EQ(stick(handler, -9000, 0), "") << "nothing new";
+    EXPECT_EQ(stick(handler, -9001, 0), "left; ");
+    EXPECT_EQ(stick(handler, 9001, 0), "right; ");
+
+    auto& settings = config::Config::Instance();
+    settings.getConfigValues().setValue("NoUseJoystick", 0);
+    settings.activateConfig();
+    EXPECT_EQ(stick(handler, 9002, 9002), "");
+    pushButton(8, true);
+    EXPECT_EQ(play(handler), "escape; ");
+    settings.setDefaults();
+    settings.activateConfig();
+}
+
+TEST_F(InputTest, KnowsTheWordsOfKeysAndButtons) {
+    const struct {
+        const char* word;
+        int key;
+        const char* errors;
+    } words[] = {{"return", 13, ""},
+                 {"Enter", 13, ""},
+                 {"5", 53, ""},
+                 {";", 59, ""},
+                 {"z", 122, ""},
+                 {"NUM0", 256, ""},
+                 {"num=", 272, ""},
+                 {"F1", 282, ""},
+                 {"LEFT", 276, ""},
+                 {"RWINDOWS", 312, ""},
+                 {"f2", 323, "Key not found: F2\n"},
+                 {"JOY", 323, "Key not found: JOY\n"}};
+    for (const auto& w : words) {
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(keyFromWord(w.word), w.key) << w.word;
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), w.errors);
+    }
+    EXPECT_EQ(jsbuttonFromWord("JOY1"), 0);
+    EXPECT_EQ(jsbuttonFromWord("JOY16"), 15);
+    for (const char* word : {"JOY0", "JOY17", "joy1", "JOY"})
+        EXPECT_EQ(jsbuttonFromWord(word), no_button) << word;
+    EXPECT_FALSE(keys.addMappableKey("Up", 1, 1, 0));
+    EXPECT_TRUE(keys.addMappableKey("Up", 1, 1, 1));
+}
+
+TEST_F(InputTest, BindsByFile) {
+    EXPECT_EQ(bind("# a comment\n\n  Fire Up ,, UP,JOY16 \nGame Pause, k\nGame Pause\nUp,a,b,c\n"),
+              "");
+    EXPECT_EQ(keys.getButton("Fire Up", 0)->key, SDLK_UP);
+    EXPECT_EQ(keys.getButton("Fire Up", 0)->jsButton, 15);
+    EXPECT_EQ(keys.getButton("Game Pause", 0)->key, SDLK_k);
+    EXPECT_EQ(keys.getButton("Up", 0)->key, SDLK_UP);
+    EXPECT_EQ(bind("Unknown Action, P\nUp, joy1\nDown, x, y\nLeft, JOY99\n"),
+              "Couldn't find key: Unknown Action\nKey not found: JOY1\n");
+    EXPECT_EQ(keys.getButton("Up", 0)->key, unknown_key);
+    EXPECT_EQ(keys.getButton("Down", 0)->key, SDLK_y) << "the second word is in force";
+    EXPECT_EQ(keys.getButton("Left", 0)->jsButton, no_button);
+    std::remove("bind1.conf");
+    testing::internal::CaptureStderr();
+    keys.readBindFiles();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Can't read bind1.conf\n");
+}
+
+TEST_F(InputTest, JoysticksThatDoNotOpenAreLeftOut) {
+    sdl().joysticks = 3;
+    sdl().refusedJoystick = 0;
+    sdl().axes[1] = {7, 8, 9, 10};
+    JoystickClass sticks;
+    EXPECT_EQ(sticks.joysticks.size(), 2U);
+    EXPECT_EQ(sticks.getXAxis() + sticks.getYAxis() + sticks.get2ndXAxis() + sticks.get2ndYAxis(),
+              34);
+    testing::internal::CaptureStderr();
+    sticks.changePlayer1ActiveJoystick(1);
+    EXPECT_EQ(sticks.getXAxis(), 0);
+    sticks.changePlayer1ActiveJoystick(2);
+    EXPECT_EQ(sticks.getXAxis(), 7);
+    sticks.joysticks.clear();
+    sticks.changePlayer1ActiveJoystick(0);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+              "Joystick: 2 not found.  Activating joystick 0\nNo active joysticks found.\n");
+    EXPECT_EQ(sticks.get2ndYAxis(), 0);
+    sdl().joysticks = 0;
+    sdl().refusedJoystick = -1;
+    const JoystickClass none;
+    EXPECT_FALSE(none.joystickPresent());
+    EXPECT_EQ(none.getSensitivity(), 0);
+}

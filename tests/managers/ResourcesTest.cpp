@@ -1,0 +1,170 @@
+#include "Framework/Managers/ColourManager.h"
+#include "Framework/Managers/FontManager.h"
+#include "Framework/Managers/PointManager.h"
+
+#include <boost/filesystem.hpp>
+#include <gtest/gtest.h>
+
+#include <fstream>
+
+using namespace quorva;
+using graphics::Colour;
+using graphics::Font;
+using resources::Property;
+using resources::ResourceTraits;
+
+namespace {
+
+/// A scope of its own, with files of its own, beside the game's read-only data.
+class ResourcesTest : public testing::Test {
+protected:
+    void SetUp() override {
+        GameInfo::Instance().homeDirectory = ".kov";
+        boost::filesystem::rename("data", "shipped"); // a link
+        boost::filesystem::create_directories("data/level");
+        std::ofstream("data/Colour.kov") << "Base,1 0 0 1\nBase,0 1 0 1\nOther,0 0 1 1\n";
+        std::ofstream("data/level/Colour.kov") << "Base,0 0 0 1\nNew,1 1 1 1\n";
+    }
+    void TearDown() override {
+        boost::filesystem::remove_all("data");
+        boost::filesystem::rename("shipped", "data");
+    }
+    static float green(ResourceManager<Colour, true>& manager, const char* name) {
+        return manager.getV(name).green();
+    }
+};
+
+template <class T>
+bool parse(std::string line, std::string& name, T& value) {
+    return ResourceTraits<T>::parseLine(line, name, value);
+}
+
+} // namespace
+
+TEST_F(ResourcesTest, GivesByNameAndMakesWhatIsMissing) {
+    ResourceManager<Colour, true> manager;
+    EXPECT_EQ(green(manager, "Base"), 1.0F) << "of two lines the last counts";
+    Colour& unknown = manager.getV("Unknown");
+    EXPECT_EQ(unknown.alpha(), 0.5F);
+    unknown = graphics::colours::pink;
+    EXPECT_EQ(&manager.getV("Unknown"), &unknown);
+    EXPECT_EQ(green(manager, "Unknown"), 0.5F);
+    resources::ResourceManagerManager::Instance().removeResourceManager(&manager);
+}
+
+TEST_F(ResourcesTest, ScopesShadowAndCloseForgetsBoth) {
+    ResourceManager<Colour, true> manager;
+    Colour* const held = &manager.getV("Base");
+    manager.load("level");
+    EXPECT_EQ(manager.filename, "data/level/Colour.kov");
+    EXPECT_EQ(&manager.getV("Base"), held) << "what holds it goes on holding it";
+    EXPECT_EQ(green(manager, "Base"), 0.0F);
+    EXPECT_EQ(manager.shadowed.count("Base"), 1U);
+    manager.close("none");
+    EXPECT_EQ(manager.resources.size(), 3U);
+    manager.close("level");
+    EXPECT_EQ(manager.resources.count("Base") + manager.resources.count("New"), 0U);
+    EXPECT_TRUE(manager.shadowed.empty());
+    EXPECT_EQ(green(manager, "Base"), 1.0F) << "white, and not what stood there before";
+    EXPECT_EQ(manager.getV("Base").alpha(), 0.5F);
+    EXPECT_EQ(manager.getV("Other").blue(), 1.0F);
+    resources::ResourceManagerManager::Instance().removeResourceManager(&manager);
+}
+
+TEST_F(ResourcesTest, ReportsAMissingFileAndStaysOfUse) {
+    boost::filesystem::remove("data/Colour.kov");
+    testing::internal::CaptureStderr();
+    ResourceManager<Colour, true> manager;
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "Can't readColour file: data/Colour.kov\n");
+    EXPECT_EQ(manager.getV("Base").alpha(), 0.5F);
+    resources::ResourceManagerManager::Instance().removeResourceManager(&manager);
+}
+
+TEST_F(ResourcesTest, TheirManagerKnowsEachOnce) {
+    resources::ResourceManagerManagerClass all;
+    EXPECT_EQ(all.getName(), "ResourceManagerManger");
+    ResourceManager<Colour, true> one, two;
+    for (auto* manager : {&two, &one, &two, &one})
+        all.addResourceManager(manager);
+    all.addResourceManager(nullptr);
+    EXPECT_EQ(all.managers.size(), 2U);
+    all.load("level");
+    EXPECT_EQ(green(one, "New") + green(two, "New"), 2.0F);
+    all.close("level");
+    all.removeResourceManager(&one);
+    all.removeResourceManager(&one);
+    all.removeResourceManager(nullptr);
+    EXPECT_EQ(all.managers.size(), 1U);
+    for (auto* manager : {&one, &two})
+        resources::ResourceManagerManager::Instance().removeResourceManager(manager);
+}
+
+TEST(ResourceLines, OfColours) {
+    const struct {
+        const char* line;
+        bool taken;
+        const char* name;
+        float blue;
+    } cases[] = {
+        {"Border Colour,1 0 0.5 1", true, "Border Colour", 0.5F},
+        {"Border Colour ,1 0 1 1", true, "Border Colour ", 1.0F},
+        {"Wide,  1   0  0.5   1 \r", true, "Wide", 0.5F},
+        {"Short,1 0 1", false, "", 0},
+        {"Long,1 0 1 1 1", false, "", 0},
+        {"Two,1 0 1 1,x", false, "", 0},
+        {"Words,red green blue alpha", true, "Words", 0.0F},
+        {"", false, "", 0},
+    };
+    for (const auto& c : cases) {
+        std::string name;
+        Colour value;
+        EXPECT_EQ(parse(c.line, name, value), c.taken) << c.line;
+        EXPECT_EQ(name, c.name) << c.line;
+        EXPECT_EQ(value.blue(), c.blue) << c.line;
+    }
+}
+
+TEST(ResourceLines, OfPoints) {
+    const struct {
+        const char* line;
+        bool taken;
+        const char* name;
+        double z;
+    } cases[] = {
+        {"Place,1#2#3#", true, "Place", 3},
+        {" Place , 1#2#3#4#", true, "Place", 3},
+        {"Place,1#2#3", false, "", 0},
+        {"Place,1#2#3#4#5#6", false, "", 0},
+        {"", true, "", 0},
+        {"a,b,c", true, "", 0},
+    };
+    for (const auto& c : cases) {
+        std::string name;
+        Property<math::Point> value;
+        EXPECT_EQ(parse(c.line, name, value), c.taken) << c.line;
+        EXPECT_EQ(name, c.name) << c.line;
+        EXPECT_EQ(value.value.z, c.z) << c.line;
+    }
+}
+
+TEST(ResourceLines, OfFonts) {
+    const struct {
+        const char* line;
+        bool taken;
+        const char* errors;
+    } cases[] = {
+        {"Menu Font, x , VeraMono.ttf , Polygon ", true, ""},
+        {"Menu Font,x,VeraMono.ttf,polygon", true,
+         "Unknown font mode, defaulted to FR_POLYGON: polygon\n"},
+        {"a,,VeraMono.ttf,Polygon", false, ""},
+        {"a,x,none.ttf,Polygon", true, "Couldn't load font: fonts/none.ttf\n"},
+    };
+    for (const auto& c : cases) {
+        std::string name;
+        Font value;
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(parse(c.line, name, value), c.taken) << c.line;
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), c.errors);
+    }
+    EXPECT_EQ(resources::makeFont("VeraMono.ttf", "Outline").mode, graphics::FR_OUTLINE);
+}

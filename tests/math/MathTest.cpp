@@ -1,0 +1,192 @@
+#include "Framework/Config.h"
+#include "Framework/Primitives/Box.h"
+#include "Framework/math/LineWidth.h"
+#include "Framework/math/MTRand.h"
+#include "Framework/math/Matrix.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace quorva::math;
+
+TEST(MTRand, GivesThePublishedWords) {
+    MTRand_int32 random;
+    random.seed(5489UL);
+    EXPECT_EQ(random(), 3499211612UL);
+    for (int i = 2; i < 10000; ++i)
+        random();
+    EXPECT_EQ(random(), 4123659995UL);
+
+    const unsigned long key[] = {0x123, 0x234, 0x345, 0x456};
+    random.seed(key, 4);
+    for (const unsigned long word :
+         {1067595299UL, 955945823UL, 477289528UL, 4107218783UL, 4228976476UL})
+        EXPECT_EQ(random(), word);
+}
+
+TEST(MTRand, SharesOneStreamThatASecondObjectDoesNotSeedAgain) {
+    MTRand_int32 one;
+    one.seed(7UL);
+    const unsigned long first = one();
+    MTRand_int32 two;
+    EXPECT_NE(two(), first);
+    one.seed(7UL);
+    EXPECT_EQ(two(), first);
+    one.seed(nullptr, 3);
+    one.seed(&first, 0);
+    const double fraction = randomFraction(one);
+    EXPECT_TRUE(fraction >= 0.0 && fraction < 1.0);
+}
+
+TEST(Fuzzy, GrowsWithTheSizeButNotForZero) {
+    EXPECT_TRUE(fuzzyEqual(1000000, 1000000.5));
+    EXPECT_FALSE(fuzzyEqual(1, 1.00001));
+    EXPECT_TRUE(fuzzyEqual(0, 0.0000009));
+    EXPECT_FALSE(fuzzyEqual(NAN, NAN));
+    EXPECT_TRUE(fuzzyZero(-0.000001));
+    EXPECT_FALSE(fuzzyZero(0.0000011));
+    EXPECT_FALSE(fuzzyZero(5));
+}
+
+TEST(Vector, NormalisesAndConverts) {
+    Vector v(3, 4, 0);
+    v.normalise();
+    EXPECT_EQ(v, Vector(0.6, 0.8, 0));
+    EXPECT_EQ(Point(1, 2, 3) - Point(1, 1, 1), Vector(0, 1, 2));
+    EXPECT_EQ(Point(1, 2, 3) + Vector(1, 1, 1), Point(2, 3, 4));
+    Vector zero;
+    zero.normalise();
+    EXPECT_TRUE(std::isnan(zero.x));
+}
+
+TEST(Quaternion, LeansTowardsATurnInsteadOfMultiplying) {
+    Quaternion q;
+    rotate(90, z_axis, q);
+    double angle;
+    Vector axis;
+    q.getAngleAxis(angle, axis);
+    EXPECT_NEAR(angle, 90, 1e-9); // from nothing it is the turn itself
+    EXPECT_EQ(axis, z_axis);
+    rotate(180, z_axis, q);
+    q.getAngleAxis(angle, axis);
+    EXPECT_NEAR(angle, 135, 1e-9) << "half way, and not the sum";
+}
+
+TEST(Quaternion, GivesAnAngleForEveryValue) {
+    const struct {
+        const char* what;
+        Quaternion q;
+        double angle;
+        Vector axis;
+    } cases[] = {
+        {"all zero", {}, 0, x_axis},
+        {"identity", {1, 0, 0, 0}, 0, x_axis},
+        {"w a hair above 1", {1.0000000000000002, 0, 0, 1e-9}, 0, z_axis},
+        {"w a hair below -1", {-1.0000000000000002, 0, 0, 1e-9}, 360, z_axis},
+        {"half a turn about y", {0, 0, 2, 0}, 180, y_axis},
+    };
+    for (const auto& c : cases) {
+        double angle = -1;
+        Vector axis;
+        c.q.getAngleAxis(angle, axis);
+        EXPECT_NEAR(angle, c.angle, 1e-9) << c.what;
+        EXPECT_EQ(axis, c.axis) << c.what;
+    }
+}
+
+TEST(Matrix, RotatesAsARightHandDoes) {
+    Matrix m;
+    m.makeRotation(90, 0, 0, 5); // the axis is normalised
+    EXPECT_EQ(m * Vector(1, 0, 0), Vector(0, 1, 0));
+    m.makeRotation(90, 1, 0, 0);
+    EXPECT_EQ(m * Vector(0, 1, 0), Vector(0, 0, 1));
+    m.makeRotation(120, 1, 1, 1);
+    EXPECT_EQ(m * Vector(1, 0, 0), Vector(0, 1, 0));
+    EXPECT_NEAR(m.determinant(), 1, 1e-12);
+    const Quaternion q = m.getQuaternion();
+    EXPECT_NEAR(std::fabs(q.w), 0.5, 1e-12);
+    EXPECT_NEAR(std::fabs(q.x), 0.5, 1e-12);
+}
+
+TEST(Matrix, GivesQuaternionsOfHalfTurnsByTheLargestDiagonal) {
+    const Vector axes[] = {x_axis, y_axis, z_axis};
+    for (const Vector& axis : axes) {
+        Matrix m;
+        m.makeRotation(180, axis.x, axis.y, axis.z);
+        const Quaternion q = m.getQuaternion();
+        EXPECT_NEAR(q.w, 0, 1e-9);
+        EXPECT_EQ(Vector(q.x, q.y, q.z), axis);
+    }
+}
+
+TEST(Matrix, GivesEulerAnglesOfItsThreeCases) {
+    // By rows, the rotation about y by 90 degrees: element 8 is 1, a gimbal lock.
+    Matrix m;
+    m.makeRotation(30, 1, 0, 0);
+    EXPECT_EQ(m.getEulerXYZ(), Vector(30, 0, 0));
+    m.makeRotation(-50, 0, 0, 1);
+    EXPECT_EQ(m.getEulerXYZ(), Vector(0, 0, -50));
+    m.set(0, 0, 1, 0, 0, 1, 0, 0, -1, 0, 0, 0, 0, 0, 0, 1);
+    EXPECT_EQ(m.getEulerXYZ().y, 90);
+}
+
+TEST(Matrix, TakesRowsAndMultipliesFromTheLeft) {
+    Matrix m(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 0, 0, 0, 1);
+    EXPECT_EQ(m[4], 2);
+    EXPECT_EQ(m[12], 4);
+    EXPECT_EQ(m * Point(1, 0, 0), Point(5, 13, 21));
+    EXPECT_EQ(m * Vector(1, 0, 0), Vector(1, 5, 9));
+    m.transpose();
+    EXPECT_EQ(m[1], 2);
+
+    Matrix shift(1, 0, 0, 7, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1), scale;
+    scale.set(2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 1);
+    EXPECT_EQ(scale * shift * Point(1, 0, 0), Point(16, 0, 0)) << "shifted first";
+    std::ostringstream out;
+    out << shift;
+    EXPECT_EQ(out.str(), "1 0 0 7\n0 1 0 0\n0 0 1 0\n0 0 0 1\n");
+}
+
+TEST(Matrix, InverseOnlyDividesByTheDeterminant) {
+    Matrix in, out;
+    in.set(2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 1);
+    EXPECT_TRUE(inverse(out, in));
+    EXPECT_DOUBLE_EQ(out[0], 0.25);
+    in[0] = 0;
+    EXPECT_FALSE(inverse(out, in));
+    EXPECT_DOUBLE_EQ(out[0], 0.25) << "left alone";
+}
+
+TEST(Box, RoundsInEveryCopy) {
+    const quorva::primitives::Box box(0.1, 0.2, 0.3, 0.4);
+    const quorva::primitives::Box copy = box;
+    EXPECT_EQ(box.top, 0.1);
+    EXPECT_EQ(copy.top, 0.1F);
+    EXPECT_NE(copy.right, box.right);
+}
+
+TEST(LineWidth, FollowsTheScreenDownToAPixel) {
+    auto& config = quorva::config::Config::Instance();
+    const struct {
+        const char* what;
+        int screen;
+        bool compatibility;
+        double width;
+        float scaled;
+    } cases[] = {
+        {"reference screen", 1280, true, 4, 4},
+        {"half of it", 640, true, 4, 2},
+        {"thin, kept at a pixel", 640, true, 1, 1},
+        {"thin, as it is", 640, false, 1, 0.5F},
+    };
+    for (const auto& c : cases) {
+        config.setScreenWidth(static_cast<unsigned short>(c.screen));
+        config.setCompatibility(c.compatibility);
+        config.setAntiAlias(!c.compatibility); // has no say in it
+        config.activateConfig();
+        EXPECT_EQ(lineWidthScale(c.width), c.scaled) << c.what;
+    }
+    config.setDefaults();
+    config.activateConfig();
+}
