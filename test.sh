@@ -14,6 +14,6 @@ run() { # preset
 }
 
 echo "== format"
-git ls-files '*.cpp' '*.h' | xargs clang-format --dry-run --Werror
+find Framework game platform tests -name '*.cpp' -o -name '*.h' | xargs clang-format --dry-run --Werror
 run release
 run sanitize

@@ -4,6 +4,8 @@
 
 namespace quorva::physics {
 
+constexpr math::Vector default_gravity(0.0, -9.8, 0.0);
+
 /// Signed area (twice that of the triangle a, b, p) in the plane.
 double getSide(const math::Point& a, const math::Point& b, const math::Point& p);
 

@@ -99,6 +99,9 @@ void GLAPIENTRY glMultMatrixf(const GLfloat* m) {
     record("glMultMatrixf", m[0], m[1], m[2], m[3], m[4], m[5], m[6], m[7], m[8], m[9], m[10],
            m[11], m[12], m[13], m[14], m[15]);
 }
+void GLAPIENTRY glMaterialfv(GLenum face, GLenum parameter, const GLfloat* c) {
+    record("glMaterialfv", face, parameter, c[0], c[1], c[2], c[3]);
+}
 void GLAPIENTRY glMatrixMode(GLenum mode) {
     record("glMatrixMode", mode);
 }

@@ -3,7 +3,9 @@
 #include "Framework/Config.h"
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/Draw.h"
+#include "Framework/Graphics/DrawPrimitives.h"
 #include "Framework/Graphics/GraphicObject.h"
+#include "Framework/Graphics/Material.h"
 #include "Framework/Graphics/Renderer.h"
 #include "Framework/Graphics/Stuff/GAxesIndicator.h"
 #include "Framework/Graphics/Stuff/GBox.h"
@@ -364,4 +366,37 @@ TEST(Draw, MapsShapesAndKeepsBlendModes) {
     EXPECT_TRUE(draw::isOutLineMode());
     draw::unsetOutlineMode();
     EXPECT_FALSE(draw::isOutLineMode());
+}
+
+TEST(Primitives, AreCirclesOfTheGamesOwnFullTurn) {
+    namespace figures = draw::primitives;
+    EXPECT_EQ(recordingOf([] { figures::circle(2, 0); }),
+              "glDisable 2929\nglBegin 2\nglEnd\nglEnable 2929\n");
+    recordingOf([] { figures::filledCircle(colours::red, 1, 2, 3, 2, 4); });
+    const auto points = glRecorder().callsTo("glVertex3f");
+    ASSERT_EQ(points.size(), 4U);
+    EXPECT_EQ(points[0].arguments[0], 3.0);
+    EXPECT_NEAR(points[1].arguments[1], 4.0, 1e-6);
+    EXPECT_EQ(points[2].arguments[2], 3.0);
+    EXPECT_EQ(glRecorder().callsTo("glColor4fv").size(), 1U);
+    recordingOf([] { figures::outlinedCircle(colours::red, colours::blue, 1, 6); });
+    EXPECT_EQ(glRecorder().callsTo("glVertex3f").size(), 12U);
+    recordingOf([] { figures::filledDonut(1, 2, 5); });
+    EXPECT_EQ(glRecorder().callsTo("glVertex2f").size(), 20U);
+    recordingOf([] {
+        figures::circleSpokes(0, 0, 0, 1, 3);
+        figures::Circle3D(0, 0, 0, 1, 3);
+        figures::filledCylinder(0, 0, 0, 1, 2, 3);
+    });
+    EXPECT_EQ(glRecorder().callsTo("glVertex3f").size(), 6U + 3U + 12U);
+}
+
+TEST(Materials, SendTheirColoursOrTheDefaults) {
+    Material material;
+    material.diffuse = &colours::red; // its flag is not set
+    material.specular = &colours::green;
+    material.hasSpecular = material.hasEmissive = true;
+    EXPECT_EQ(recordingOf([&] { useMaterial(&material); }),
+              "glMaterialfv 1032 4608 0.2 0.2 0.2 1\nglMaterialfv 1032 4610 0 1 0 1\n"
+              "glMaterialfv 1032 4609 0.8 0.8 0.8 1\nglMaterialfv 1032 5632 0 0 0 1\n");
 }
