@@ -156,6 +156,22 @@ void GLAPIENTRY glClearAccum(GLfloat r, GLfloat g, GLfloat b, GLfloat a) {
     record("glClearAccum", r, g, b, a);
 }
 
+void GLAPIENTRY glGenTextures(GLsizei count, GLuint* names) {
+    record("glGenTextures", count);
+    for (GLsizei i = 0; i < count; ++i)
+        names[i] = nextNames(1);
+}
+void GLAPIENTRY glBindTexture(GLenum target, GLuint name) {
+    record("glBindTexture", target, name);
+}
+void GLAPIENTRY glTexImage2D(GLenum target, GLint level, GLint internal, GLsizei w, GLsizei h,
+                             GLint border, GLenum format, GLenum type, const GLvoid*) {
+    record("glTexImage2D", target, level, internal, w, h, border, format, type);
+}
+void GLAPIENTRY glTexParameteri(GLenum target, GLenum name, GLint value) {
+    record("glTexParameteri", target, name, value);
+}
+
 // What the font library draws with.
 GLuint GLAPIENTRY glGenLists(GLsizei range) {
     record("glGenLists", range);

@@ -1,6 +1,8 @@
 // Every run of the tests works in a folder of its own, with the game's read-only data linked in,
 // so that no test writes into the tree or reads what another run has left.
 
+#include "Framework/GameInfo.h"
+
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 
@@ -16,6 +18,10 @@ public:
             fs::create_directory_symlink(fs::path(KOV_SOURCE_DIR) / name, folder / name);
         fs::create_directory(folder / "Songs");
         fs::current_path(folder);
+        // Before a resource manager looks for its file.
+        quorva::GameInfoClass& info = quorva::GameInfo::Instance();
+        info.homeDirectory = ".kov";
+        info.configFile = "game.conf";
     }
     void TearDown() override {
         fs::current_path("/");
