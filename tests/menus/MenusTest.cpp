@@ -19,6 +19,7 @@
 
 #include <cstdio>
 #include <fstream>
+#include <memory>
 
 using namespace quorva;
 using namespace quorva::menus;
@@ -160,6 +161,36 @@ TEST_F(MenusTest, SavingWritesActivatesAndRebuildsTheVideo) {
     config::Config::Instance().setDefaults();
     config::Config::Instance().activateConfig();
     publish(messages::ResetVideo());
+}
+
+TEST_F(MenusTest, TheFileComesBackThroughTheMenuAsItWas) {
+    auto& settings = config::Config::Instance();
+    settings.setScreenWidth(1024);
+    settings.setScreenHeight(768);
+    settings.setMusicVolume(33);
+    settings.setCollisionAccuracy(77);
+    settings.setSaveCPU(true);
+    settings.setPlaySound(false); // not in the menu
+    settings.activateConfig();
+    settings.saveConfig();
+    const auto text = [] {
+        std::ifstream file("game.conf");
+        return std::string(std::istreambuf_iterator<char>(file), {});
+    };
+    const std::string before = text();
+    settings.setDefaults();
+    settings.activateConfig();
+    settings.file = std::make_unique<config::ConfigFile>("game.conf");
+    settings.readFile();
+    const ConfigMenu& menu = openConfig();
+    EXPECT_EQ(menu.values[0]->word, "1024 x 768");
+    EXPECT_EQ(menu.values[2]->word, "33");
+    EXPECT_EQ(menu.values[4]->word, "77");
+    EXPECT_EQ(menu.values[5]->word, "Yes");
+    std::remove("game.conf");
+    press({SDLK_UP, SDLK_UP, SDLK_RETURN});
+    EXPECT_EQ(text(), before);
+    settings.file.reset();
 }
 
 TEST_F(MenusTest, ASecondLevelIsRefused) {
