@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/fmodex/fmodex.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+struct sf_private_tag;
+
+namespace platform::fmodex {
+
+/// A sound file read piece by piece as 16-bit stereo; a mono file sounds the same on both sides.
+class Decoder {
+public:
+    ~Decoder();
+    Decoder() = default;
+    Decoder(const Decoder&) = delete;
+    Decoder& operator=(const Decoder&) = delete;
+
+    FMOD_RESULT open(const std::string& path);
+
+    /// Appends up to `frames` frames to `samples`; fewer at the end of the file.
+    /// @return frames read
+    std::size_t read(std::vector<std::int16_t>& samples, std::size_t frames);
+    void rewind();
+
+    int sampleRate() const { return rate; } ///< Hz
+    std::uint64_t frames() const { return frameCount; }
+    unsigned int lengthMs() const;
+
+private:
+    void close();
+
+    sf_private_tag* file = nullptr;
+    int channelCount = 0; ///< in the file
+    int rate = 0;
+    std::uint64_t frameCount = 0;
+    std::vector<float> scratch; ///< one piece
+};
+
+} // namespace platform::fmodex

@@ -1,0 +1,258 @@
+#include "platform/fmodex/Mixer.h"
+
+#include <AL/alext.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+using platform::fmodex::Decoder;
+
+namespace {
+
+constexpr std::size_t largest_effect = std::size_t{64} << 20; // bytes of samples
+constexpr std::size_t load_piece = 65536;                     // frames
+constexpr int index_bits = 12;                                // of a channel in its handle
+constexpr int loopback_rate = 44100;                          // Hz
+
+bool loopback = false;
+
+template <class Function>
+Function loopbackFunction(const char* name) {
+    return reinterpret_cast<Function>(alcGetProcAddress(nullptr, name));
+}
+
+void submit(ALuint buffer, const Decoder& decoder, const std::vector<std::int16_t>& samples) {
+    alBufferData(buffer, AL_FORMAT_STEREO16, samples.data(),
+                 static_cast<ALsizei>(samples.size() * sizeof samples[0]), decoder.sampleRate());
+}
+
+ALCdevice* openDevice() {
+    if (loopback)
+        return loopbackFunction<LPALCLOOPBACKOPENDEVICESOFT>("alcLoopbackOpenDeviceSOFT")(nullptr);
+    if (ALCdevice* const card = alcOpenDevice(nullptr)) return card;
+    return alcOpenDevice("No Output");
+}
+
+ALCcontext* openContext(ALCdevice* device, int sources) {
+    const ALCint loopbackFormat[] = {
+        ALC_FORMAT_CHANNELS_SOFT, ALC_STEREO_SOFT, ALC_FORMAT_TYPE_SOFT,
+        ALC_SHORT_SOFT,           ALC_FREQUENCY,   loopback_rate,
+        ALC_MONO_SOURCES,         sources,         0};
+    const ALCint cardFormat[] = {ALC_STEREO_SOURCES, sources, 0};
+    return alcCreateContext(device, loopback ? loopbackFormat : cardFormat);
+}
+
+} // namespace
+
+namespace platform::fmodex {
+
+void useLoopback() {
+    loopback = true;
+}
+
+void render(FMOD_SYSTEM* system, std::int16_t* samples, int frames) {
+    loopbackFunction<LPALCRENDERSAMPLESSOFT>("alcRenderSamplesSOFT")(system->device, samples,
+                                                                     frames);
+}
+
+} // namespace platform::fmodex
+
+namespace {
+
+void closeOutput() {
+    FMOD_SYSTEM* system = nullptr;
+    FMOD_System_Create(&system);
+    system->close();
+}
+
+} // namespace
+
+FMOD_RESULT FMOD_SYSTEM::start(int maxChannels) {
+    if (maxChannels < 1 || maxChannels >= 1 << index_bits) return FMOD_ERR_INVALID_PARAM;
+    if (!channels.empty()) return FMOD_OK;
+    channels.resize(static_cast<std::size_t>(maxChannels));
+    device = openDevice();
+    if (device == nullptr) return FMOD_OK; // silent
+    context = openContext(device, maxChannels);
+    if (context == nullptr || alcMakeContextCurrent(context) == ALC_FALSE) {
+        context = nullptr;
+        return FMOD_OK;
+    }
+    for (Channel& channel : channels)
+        alGenSources(1, &channel.source);
+    std::atexit(closeOutput); // else the library complains of a device left open
+    return FMOD_OK;
+}
+
+void FMOD_SYSTEM::close() {
+    alcMakeContextCurrent(nullptr);
+    alcDestroyContext(context);
+    alcCloseDevice(device);
+    context = nullptr; // what may still come is silent
+    device = nullptr;
+}
+
+FMOD_RESULT FMOD_SYSTEM::load(const char* path, FMOD_SOUND** result) {
+    Decoder decoder;
+    const FMOD_RESULT opened = decoder.open(path);
+    if (opened != FMOD_OK) return opened;
+    // By pieces: a header that lies about its length must not ask for memory.
+    std::vector<std::int16_t> samples;
+    while (decoder.read(samples, load_piece) == load_piece)
+        if (samples.size() * sizeof samples[0] > largest_effect) return FMOD_ERR_MEMORY;
+    if (samples.empty()) return FMOD_ERR_FILE_BAD;
+
+    auto sound = std::make_unique<FMOD_SOUND>();
+    sound->length = decoder.lengthMs();
+    if (!isSilent()) {
+        alGenBuffers(1, &sound->buffer);
+        submit(sound->buffer, decoder, samples);
+        if (alGetError() != AL_NO_ERROR) return FMOD_ERR_MEMORY;
+    }
+    *result = sound.release();
+    return FMOD_OK;
+}
+
+FMOD_RESULT FMOD_SYSTEM::open(const char* path, FMOD_SOUND** result) {
+    auto sound = std::make_unique<FMOD_SOUND>();
+    sound->decoder = std::make_unique<Decoder>();
+    const FMOD_RESULT opened = sound->decoder->open(path);
+    if (opened != FMOD_OK) return opened;
+    sound->length = sound->decoder->lengthMs();
+    if (!isSilent()) alGenBuffers(static_cast<ALsizei>(sound->queue.size()), sound->queue.data());
+    *result = sound.release();
+    return FMOD_OK;
+}
+
+FMOD_SYSTEM::Channel* FMOD_SYSTEM::find(FMOD_CHANNEL* handle) {
+    const auto value = reinterpret_cast<std::uintptr_t>(handle);
+    const std::size_t index = (value & ((1U << index_bits) - 1)) - 1;
+    if (value == 0 || index >= channels.size()) return nullptr;
+    Channel& channel = channels[index];
+    const bool current = channel.sound != nullptr && handleOf(channel) == handle;
+    return current ? &channel : nullptr;
+}
+
+FMOD_CHANNEL* FMOD_SYSTEM::handleOf(const Channel& channel) const {
+    const auto index = static_cast<std::uintptr_t>(&channel - channels.data());
+    return reinterpret_cast<FMOD_CHANNEL*>(std::uintptr_t{channel.generation} << index_bits |
+                                           (index + 1));
+}
+
+bool FMOD_SYSTEM::hasEnded(const Channel& channel) const {
+    if (channel.paused || isSilent()) return false;
+    ALint state = AL_STOPPED;
+    alGetSourcei(channel.source, AL_SOURCE_STATE, &state);
+    return state == AL_STOPPED && (!channel.sound->isStream() || channel.sound->atEnd);
+}
+
+FMOD_SYSTEM::Channel* FMOD_SYSTEM::freeChannel() {
+    Channel* oldest = nullptr;
+    for (Channel& channel : channels) {
+        if (channel.sound != nullptr && hasEnded(channel)) stop(channel);
+        if (channel.sound == nullptr) return &channel;
+        if (channel.sound->isStream()) continue;
+        if (oldest == nullptr || channel.startedAt < oldest->startedAt) oldest = &channel;
+    }
+    if (oldest != nullptr) stop(*oldest);
+    return oldest;
+}
+
+void FMOD_SYSTEM::stop(Channel& channel) {
+    if (!isSilent()) {
+        alSourceStop(channel.source);
+        alSourcei(channel.source, AL_BUFFER, 0); // lets go of a queue, too
+    }
+    channel.sound = nullptr;
+    ++channel.generation;
+}
+
+FMOD_RESULT FMOD_SYSTEM::play(FMOD_SOUND* sound, bool paused, FMOD_CHANNEL** result) {
+    if (sound->isStream())
+        for (Channel& channel : channels)
+            if (channel.sound == sound) stop(channel);
+    Channel* const channel = freeChannel();
+    if (channel == nullptr) return FMOD_ERR_CHANNEL_ALLOC;
+    channel->sound = sound;
+    channel->paused = paused;
+    channel->startedAt = ++starts;
+    *result = handleOf(*channel);
+    if (isSilent()) return FMOD_OK;
+
+    alSourcef(channel->source, AL_GAIN, 1.0F);
+    alSourcei(channel->source, AL_SOURCE_RELATIVE, AL_TRUE);
+    if (sound->isStream()) {
+        sound->decoder->rewind();
+        sound->atEnd = false;
+        for (const ALuint buffer : sound->queue)
+            if (fill(*sound, buffer)) alSourceQueueBuffers(channel->source, 1, &buffer);
+    } else {
+        alSourcei(channel->source, AL_BUFFER, static_cast<ALint>(sound->buffer));
+    }
+    if (!paused) alSourcePlay(channel->source);
+    return FMOD_OK;
+}
+
+bool FMOD_SYSTEM::fill(FMOD_SOUND& sound, ALuint buffer) const {
+    const std::size_t frames =
+        static_cast<std::size_t>(sound.decoder->sampleRate()) / FMOD_SOUND::pieces_per_second;
+    sound.piece.clear();
+    if (sound.atEnd || sound.decoder->read(sound.piece, frames) < frames) sound.atEnd = true;
+    if (sound.piece.empty()) return false;
+    submit(buffer, *sound.decoder, sound.piece);
+    return true;
+}
+
+void FMOD_SYSTEM::pump(Channel& channel) {
+    ALint processed = 0;
+    alGetSourcei(channel.source, AL_BUFFERS_PROCESSED, &processed);
+    if (processed > 0 && !channel.sound->atEnd) { // one piece a call: a call stays short
+        ALuint buffer = 0;
+        alSourceUnqueueBuffers(channel.source, 1, &buffer);
+        if (fill(*channel.sound, buffer)) alSourceQueueBuffers(channel.source, 1, &buffer);
+    }
+    ALint state = AL_PLAYING, queued = 0;
+    alGetSourcei(channel.source, AL_SOURCE_STATE, &state);
+    alGetSourcei(channel.source, AL_BUFFERS_QUEUED, &queued);
+    alGetSourcei(channel.source, AL_BUFFERS_PROCESSED, &processed);
+    // After a stall longer than the queue it goes on where it stood.
+    if (state == AL_STOPPED && queued > processed && !channel.paused) alSourcePlay(channel.source);
+}
+
+void FMOD_SYSTEM::update() {
+    if (isSilent()) return;
+    for (Channel& channel : channels)
+        if (channel.sound != nullptr && channel.sound->isStream()) pump(channel);
+}
+
+FMOD_RESULT FMOD_SYSTEM::setVolume(FMOD_CHANNEL* handle, float volume) {
+    Channel* const channel = find(handle);
+    if (channel == nullptr) return FMOD_ERR_INVALID_HANDLE;
+    const float gain = volume == volume ? std::clamp(volume, 0.0F, 1.0F) : 0.0F;
+    if (!isSilent()) alSourcef(channel->source, AL_GAIN, gain);
+    return FMOD_OK;
+}
+
+FMOD_RESULT FMOD_SYSTEM::setPaused(FMOD_CHANNEL* handle, bool paused) {
+    Channel* const channel = find(handle);
+    if (channel == nullptr) return FMOD_ERR_INVALID_HANDLE;
+    if (channel->paused == paused || hasEnded(*channel)) return FMOD_OK;
+    channel->paused = paused;
+    if (isSilent()) return FMOD_OK;
+    if (paused)
+        alSourcePause(channel->source);
+    else
+        alSourcePlay(channel->source);
+    return FMOD_OK;
+}
+
+FMOD_RESULT FMOD_SYSTEM::release(FMOD_SOUND* sound) {
+    for (Channel& channel : channels)
+        if (channel.sound == sound) stop(channel);
+    if (!isSilent() && sound->isStream())
+        alDeleteBuffers(static_cast<ALsizei>(sound->queue.size()), sound->queue.data());
+    else if (!isSilent())
+        alDeleteBuffers(1, &sound->buffer);
+    delete sound;
+    return FMOD_OK;
+}

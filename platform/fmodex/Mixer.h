@@ -1,0 +1,73 @@
+#pragma once
+
+#include "platform/fmodex/Decoder.h"
+
+#include <AL/al.h>
+#include <AL/alc.h>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+/// A sound: an effect that is held whole, or a stream with its decoder and queue.
+struct FMOD_SOUND {
+    static constexpr std::size_t queue_length = 16;     ///< buffers
+    static constexpr std::size_t pieces_per_second = 8; ///< a buffer holds one
+
+    std::unique_ptr<platform::fmodex::Decoder> decoder; ///< of a stream; else null
+    ALuint buffer = 0;                                  ///< of an effect
+    std::array<ALuint, queue_length> queue{};           ///< of a stream
+    std::vector<std::int16_t> piece;                    ///< scratch of a stream
+    unsigned int length = 0;                            ///< ms
+    bool atEnd = false;                                 ///< a stream has nothing more to decode
+
+    bool isStream() const { return decoder != nullptr; }
+};
+
+/// The channels and the output. Silent, and always successful, without a device.
+struct FMOD_SYSTEM {
+    FMOD_RESULT start(int maxChannels);
+    FMOD_RESULT load(const char* path, FMOD_SOUND** sound);
+    FMOD_RESULT open(const char* path, FMOD_SOUND** sound);
+    FMOD_RESULT play(FMOD_SOUND* sound, bool paused, FMOD_CHANNEL** channel);
+    FMOD_RESULT setVolume(FMOD_CHANNEL* channel, float volume);
+    FMOD_RESULT setPaused(FMOD_CHANNEL* channel, bool paused);
+    FMOD_RESULT release(FMOD_SOUND* sound);
+    void update();
+    void close(); ///< at process exit: silent from then on
+
+    ALCdevice* device = nullptr;
+    ALCcontext* context = nullptr;
+
+private:
+    struct Channel {
+        ALuint source = 0;
+        FMOD_SOUND* sound = nullptr; ///< null: free
+        bool paused = false;
+        std::uint32_t generation = 0; ///< of its handles: an older one is stale
+        std::uint64_t startedAt = 0;  ///< rising with each start
+    };
+
+    bool isSilent() const { return context == nullptr; }
+    Channel* find(FMOD_CHANNEL* handle);
+    FMOD_CHANNEL* handleOf(const Channel& channel) const;
+    Channel* freeChannel();
+    void stop(Channel& channel);
+    bool hasEnded(const Channel& channel) const;
+    void pump(Channel& channel);
+    bool fill(FMOD_SOUND& sound, ALuint buffer) const;
+
+    std::vector<Channel> channels;
+    std::uint64_t starts = 0;
+};
+
+namespace platform::fmodex {
+
+/// For tests: from now on the system renders into memory instead of to a card. To be called
+/// before FMOD_System_Init, in a process of its own.
+void useLoopback();
+/// Mixes the next stereo frames at 44.1 kHz, 16 bits, of the loopback output.
+void render(FMOD_SYSTEM* system, std::int16_t* samples, int frames);
+
+} // namespace platform::fmodex
