@@ -187,10 +187,14 @@ TEST_F(AudioTest, ReportsASongThatIsNotThere) {
         EXPECT_EQ(errorsOf([&] { publish(message); }), c.errors);
         EXPECT_EQ(audio.lastSongID, 1);
     }
-    // A song that can't be opened: said once, and the next one is tried when its time is over.
+    // A song that can't be opened is told of, and the next one is tried a second later.
     sound().unreadable = {"Songs/a.mp3", "Songs/b.mp3"};
     EXPECT_EQ(errorsOf([&] { audio.playSong(0); }), "FMOD error!23recorded failure\n"
                                                     "FMOD error!37recorded failure\n");
     EXPECT_EQ(audio.song, nullptr);
+    sdl().ticks += 1000;
+    EXPECT_EQ(errorsOf([&] { audio.update(); }), "");
+    ++sdl().ticks;
+    EXPECT_NE(errorsOf([&] { audio.update(); }), "");
     audio.stopSong();
 }
