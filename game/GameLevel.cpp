@@ -163,11 +163,15 @@ void GameLevel::dropPowerUp() {
 void GameLevel::refreshDisplay() {
     // Straight into the text: a word stays where its start text stood, and grows to the right.
     const MarvoClass& marvo = Marvo::Instance();
-    scoreWord->word = std::to_string(marvo.score);
-    livesWord->word = "1UP!     " + std::to_string(marvo.lives) + "   lives";
-    nextLifeWord->word = "Next    Life    " + std::to_string(marvo.getNextLife());
-    linePupWord->word = std::to_string(marvo.numLinePUPS());
-    cooldownPupWord->word = std::to_string(marvo.numCDPUPS());
+    const auto show = [](graphics::GWord* word, const char* before, const auto& number,
+                         const char* after = "") {
+        word->word.assign(before).append(std::to_string(number)).append(after); // in its old room
+    };
+    show(scoreWord, "", marvo.score);
+    show(livesWord, "1UP!     ", marvo.lives, "   lives");
+    show(nextLifeWord, "Next    Life    ", marvo.getNextLife());
+    show(linePupWord, "", marvo.numLinePUPS());
+    show(cooldownPupWord, "", marvo.numCDPUPS());
 }
 
 math::Point GameLevel::spawnPoint() const {

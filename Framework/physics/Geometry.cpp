@@ -11,13 +11,6 @@ double getSide(const Point& a, const Point& b, const Point& p) {
     return (a.y - p.y) * (b.x - p.x) - (a.x - p.x) * (b.y - p.y);
 }
 
-bool pointInTriangle(const Point& p, const Point& a, const Point& b, const Point& c) {
-    const double s1 = (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
-    const double s2 = (c.x - b.x) * (p.y - b.y) - (c.y - b.y) * (p.x - b.x);
-    const double s3 = (a.x - c.x) * (p.y - c.y) - (a.y - c.y) * (p.x - c.x);
-    return (s1 < 0.0 && s2 < 0.0 && s3 < 0.0) || (s1 >= 0.0 && s2 >= 0.0 && s3 >= 0.0);
-}
-
 namespace {
 
 double planeArea(double x1, double y1, double x2, double y2, double x3, double y3) {
@@ -66,15 +59,17 @@ bool onOneSide(double a, double b, double bound) {
 bool LinesInterect(const Point& a1, const Point& a2, const Point& b1, const Point& b2) {
     const bool horizontal = a1.y == a2.y;
     const double k = horizontal ? a1.y : a1.x;
+    // The cheap refusals stand before the division; the odd case of an edge without a slope
+    // against a vertical line, which is met by its height, is let through to it.
+    if (horizontal && onOneSide(b1.y, b2.y, k)) return false;
+    const bool aside = !horizontal && onOneSide(b1.x, b2.x, k);
+    if (aside && !math::fuzzyEqual(b1.y, k)) return false;
+
     const double m = math::fuzzyEqual(b1.x, b2.x) ? 0.0 : (b2.y - b1.y) / (b2.x - b1.x);
     const double c = b1.y - m * b1.x;
-    if (horizontal) {
-        if (onOneSide(b1.y, b2.y, k)) return false;
-        return liesBetween(m != 0.0 ? (k - c) / m : b1.x, a1.x, a2.x);
-    }
+    if (horizontal) return liesBetween(m != 0.0 ? (k - c) / m : b1.x, a1.x, a2.x);
     if (m == 0.0) return math::fuzzyEqual(b1.y, k);
-    if (onOneSide(b1.x, b2.x, k)) return false;
-    return liesBetween(k * m + c, a1.y, a2.y);
+    return !aside && liesBetween(k * m + c, a1.y, a2.y);
 }
 
 Vector getCollisionCorrectionVector(const Vector& a, const Vector& b, Vector& work) {

@@ -11,8 +11,14 @@ double getSide(const math::Point& a, const math::Point& b, const math::Point& p)
 
 /// Whether p lies in the triangle a, b, c, in x and y. A point on an edge is inside only for
 /// corners in counter-clockwise order: the asymmetry is deliberate, recorded games rest on it.
-bool pointInTriangle(const math::Point& p, const math::Point& a, const math::Point& b,
-                     const math::Point& c);
+inline bool pointInTriangle(const math::Point& p, const math::Point& a, const math::Point& b,
+                            const math::Point& c) {
+    const double s1 = (b.x - a.x) * (p.y - a.y) - (b.y - a.y) * (p.x - a.x);
+    const double s2 = (c.x - b.x) * (p.y - b.y) - (c.y - b.y) * (p.x - b.x);
+    if ((s1 < 0.0) != (s2 < 0.0)) return false; // most points; not-a-number ends up false anyway
+    const double s3 = (a.x - c.x) * (p.y - c.y) - (a.y - c.y) * (p.x - c.x);
+    return (s1 < 0.0 && s2 < 0.0 && s3 < 0.0) || (s1 >= 0.0 && s2 >= 0.0 && s3 >= 0.0);
+}
 
 /// Barycentric coordinates of p, with u + v + w = 1, in the plane that drops the largest
 /// component of the triangle's normal (Ericson 2005, Real-Time Collision Detection, 3.4).

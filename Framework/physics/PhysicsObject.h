@@ -2,6 +2,7 @@
 
 #include "Framework/math/Quaternion.h"
 #include "Framework/physics/AABB.h"
+#include "Framework/physics/Reach.h"
 
 #include <array>
 #include <cstdint>
@@ -62,6 +63,7 @@ public:
 
     bool hitLine = false; ///< a line refused a move, or a bullet touched; the triangle clears it
     bool hitBox = false;  ///< overlaps a box; the player clears it
+    Reach reach;          ///< of a triangle: what it can meet in this tick; the physics keeps it
     std::uint32_t pickupCount = 0; ///< the player writes 3 at each pick-up; nothing reads it
 };
 

@@ -21,24 +21,18 @@ namespace {
 /// Below this speed, in world units per tick, a body counts as standing.
 constexpr double standing_speed = 0.000001;
 
+bool isStanding(const math::Vector& velocity) {
+    // The root is taken only where it can matter.
+    return velocity.dot(velocity) < 10.0 * standing_speed * standing_speed &&
+           velocity.length() < standing_speed;
+}
+
 /// Whether two extents meet by a positive length; touching ones, to within the tolerance, don't.
 /// @param distance between the centres, either sign
 /// @param reach    sum of the half extents
 bool overlaps(double distance, double reach) {
     const double gap = std::fabs(distance) - reach;
     return gap < 0.0 && !math::fuzzyZero(gap);
-}
-
-using Corners = std::array<Point, 3>;
-
-Corners worldCorners(const PhysicsObject& body) {
-    Corners corners;
-    for (std::size_t i = 0; i < corners.size(); ++i) {
-        corners[i] = body.position;
-        corners[i].x += body.vertices[i].x;
-        corners[i].y += body.vertices[i].y;
-    }
-    return corners;
 }
 
 bool isPlayer(const Entity* e) {
@@ -110,6 +104,7 @@ void PhysicsProcessor::removeEntity(Entity* e) {
 }
 
 void PhysicsProcessor::forgetLine(TrapLine* line) {
+    ++epochs.lines;
     for (Entity* e : entities) {
         auto& known = e->physics->lines;
         known.erase(std::remove(known.begin(), known.end(), TriLine{line, {}}), known.end());
@@ -118,13 +113,14 @@ void PhysicsProcessor::forgetLine(TrapLine* line) {
 
 void PhysicsProcessor::removeAllEntities() {
     entities.clear();
-    clearPairs();
+    partakers.clear();
+    forgetPairs();
 }
 
-void PhysicsProcessor::clearPairs() {
-    for (Pairs* pairs : {&aabbAabbTests, &aabbPointTests, &aabbTriangleTests,
-                         &triangleTriangleTests, &trianglePointTests, &pointPointTests})
-        pairs->clear();
+void PhysicsProcessor::forgetPairs() {
+    for (PairList* pairs : {&aabbAabbTests, &aabbPointTests, &aabbTriangleTests,
+                            &triangleTriangleTests, &trianglePointTests, &pointPointTests})
+        pairs->forget();
 }
 
 void PhysicsProcessor::update() {
@@ -135,12 +131,15 @@ void PhysicsProcessor::update() {
 
 void PhysicsProcessor::process() {
     makeCollisionTests(); // the pairs stay fixed for the whole tick
+    inTick = true;
+    ++epochs.lines; // they have grown since the last tick
     for (std::uint16_t step = 0; step < stepCount; ++step) {
         preSimulate();
         doMove();
         testCollisions(false);
         postSimulate();
     }
+    inTick = false;
 }
 
 void PhysicsProcessor::receiveMessage(const PlayerDead* m) {
@@ -150,6 +149,8 @@ void PhysicsProcessor::receiveMessage(const PlayerDead* m) {
 void PhysicsProcessor::receiveMessage(const messages::EndLevel*) {
     squares.clear();
     lines.clear();
+    searchedLines.clear();
+    outerBounds.clear();
     gameOverPending = false; // this end is the one that it waited for: the next game goes on
 }
 
@@ -170,6 +171,7 @@ void PhysicsProcessor::receiveMessage(const PhysicsLineMessage* m) {
         "Bullet Line", m->position, m->bullet, Marvo::Instance().getPlayerLineLength(),
         m->horizontal);
     lines.push_back(line);
+    ++epochs.lines;
     for (Entity* e : entities)
         e->physics->lines.push_back({line, {}});
 }
@@ -196,35 +198,14 @@ void PhysicsProcessor::doGravity() {
 }
 
 void PhysicsProcessor::makeCollisionTests() {
-    const auto takesPart = [](const Entity* e) {
-        return e->physics->collidable && e->physics->isActive;
+    const auto takesPart = [](const PhysicsObject& body) {
+        return body.collidable && body.isActive && !(body.type == shape_box && body.boxes.empty());
     };
-    clearPairs();
-    for (std::size_t i = 0; i < entities.size(); ++i) {
-        if (!takesPart(entities[i])) continue;
-        for (std::size_t j = i; j < entities.size(); ++j)
-            if (takesPart(entities[j])) pairUp(entities[i], entities[j]);
-    }
-}
-
-void PhysicsProcessor::pairUp(Entity* a, Entity* b) {
-    const auto isShapeless = [](const PhysicsObject& body) {
-        return body.type == shape_box && body.boxes.empty();
-    };
-    if (isShapeless(*a->physics) || isShapeless(*b->physics)) return;
-
-    // Row: type of the first; column: type of the second. `swapped` puts the second first.
-    const struct {
-        Pairs* pairs;
-        bool swapped;
-    } lists[3][3] = {
-        {{&aabbAabbTests, false}, {&aabbTriangleTests, false}, {&aabbPointTests, false}},
-        {{&aabbTriangleTests, true}, {&triangleTriangleTests, false}, {&trianglePointTests, false}},
-        {{&aabbPointTests, true}, {&trianglePointTests, true}, {&pointPointTests, false}},
-    };
-    const auto& list = lists[a->physics->type][b->physics->type];
-    if (list.swapped) std::swap(a, b);
-    list.pairs->emplace_back(a, b);
+    formerPartakers.swap(partakers);
+    partakers.clear();
+    for (Entity* e : entities)
+        if (takesPart(*e->physics)) partakers.emplace_back(e, e->physics->type);
+    if (partakers != formerPartakers) forgetPairs(); // the same bodies give the same pairs
 }
 
 void PhysicsProcessor::preSimulate() {
@@ -241,7 +222,7 @@ void PhysicsProcessor::doMove() {
         if (body.isStatic) continue;
         const math::Vector move(body.velocity.x / stepDivisor, body.velocity.y / stepDivisor,
                                 body.velocity.z / stepDivisor);
-        if (body.velocity.length() < standing_speed) body.velocity = math::zero_vector;
+        if (isStanding(body.velocity)) body.velocity = math::zero_vector;
         body.position += move;
         if (!testLineTriangle(e)) continue;
         body.hitLine = true;
@@ -250,14 +231,12 @@ void PhysicsProcessor::doMove() {
 }
 
 bool PhysicsProcessor::testLineTriangle(Entity* e) const {
-    const PhysicsObject& body = *e->physics;
+    PhysicsObject& body = *e->physics;
     if (body.type != shape_triangle) return false;
-    const Corners c = worldCorners(body);
-    return std::any_of(body.lines.begin(), body.lines.end(), [&c](const TriLine& known) {
-        const Point& start = known.line->start;
-        const Point& end = known.line->end;
-        return LinesInterect(start, end, c[0], c[1]) || LinesInterect(start, end, c[0], c[2]) ||
-               LinesInterect(start, end, c[1], c[2]);
+    if (inTick) return body.reach.isStopped(body, epochs);
+    const Corners corners = worldCorners(body);
+    return std::any_of(body.lines.begin(), body.lines.end(), [&corners](const TriLine& known) {
+        return isInTheWay(*known.line, corners);
     });
 }
 

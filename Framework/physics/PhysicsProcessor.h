@@ -4,11 +4,12 @@
 #include "Framework/MessageInterface.h"
 #include "Framework/Messages.h"
 #include "Framework/math/Vector.h"
+#include "Framework/physics/PairList.h"
+#include "Framework/physics/PhysicsObject.h"
 
 #include <boost/array.hpp>
 
 #include <cstdint>
-#include <utility>
 #include <vector>
 
 class TrapLine;
@@ -61,24 +62,23 @@ public:
     void testPoint_Point() {}
 
     bool testLineTriangle(Entity* e) const; ///< whether a line is in the triangle's way
-    void constructSquares();                ///< fills `squares` from `lines`
-    void testBoxes();                       ///< the first rectangle that holds a triangle pays out
+    void constructSquares();                ///< fills `squares` from `lines`, if those have changed
+    void testBoxes(); ///< the first of `squares` that holds a triangle pays out
 
     void zeroAllVelocities();
     void clearBooleanTestResults();
     void booleanTestDynamicObjects();
     void doGravity();
 
-    using Pairs = std::vector<std::pair<Entity*, Entity*>>;
     using Square = boost::array<TrapLine*, 4>; ///< top, left, right, bottom
 
     std::vector<Entity*> entities; ///< those with a body, in order of arrival; not owned
-    Pairs aabbAabbTests;
-    Pairs aabbPointTests;    ///< filled, never tested
-    Pairs aabbTriangleTests; ///< box first
-    Pairs triangleTriangleTests;
-    Pairs trianglePointTests; ///< triangle first
-    Pairs pointPointTests;
+    PairList aabbAabbTests{partakers, shape_box, shape_box};
+    PairList aabbPointTests{partakers, shape_box, shape_point}; ///< never tested
+    PairList aabbTriangleTests{partakers, shape_box, shape_triangle};
+    PairList triangleTriangleTests{partakers, shape_triangle, shape_triangle}; ///< never tested
+    PairList trianglePointTests{partakers, shape_triangle, shape_point};
+    PairList pointPointTests{partakers, shape_point, shape_point}; ///< never tested
     math::Vector gravity;
     bool enabled = false;
     std::vector<TrapLine*> lines; ///< in order of firing; the engine owns them
@@ -88,12 +88,29 @@ public:
     double stepDivisor;
 
 private:
-    void clearPairs();
+    /// What the search for rectangles reads of a line.
+    struct SearchedLine {
+        const TrapLine* line;
+        double startX, startY, endX, endY;
+        bool horizontal, solid;
+    };
+    void forgetPairs();
     void forgetLine(TrapLine* line); ///< no body knows of it from now on
-    void pairUp(Entity* a, Entity* b);
-    void addSquaresBetween(TrapLine* a, TrapLine* b, const std::vector<TrapLine*>& vertical);
+    void addSquaresBetween(TrapLine* a, TrapLine* b);
+    bool linesHaveChanged(); ///< since the last search; remembers them as they are now
+    void findOuterBounds();
+    bool holdsAnyTriangle() const;
     unsigned short catchTriangles(const Square& square);
     void payOut(const Square& square, unsigned short count);
+
+    // What has been found once, kept while that from which it follows stays the same.
+    std::vector<Partaker> partakers, formerPartakers; ///< of the pair lists
+    std::vector<SearchedLine> searchedLines, formerLines;
+    std::vector<TrapLine*> horizontalLines, verticalLines; ///< the solid ones
+    /// The bounds of `squares` without those that lie within others.
+    std::vector<SquareBounds> outerBounds;
+    bool inTick = false;        ///< nothing but doMove moves bodies now, and no line grows
+    Reach::Epochs epochs{1, 1}; ///< a new Reach, at 0, has looked nothing up
 };
 
 } // namespace quorva::physics

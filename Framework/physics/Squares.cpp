@@ -17,8 +17,6 @@ namespace {
 /// A corner this far outside a side still counts as inside, in world units, so that a triangle
 /// pressed against its fence is caught.
 constexpr double inside_tolerance = 0.1;
-/// Corners of a triangle that must be inside for it to be caught.
-constexpr int caught_corners = 2;
 
 /// What a line covers along its own direction.
 struct Span {
@@ -59,28 +57,57 @@ struct Rails {
     }
 };
 
-} // namespace
-
-void PhysicsProcessor::constructSquares() {
-    squares.clear();
-    std::vector<TrapLine*> horizontal, vertical;
-    for (TrapLine* line : lines)
-        if (line->solid) (line->horizontal ? horizontal : vertical).push_back(line);
-
-    for (TrapLine* a : horizontal)
-        for (TrapLine* b : horizontal)
-            if (a != b) addSquaresBetween(a, b, vertical);
+SquareBounds boundsOf(const PhysicsProcessor::Square& square) {
+    return {square[0]->start.y + inside_tolerance, square[3]->start.y - inside_tolerance,
+            square[1]->start.x - inside_tolerance, square[2]->start.x + inside_tolerance};
 }
 
-void PhysicsProcessor::addSquaresBetween(TrapLine* a, TrapLine* b,
-                                         const std::vector<TrapLine*>& vertical) {
+int cornersInside(const SquareBounds& bounds, const PhysicsObject& body) {
+    int count = 0;
+    for (const math::Point& vertex : body.vertices)
+        count += bounds.hold(body.position.x + vertex.x, body.position.y + vertex.y) ? 1 : 0;
+    return count;
+}
+
+} // namespace
+
+bool PhysicsProcessor::linesHaveChanged() {
+    formerLines.swap(searchedLines);
+    searchedLines.clear();
+    for (const TrapLine* line : lines)
+        searchedLines.push_back({line, line->start.x, line->start.y, line->end.x, line->end.y,
+                                 line->horizontal, line->solid});
+    const auto same = [](const SearchedLine& a, const SearchedLine& b) {
+        return a.line == b.line && a.startX == b.startX && a.startY == b.startY &&
+               a.endX == b.endX && a.endY == b.endY && a.horizontal == b.horizontal &&
+               a.solid == b.solid; // not-a-number differs from itself, so it is searched anew
+    };
+    return !std::equal(searchedLines.begin(), searchedLines.end(), formerLines.begin(),
+                       formerLines.end(), same);
+}
+
+void PhysicsProcessor::constructSquares() {
+    if (!linesHaveChanged()) return;
+    squares.clear();
+    horizontalLines.clear();
+    verticalLines.clear();
+    for (TrapLine* line : lines)
+        if (line->solid) (line->horizontal ? horizontalLines : verticalLines).push_back(line);
+
+    for (TrapLine* a : horizontalLines)
+        for (TrapLine* b : horizontalLines)
+            if (a != b) addSquaresBetween(a, b);
+    findOuterBounds();
+}
+
+void PhysicsProcessor::addSquaresBetween(TrapLine* a, TrapLine* b) {
     // A line whose end has not been written yet fails here.
     if (a->start.y != a->end.y || b->start.y != b->end.y) return;
     const Rails rails(a, b);
     if (!rails.areValid()) return;
-    for (TrapLine* c : vertical) {
+    for (TrapLine* c : verticalLines) {
         if (!rails.areJoinedBy(*c)) continue;
-        for (TrapLine* d : vertical) {
+        for (TrapLine* d : verticalLines) {
             if (d == c || !rails.areJoinedBy(*d) || d->start.x == c->start.x) continue;
             const bool inOrder = c->start.x <= d->start.x;
             squares.push_back({{rails.top, inOrder ? c : d, inOrder ? d : c, rails.bottom}});
@@ -88,7 +115,36 @@ void PhysicsProcessor::addSquaresBetween(TrapLine* a, TrapLine* b,
     }
 }
 
+/// What a rectangle's outer neighbour holds, it holds twice over: only the outermost bounds tell
+/// whether any triangle is held at all. Their number stays small where that of the rectangles
+/// grows with the fourth power of the lines'.
+void PhysicsProcessor::findOuterBounds() {
+    ++epochs.rectangles;
+    outerBounds.clear();
+    for (const Square& square : squares) {
+        const SquareBounds bounds = boundsOf(square);
+        const auto covers = [&bounds](const SquareBounds& outer) { return outer.covers(bounds); };
+        if (std::any_of(outerBounds.begin(), outerBounds.end(), covers)) continue;
+        const auto covered = [&bounds](const SquareBounds& inner) { return bounds.covers(inner); };
+        outerBounds.erase(std::remove_if(outerBounds.begin(), outerBounds.end(), covered),
+                          outerBounds.end());
+        outerBounds.push_back(bounds);
+    }
+}
+
+bool PhysicsProcessor::holdsAnyTriangle() const {
+    return std::any_of(entities.begin(), entities.end(), [this](const Entity* e) {
+        PhysicsObject& body = *e->physics;
+        if (body.type != shape_triangle) return false;
+        if (inTick && !body.reach.isNearAny(outerBounds, body, epochs)) return false;
+        return std::any_of(outerBounds.begin(), outerBounds.end(), [&body](const SquareBounds& b) {
+            return cornersInside(b, body) >= caught_corners;
+        });
+    });
+}
+
 void PhysicsProcessor::testBoxes() {
+    if (!holdsAnyTriangle()) return;
     for (const Square& square : squares) {
         const unsigned short count = catchTriangles(square);
         if (count == 0) continue;
@@ -98,20 +154,12 @@ void PhysicsProcessor::testBoxes() {
 }
 
 unsigned short PhysicsProcessor::catchTriangles(const Square& square) {
-    const double top = square[0]->start.y + inside_tolerance;
-    const double left = square[1]->start.x - inside_tolerance;
-    const double right = square[2]->start.x + inside_tolerance;
-    const double bottom = square[3]->start.y - inside_tolerance;
+    const SquareBounds bounds = boundsOf(square);
     unsigned short count = 0;
     for (Entity* e : entities) {
-        const PhysicsObject& body = *e->physics;
-        if (body.type != shape_triangle) continue;
-        const auto inside = std::count_if(
-            body.vertices.begin(), body.vertices.end(), [&](const math::Point& vertex) {
-                const double x = body.position.x + vertex.x, y = body.position.y + vertex.y;
-                return x >= left && x <= right && y <= top && y >= bottom;
-            });
-        if (inside < caught_corners) continue;
+        if (e->physics->type != shape_triangle ||
+            cornersInside(bounds, *e->physics) < caught_corners)
+            continue;
         e->dead = true; // also if it is dead already: it then pays twice
         ++count;
     }

@@ -1,4 +1,4 @@
-#include "tests/support/Field.h"
+#include "tests/support/FieldTest.h"
 
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Stuff/GLine.h"

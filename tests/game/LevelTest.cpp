@@ -1,4 +1,4 @@
-#include "tests/support/Field.h"
+#include "tests/support/FieldTest.h"
 
 #include "Framework/Graphics/Stuff/GBox.h"
 #include "Framework/Graphics/Stuff/GWord.h"

@@ -1,4 +1,4 @@
-#include "tests/support/Field.h"
+#include "tests/support/FieldTest.h"
 
 #include "Framework/Config.h"
 #include "Framework/Graphics/Camera.h"

@@ -1,4 +1,4 @@
-#include "tests/support/Field.h"
+#include "tests/support/FieldTest.h"
 
 using namespace quorva;
 

@@ -13,12 +13,10 @@
 #include "platform/headless/HeadlessGame.h"
 #include "platform/headless/VirtualSDL.h"
 
-#include <gtest/gtest.h>
-
-/// A running level whose field a test furnishes by hand: nothing spawns, nothing hunts.
-class FieldTest : public testing::Test {
-protected:
-    FieldTest() : run(100) {
+/// A running level whose field is furnished by hand: nothing hunts, and the player is untouchable.
+class Field {
+public:
+    Field() : run(100) {
         run.startLevel();
         level = run.game().level;
         player = level->player;

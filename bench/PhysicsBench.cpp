@@ -1,0 +1,126 @@
+// What a tick costs. The plain loops of tests/support/PlainPhysics stand beside the game's own
+// physics, so that one run gives the ratio.
+
+#include "bench/support/Allocations.h"
+#include "bench/support/Furniture.h"
+#include "tests/support/PlainPhysics.h"
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+
+namespace {
+
+using bench::Crowd;
+
+constexpr int worst_lines = 8; // in each direction
+constexpr int worst_triangles = 200;
+
+void setAccuracy(Field& field, std::int64_t subSteps) {
+    field.physics->stepCount = static_cast<std::uint16_t>(subSteps);
+    field.physics->stepDivisor = static_cast<double>(subSteps);
+}
+
+/// All lines must still stand: had a rectangle paid out, the figure would be that of another field.
+void checkStanding(benchmark::State& state, const Field& field, std::size_t lines) {
+    if (field.physics->lines.size() != lines) state.SkipWithError("the field has changed");
+}
+
+template <class Tick>
+void runWorstField(benchmark::State& state, Field& field, Tick tick) {
+    Crowd crowd(worst_triangles);
+    bench::crossLines(field, worst_lines, worst_lines);
+    bench::exposePlayer(field);
+    setAccuracy(field, state.range(0));
+    for (int i = 0; i < 2; ++i) { // the first ticks find out what later ones know
+        tick();
+        crowd.sway();
+    }
+    const std::uint64_t before = bench::allocations();
+    for (auto _ : state) {
+        tick();
+        crowd.sway();
+    }
+    state.counters["allocations"] = static_cast<double>(bench::allocations() - before);
+    const auto& bodies = field.physics->entities;
+    state.counters["stuck"] = static_cast<double>(std::count_if(
+        bodies.begin(), bodies.end(), [](const auto* e) { return e->physics->hitLine; }));
+    checkStanding(state, field, 2 * worst_lines);
+}
+
+void worstFieldPlain(benchmark::State& state) {
+    Field field;
+    PlainPhysics plain(*field.physics);
+    runWorstField(state, field, [&plain] { plain.process(); });
+}
+
+void worstField(benchmark::State& state) {
+    Field field;
+    runWorstField(state, field, [&field] { field.physics->process(); });
+}
+
+/// Whole ticks: every entity, every component. Arguments: lines in each direction, triangles,
+/// sub-steps.
+void wholeTick(benchmark::State& state) {
+    Field field;
+    Crowd crowd(static_cast<int>(state.range(1)));
+    const auto lines = static_cast<int>(state.range(0));
+    bench::crossLines(field, lines, lines);
+    bench::exposePlayer(field);
+    bench::addBursts(field);
+    setAccuracy(field, state.range(2));
+    field.run.process();
+    std::uint64_t allocated = 0; // in ticks in which nothing is born
+    for (auto _ : state) {
+        bench::quieten(field);
+        const std::uint64_t before = bench::allocations();
+        const unsigned long nextId = quorva::Engine::Instance().nextId;
+        field.run.process();
+        if (quorva::Engine::Instance().nextId == nextId) allocated += bench::allocations() - before;
+    }
+    state.counters["allocations"] = static_cast<double>(allocated);
+    checkStanding(state, field, static_cast<std::size_t>(2 * lines));
+}
+
+/// The same with 16 lines, a shot and a triangle that comes or goes in every tick.
+void changingTick(benchmark::State& state) {
+    Field field;
+    Crowd crowd(static_cast<int>(state.range(0)));
+    bench::crossLines(field, worst_lines, worst_lines);
+    bench::exposePlayer(field);
+    Triangle* guest = nullptr;
+    for (auto _ : state) {
+        bench::quieten(field);
+        if (guest == nullptr) {
+            guest = field.layAt(0, 14);
+            guest->explodes = false;
+        } else {
+            guest->dead = true;
+            guest = nullptr;
+        }
+        field.run.process();
+    }
+    checkStanding(state, field, 2 * worst_lines);
+}
+
+constexpr int ticks_measured = 200; // few enough for the field to stay as it is
+
+BENCHMARK(worstFieldPlain)->Arg(10)->Unit(benchmark::kMicrosecond);
+BENCHMARK(worstFieldPlain)->Arg(1000)->Iterations(3)->Unit(benchmark::kMicrosecond);
+BENCHMARK(worstField)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(wholeTick)
+    ->ArgNames({"lines", "triangles", "substeps"})
+    ->Args({8, 200, 10})
+    ->Args({8, 200, 1000})
+    ->Args({8, 250, 10})
+    ->Args({8, 1000, 10})
+    ->Args({3, 25, 10})
+    ->Iterations(ticks_measured)
+    ->Unit(benchmark::kMicrosecond);
+BENCHMARK(changingTick)
+    ->Arg(250)
+    ->Arg(1000)
+    ->Iterations(ticks_measured)
+    ->Unit(benchmark::kMicrosecond);
+
+} // namespace

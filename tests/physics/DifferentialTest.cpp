@@ -1,0 +1,203 @@
+// The physics must come to the same as its plain loops, to the last bit, on whatever field.
+
+#include "tests/support/FieldTest.h"
+#include "tests/support/PlainPhysics.h"
+
+#include "game/PupLine.h"
+
+#include <cstring>
+#include <limits>
+#include <map>
+#include <random>
+#include <sstream>
+
+using namespace quorva;
+using math::Point;
+using physics::PhysicsProcessor;
+
+namespace {
+
+constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
+
+/// Everything that a tick can change, a line an object, in exact figures.
+class Account {
+public:
+    Account(const PhysicsProcessor& processor) {
+        for (const Entity* e : processor.entities)
+            numbers[e] = numbers.size() + 1;
+        out << std::hexfloat;
+    }
+    template <class Pairs>
+    void addPairs(const char* what, const Pairs& pairs) {
+        out << what;
+        for (const auto& [a, b] : pairs)
+            out << ' ' << numbers[a] << '-' << numbers[b];
+        out << '\n';
+    }
+    void addSquares(const std::vector<PhysicsProcessor::Square>& squares) {
+        out << "squares";
+        for (const auto& square : squares)
+            for (const TrapLine* side : square)
+                out << ' ' << numbers[side];
+        out << '\n';
+    }
+    void addBodies(const PhysicsProcessor& processor) {
+        for (Entity* e : processor.entities) {
+            const physics::PhysicsObject& b = *e->physics;
+            out << numbers[e] << ' ' << b.type << ' ' << e->dead << b.hitLine << b.hitBox
+                << b.collided;
+            for (const double x : {b.position.x, b.position.y, b.position.z, b.previousPosition.x,
+                                   b.previousPosition.y, b.velocity.x, b.velocity.y})
+                out << ' ' << x;
+            out << " partner " << (b.collidedWith == nullptr ? 0 : numbers[b.collidedWith]);
+            out << " lines";
+            for (const TriLine& known : b.lines)
+                out << ' ' << numbers[known.line];
+            if (const auto* bullet = dynamic_cast<const Bullet*>(e))
+                out << " bullet " << bullet->fakeKilled << bullet->hitTriangle;
+            if (const auto* line = dynamic_cast<const TrapLine*>(e))
+                out << " line " << line->fakeDone << (line->bullet != nullptr);
+            out << '\n';
+        }
+        out << "standing";
+        for (const TrapLine* line : processor.lines)
+            out << ' ' << numbers[line];
+        const MarvoClass& marvo = Marvo::Instance();
+        out << "\nscore " << marvo.score << " lives " << marvo.lives << '\n';
+    }
+    std::string text() const { return out.str(); }
+
+private:
+    std::map<const Entity*, std::size_t> numbers; ///< by place among the bodies
+    std::ostringstream out;
+};
+
+/// A field drawn from a seed: coordinates come from a few values that repeat, sit a hair apart or
+/// lie just where a rule has its bound.
+class FieldMaker {
+public:
+    FieldMaker(Field& field_, unsigned int seed) : field(field_), random(seed) {}
+
+    void make() {
+        numbersFail = chance(8);
+        const int lines = below(17), triangles = below(25), bullets = below(4);
+        for (int i = 0; i < lines; ++i)
+            addLine();
+        for (int i = 0; i < triangles; ++i)
+            addTriangle();
+        for (int i = 0; i < bullets; ++i)
+            Engine::Instance().createEntity<Bullet>("Bullet", point(), velocity(1.0));
+        for (int i = below(3); i > 0; --i)
+            Engine::Instance().createEntity<PupLine>("Pup", point());
+        Field::body(field.player).isActive = chance(2);
+        Field::body(field.player).position = point();
+        field.player->invulnerable = chance(2);
+        const std::uint16_t accuracies[] = {1, 2, 10, 10, 10, 37};
+        field.physics->stepCount = accuracies[below(6)];
+        field.physics->stepDivisor = field.physics->stepCount;
+    }
+
+private:
+    int below(int bound) { return static_cast<int>(random() % static_cast<unsigned int>(bound)); }
+    bool chance(int outOf) { return below(outOf) == 0; }
+
+    double coordinate() {
+        if (numbersFail && chance(40)) return not_a_number;
+        const double hair[] = {0, 0, 0, 1e-7, -1e-7, 1e-6, -1e-6, 2e-6, 0.1, -0.1, 0.1 + 1e-9};
+        const double whole = below(15) - 7;
+        if (chance(3)) return whole + below(1000) / 1000.0;
+        return whole + hair[below(11)];
+    }
+    Point point() {
+        const double x = coordinate();
+        return {x, coordinate(), 0};
+    }
+    math::Vector velocity(double most) {
+        if (chance(6)) return math::zero_vector;
+        const auto part = [&] { return chance(4) ? 0.0 : (below(2001) - 1000) / 1000.0 * most; };
+        const double x = part();
+        return {x, part(), 0};
+    }
+
+    void addLine() {
+        Point start = point(), end = start;
+        const bool horizontal = chance(2);
+        (horizontal ? end.x : end.y) = chance(10) ? coordinate() : (chance(2) ? 20.0 : -20.0);
+        if (chance(20)) end = point();          // neither across nor upright
+        if (chance(20)) end = math::zero_point; // born in this tick
+        TrapLine* const line = field.stand(start, end);
+        if (line == nullptr) return;
+        line->horizontal = chance(30) ? !horizontal : horizontal;
+        line->solid = !chance(10);
+        line->fakeDone = chance(20);
+        if (!chance(10)) return;
+        line->bullet = Engine::Instance().createEntity<Bullet>("Bullet", end, velocity(1.0));
+        line->bullet->fakeKilled = chance(2);
+    }
+
+    void addTriangle() {
+        const double size = chance(4) ? 0.05 : 1.5;
+        const auto corner = [&] {
+            if (numbersFail && chance(60)) return Point(not_a_number, 0, 0);
+            const double x = (below(2001) - 1000) / 1000.0 * size;
+            return Point(x, chance(8) ? 0.0 : (below(2001) - 1000) / 1000.0 * size, 0);
+        };
+        const Point a = corner(), b = chance(10) ? a : corner(), c = chance(20) ? b : corner();
+        Triangle* const triangle = field.lay(a, b, c);
+        Field::body(triangle).position = point();
+        Field::body(triangle).velocity = velocity(chance(10) ? 5.0 : 0.3);
+        triangle->dead = chance(15);
+    }
+
+    Field& field;
+    std::mt19937 random;
+    bool numbersFail = false;
+};
+
+/// Some ticks of the field of this seed, by one way or the other.
+std::string playedOut(unsigned int seed, bool plain) {
+    Field field;
+    FieldMaker(field, seed).make();
+    PhysicsProcessor& processor = *field.physics;
+    PlainPhysics loops(processor);
+    std::string all;
+    for (int tick = 0; tick < 3; ++tick) {
+        Account account(processor);
+        if (plain)
+            loops.process();
+        else
+            processor.process();
+        const auto list = [&](const char* what, const auto& slow, const auto& fast) {
+            if (plain)
+                account.addPairs(what, slow);
+            else
+                account.addPairs(what, fast);
+        };
+        list("box box", loops.aabbAabb, processor.aabbAabbTests);
+        list("box point", loops.aabbPoint, processor.aabbPointTests);
+        list("box triangle", loops.aabbTriangle, processor.aabbTriangleTests);
+        list("triangle triangle", loops.triangleTriangle, processor.triangleTriangleTests);
+        list("triangle point", loops.trianglePoint, processor.trianglePointTests);
+        list("point point", loops.pointPoint, processor.pointPointTests);
+        account.addSquares(plain ? loops.squares : processor.squares);
+        account.addBodies(processor);
+        all += "tick " + std::to_string(tick) + '\n' + account.text();
+        field.run.frame();
+        Engine::Instance().cleanupDeadEntities();
+    }
+    return all;
+}
+
+} // namespace
+
+TEST(Differential, PhysicsAndPlainLoopsAgreeOnEveryField) {
+    int caught = 0, stopped = 0;
+    for (unsigned int seed = 0; seed < 2000; ++seed) {
+        const std::string plain = playedOut(seed, true);
+        ASSERT_EQ(playedOut(seed, false), plain) << "seed " << seed;
+        caught += plain.find("score 0 ") == std::string::npos;
+        stopped += plain.find(" 1 010") != std::string::npos; // a triangle with hitLine alone
+    }
+    EXPECT_GT(caught, 100) << "the fields are too tame";
+    EXPECT_GT(stopped, 500) << "the fields are too tame";
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Framework/physics/PhysicsProcessor.h"
+
+#include <utility>
+#include <vector>
+
+/// The rules of PhysicsProcessor::process as plain loops that repeat everything in every
+/// sub-step: slow, and plain to see. It works on a processor's bodies and lines in its place; the
+/// processor must come to the same, and is measured against it.
+class PlainPhysics {
+public:
+    using Pairs = std::vector<std::pair<quorva::Entity*, quorva::Entity*>>;
+
+    explicit PlainPhysics(quorva::physics::PhysicsProcessor& processor_) : processor(processor_) {}
+
+    void process();
+
+    Pairs aabbAabb, aabbPoint, aabbTriangle, triangleTriangle, trianglePoint, pointPoint;
+    std::vector<quorva::physics::PhysicsProcessor::Square> squares;
+
+private:
+    void pairUp();
+    void move() const;
+    void testBoxesAndBoxes() const;
+    void testBoxesAndTriangles() const;
+    void testTrianglesAndPoints() const;
+    void retireLines() const;
+    void constructSquares();
+    void testBoxes() const;
+
+    quorva::physics::PhysicsProcessor& processor;
+};
