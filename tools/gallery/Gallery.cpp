@@ -1,8 +1,10 @@
 // Makes the pictures of docs/gallery: plays one game by a fixed clock and fixed rules, and keeps of
 // each kind of moment the one that shows most.
 //
-//   gallery FOLDER WIDTH HEIGHT       pictures of all pages and moments, as PPM
-//   gallery --film FOLDER WIDTH HEIGHT   the frames of a short film of the same game
+//   gallery pictures FOLDER WIDTH HEIGHT CLOCK   all pages and moments
+//   gallery film FOLDER WIDTH HEIGHT CLOCK       the frames of the game's liveliest seconds
+//
+// All as PPM. WIDTH and HEIGHT are the screen's, in pixels; CLOCK, in ms, seeds the game.
 
 #include "game/GameBase.h"
 #include "game/Marvo.h"
@@ -14,18 +16,20 @@
 #include <SDL.h>
 
 #include <cmath>
-#include <cstdio>
+#include <cstdint>
 #include <iostream>
+#include <memory>
 #include <string>
+#include <vector>
 
 using gallery::Picture;
 using gallery::Scene;
 
 namespace {
 
-constexpr std::uint32_t start_clock = 7; ///< ms; seeds the game
 constexpr unsigned int game_ticks = 6000, pause_tick = 2400;
 constexpr unsigned int film_ticks = 240, ticks_per_frame = 2;
+constexpr double worth_of_catch = 60.0, cost_of_death = 20.0; ///< for the film, in crowds
 
 /// 1 at the middle of a fade's best part, 0 outside.
 double near(float alpha, double best) {
@@ -60,40 +64,26 @@ Moment moments[] = {
 
 class Gallery {
 public:
-    Gallery(std::string folder_, unsigned short width_, unsigned short height_)
-        : folder(std::move(folder_)), width(width_), height(height_),
-          run(start_clock, width, height), player(run) {}
+    Gallery(std::string folder_, unsigned short width_, unsigned short height_, std::uint32_t clock)
+        : folder(std::move(folder_)), width(width_), height(height_), run(clock, width, height),
+          player(run) {}
 
-    void pictures() {
-        pages();
-        moments_();
-        end("record");
-        run.press(SDLK_RETURN);
-        run.tick();
-        startGame();
-        end("game-over");
-    }
-    void film();
+    void pictures();
+    /// Plays without a camera.
+    /// @return the tick of the game from which the film is to run
+    unsigned int findFilm();
+    void film(unsigned int firstTick);
 
 private:
     Picture shot() const { return Picture::ofScreen(width, height); }
     void save(const std::string& name) const { shot().save(folder + '/' + name + ".ppm"); }
-    void press(int symbol) {
-        run.press(symbol);
-        run.tick();
-        run.tick(); // shown
-    }
-    void startGame() {
-        run.startLevel();
-        run.tick();
-    }
-    void playTick() {
-        player.play();
-        run.tick();
-    }
-    void pages();
-    void moments_();
-    void end(const std::string& name);
+    void press(int symbol);
+    void startGame();
+    bool playTick(); ///< whether the game goes on
+    void showPages();
+    void showGame();
+    void showEnd(const std::string& name);
+    void keepBest();
 
     const std::string folder;
     const unsigned short width, height;
@@ -101,7 +91,34 @@ private:
     gallery::Player player;
 };
 
-void Gallery::pages() {
+void Gallery::press(int symbol) {
+    run.press(symbol);
+    run.tick();
+    run.tick(); // shown
+}
+
+void Gallery::startGame() {
+    run.startLevel();
+    run.tick();
+}
+
+bool Gallery::playTick() {
+    player.play();
+    run.tick();
+    return run.game().level != nullptr;
+}
+
+void Gallery::pictures() {
+    showPages();
+    startGame();
+    showGame();
+    showEnd("record");
+    press(SDLK_RETURN);
+    startGame();
+    showEnd("game-over"); // worse than the record of just now
+}
+
+void Gallery::showPages() {
     const auto page = [this](int downs, const char* name) {
         for (int i = 0; i < downs; ++i)
             press(SDLK_DOWN);
@@ -123,55 +140,96 @@ void Gallery::pages() {
     press(SDLK_ESCAPE);
 }
 
-void Gallery::moments_() {
-    startGame();
-    for (unsigned int tick = 0; tick < game_ticks && run.game().level != nullptr; ++tick) {
-        playTick();
+void Gallery::showGame() {
+    for (unsigned int tick = 0; tick < game_ticks && playTick(); ++tick) {
         if (tick == pause_tick) {
             press(SDLK_p);
             save("pause");
             press(SDLK_p);
         }
-        const Scene scene(run.game());
-        for (Moment& moment : moments) {
-            const double merit = moment.merit(scene);
-            if (merit <= moment.best) continue;
-            moment.best = merit;
-            moment.picture = shot();
-        }
+        keepBest();
     }
     for (const Moment& moment : moments) {
         if (moment.best > 0.0)
             moment.picture.save(folder + '/' + moment.name + ".ppm");
         else
             std::cerr << "The game has not shown: " << moment.name << '\n';
+        std::cout << moment.name << ' ' << moment.best << "  ";
+    }
+}
+
+void Gallery::keepBest() {
+    const Scene scene(run.game());
+    for (Moment& moment : moments) {
+        const double merit = moment.merit(scene);
+        if (merit <= moment.best) continue;
+        moment.best = merit;
+        moment.picture = shot();
     }
 }
 
 /// Stands still until the game is lost.
-void Gallery::end(const std::string& name) {
+void Gallery::showEnd(const std::string& name) {
     player.rest();
     while (run.game().level != nullptr)
         run.tick();
     run.tick();
     save(name);
-    std::cerr << name << ": score " << Marvo::Instance().score << '\n';
+    std::cout << name << ": " << Marvo::Instance().score << " points\n";
+}
+
+unsigned int Gallery::findFilm() {
+    startGame();
+    std::vector<double> worth; // of every tick
+    unsigned long score = 0;
+    while (worth.size() < game_ticks && playTick()) {
+        const Scene scene(run.game());
+        worth.push_back(crowd(scene) + (scene.score > score ? worth_of_catch : 0.0) -
+                        (scene.deathTicks > 0 ? cost_of_death : 0.0));
+        score = scene.score;
+    }
+    double sum = 0.0, best = 0.0;
+    unsigned int first = 0;
+    for (unsigned int tick = 0; tick < worth.size(); ++tick) {
+        sum += worth[tick] - (tick >= film_ticks ? worth[tick - film_ticks] : 0.0);
+        if (sum <= best) continue;
+        best = sum;
+        first = tick >= film_ticks ? tick - film_ticks : 0;
+    }
+    return first;
+}
+
+void Gallery::film(unsigned int firstTick) {
+    startGame();
+    for (unsigned int tick = 0; tick < firstTick + film_ticks && playTick(); ++tick) {
+        if (tick < firstTick || tick % ticks_per_frame != 0) continue;
+        const std::string number = std::to_string(10000 + tick); // in order by name
+        save("frame-" + number);
+    }
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
-    const bool film = argc == 5 && std::string(argv[1]) == "--film";
-    if (argc != 4 && !film) {
-        std::cerr << "Usage: gallery [--film] FOLDER WIDTH HEIGHT\n";
+    const std::string what = argc == 6 ? argv[1] : "";
+    if (what != "pictures" && what != "film") {
+        std::cerr << "Usage: gallery pictures|film FOLDER WIDTH HEIGHT CLOCK\n";
         return 2;
     }
     if (SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK) < 0) {
         std::cerr << "No display: " << SDL_GetError() << '\n';
         return 1;
     }
-    Gallery gallery(argv[argc - 3], static_cast<unsigned short>(std::stoi(argv[argc - 2])),
-                    static_cast<unsigned short>(std::stoi(argv[argc - 1])));
-    gallery.pictures();
+    const auto open = [argv] {
+        return std::make_unique<Gallery>(argv[2], static_cast<unsigned short>(std::stoi(argv[3])),
+                                         static_cast<unsigned short>(std::stoi(argv[4])),
+                                         static_cast<std::uint32_t>(std::stoul(argv[5])));
+    };
+    if (what == "pictures") {
+        open()->pictures();
+        return 0;
+    }
+    const unsigned int firstTick = open()->findFilm();
+    open()->film(firstTick);
     return 0;
 }

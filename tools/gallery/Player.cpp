@@ -21,11 +21,12 @@ namespace gallery {
 namespace {
 
 // World units.
-constexpr double reach = 9.0;        ///< how near the prey of a fence has to be
-constexpr double fence_margin = 2.2; ///< between the prey and the far sides of its fence
+constexpr double reach = 9.0;         ///< how near the prey of a fence has to be
+constexpr double fence_margin = 2.2;  ///< between the prey and the far sides of its fence
 constexpr double line_distance = 1.2; ///< the player keeps off its own fence by this
 constexpr double too_close = 2.6;
 constexpr double arrived = 0.2;
+constexpr unsigned int worth_the_walk = 3; ///< power-ups and bombs that lie about: a fuller picture
 constexpr double edge_margin = 0.8;
 constexpr unsigned int patience_per_stop = 60; ///< ticks
 
@@ -101,13 +102,16 @@ void Player::plan(const Triangle& prey) {
 void Player::planWalk() {
     math::Point goal = math::zero_point;
     double least = 1e9;
+    unsigned int lying = 0;
     for (const auto& [id, entity] : Engine::Instance().entities) {
         if (dynamic_cast<const PowerUp*>(entity) == nullptr || entity->dead) continue;
+        ++lying;
         const double d = distance(entity->physics->position, cube->physics->position);
         if (d >= least) continue;
         least = d;
         goal = entity->physics->position;
     }
+    if (lying < worth_the_walk) goal = math::zero_point;
     stops = {{onField(goal), {0, 0}}};
     patience = 8; // looks about again soon
 }
