@@ -9,36 +9,38 @@ namespace {
 
 constexpr float line_width = 10.0F; // pixels, whatever the screen
 
-/// Ends of the straight strokes, in pairs.
+/// Ends of the straight strokes, in pairs. Strokes end bluntly, so those of a joint run on a
+/// little, which closes its notch at every size of screen.
 constexpr double strokes[][2] = {
-    // K: its back, and the two arms
+    // K: its back, and the two arms from the tip of the arrows
     {-7.5, 3.0},
     {-7.5, -3.0},
-    {-4.9, 0.0},
-    {-2.6, 3.0},
-    {-4.9, 0.0},
-    {-2.6, -3.0},
-    // O: a tall lozenge with cut corners
-    {-1.4, 3.0},
-    {0.6, 3.0},
-    {0.6, 3.0},
-    {1.4, 2.0},
-    {1.4, 2.0},
-    {1.4, -2.0},
-    {1.4, -2.0},
-    {0.6, -3.0},
-    {0.6, -3.0},
-    {-1.4, -3.0},
-    {-1.4, -3.0},
-    {-2.2, -2.0},
-    {-2.2, -2.0},
-    {-2.2, 2.0},
-    {-2.2, 2.0},
-    {-1.4, 3.0},
-    // V: before the ring
-    {1.35, 3.0},
-    {3.0, -3.0},
-    {3.0, -3.0},
+    {-3.05, 3.0},
+    {-5.05, -0.08},
+    {-3.05, -3.0},
+    {-5.05, 0.08},
+    // O: with cut corners, like the letters of the fonts
+    {-1.73, 3.0},
+    {-0.52, 3.0},
+    {-0.6, 3.0},
+    {0.2, 2.2},
+    {0.2, 2.28},
+    {0.2, -2.28},
+    {0.2, -2.2},
+    {-0.6, -3.0},
+    {-0.52, -3.0},
+    {-1.73, -3.0},
+    {-1.65, -3.0},
+    {-2.45, -2.2},
+    {-2.45, -2.28},
+    {-2.45, 2.28},
+    {-2.45, 2.2},
+    {-1.65, 3.0},
+    // V: its left arm touches the ring from outside and the right one ends on it, so that the
+    // ring hangs in the letter instead of crossing it out
+    {0.82, 3.0},
+    {2.79, -3.0},
+    {2.67, -3.0},
     {4.65, 3.0},
 };
 

@@ -1,5 +1,6 @@
 #!/bin/sh
-# Installs those of the named groups' Debian packages that are missing: build, test.
+# Installs those of the named groups' Debian packages that are missing: build, test, gallery,
+# assets.
 set -eu
 
 packages=""
@@ -10,6 +11,8 @@ for group in "$@"; do
         libboost-filesystem-dev libopenal-dev libsndfile1-dev
         libgl1-mesa-dri" ;;
     test) packages="$packages libgtest-dev clang-format" ;;
+    gallery) packages="$packages xvfb xauth imagemagick optipng gifsicle" ;;
+    assets) packages="$packages python3-fonttools python3-shapely" ;;
     *) echo "install_packages.sh: no such group: $group" >&2; exit 2 ;;
     esac
 done

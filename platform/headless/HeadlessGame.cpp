@@ -62,13 +62,16 @@ void introduceGame() {
 
 } // namespace
 
-HeadlessGame::HeadlessGame(std::uint32_t startTicks) {
+HeadlessGame::HeadlessGame(std::uint32_t startTicks, unsigned short width, unsigned short height) {
     sdl().ticks = startTicks;
     sdl().events.clear();
     introduceGame();
     forgetLastRun();
-    config::Config::Instance().setDefaults();
-    config::Config::Instance().activateConfig();
+    config::ConfigClass& settings = config::Config::Instance();
+    settings.setDefaults();
+    if (width != 0) settings.setScreenWidth(width);
+    if (height != 0) settings.setScreenHeight(height);
+    settings.activateConfig();
     TimerClass& timer = Timer::Instance();
     timer.paused = false;
     timer.reset();

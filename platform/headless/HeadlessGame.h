@@ -14,7 +14,9 @@ class HeadlessGame {
 public:
     /// Starts a run as a fresh process would: clock at `startTicks` ms, an unseeded random
     /// stream, default settings, an empty event queue.
-    explicit HeadlessGame(std::uint32_t startTicks = 0);
+    /// @param width, height of the screen, in pixels; 0 for the default setting
+    explicit HeadlessGame(std::uint32_t startTicks = 0, unsigned short width = 0,
+                          unsigned short height = 0);
     ~HeadlessGame(); ///< every entity has gone afterwards
     HeadlessGame(const HeadlessGame&) = delete;
     HeadlessGame& operator=(const HeadlessGame&) = delete;

@@ -1,61 +1,141 @@
 #!/usr/bin/env python3
-"""Draws the window icon data/kov.ico (a BMP, 32 by 32) from the logo's shapes: an arrow in a ring
-beside a stroke, on the game's background. Needs nothing but Python; the same bytes each time."""
+"""Draws the game's icon, the K of the logo with its outer arrow as a filled triangle, from the
+strokes in game/Logo.cpp: data/kov.ico (a BMP, 32 by 32, for the window), and for desktops
+packaging/icons/kov.svg and kov-<size>.png. Needs nothing but Python; the same bytes each time."""
 
 import math
+import os
+import re
 import struct
 import sys
+import zlib
 
-SIZE = 32  # pixels
-SAMPLES = 4  # per pixel and axis
-BACKGROUND = (27, 27, 27)
-LINE = (64, 242, 217)
-FILL = (255, 92, 77)
+WINDOW_SIZE = 32  # pixels
+DESKTOP_SIZES = [16, 22, 24, 32, 48, 64, 128, 256]  # pixels
+
+# World units of the logo.
+CENTRE = (-5.28, 0.0)
+REACH = 3.95  # from the centre to the icon's edge
+CORNER = 1.3  # radius of the plate's corners
+HALF_STROKE = 0.46  # heavier than the logo's, so that it holds at 16 pixels
+ARROW_INSET = 0.25
+
+PLATE = (18, 20, 24)
+LINE = (26, 237, 255)  # "Line Colour"
+PREY = (255, 61, 34)  # "Badguy Colour"
+
+PAIR = re.compile(r"\{(-?[\d.]+), (-?[\d.]+)\}")
 
 
-def distance_to_segment(x, y, a, b):
+def read_logo(root):
+    """The three strokes of the K, and the corners of the outer arrow."""
+    with open(os.path.join(root, "game/Logo.cpp"), encoding="utf-8") as file:
+        text = file.read()
+    ends = [(float(x), float(y)) for x, y in PAIR.findall(text.split("strokes[][2]")[1])[:6]]
+    upper = [(float(x), float(y)) for x, y in PAIR.findall(text.split("arrows[][4][2]")[1])[:4]]
+    top, tip = upper[0], upper[3]
+    left = ends[0][0] + HALF_STROKE + ARROW_INSET
+    arrow = [(left, top[1]), (tip[0] + ARROW_INSET, tip[1]), (left, -top[1])]
+    return [(ends[i], ends[i + 1]) for i in (0, 2, 4)], arrow
+
+
+def segment_distance(p, a, b):
     dx, dy = b[0] - a[0], b[1] - a[1]
-    t = max(0.0, min(1.0, ((x - a[0]) * dx + (y - a[1]) * dy) / (dx * dx + dy * dy)))
-    return math.hypot(x - a[0] - t * dx, y - a[1] - t * dy)
+    t = ((p[0] - a[0]) * dx + (p[1] - a[1]) * dy) / (dx * dx + dy * dy)
+    t = max(0.0, min(1.0, t))
+    return math.hypot(p[0] - a[0] - t * dx, p[1] - a[1] - t * dy)
 
 
-SEGMENTS = [((6, 4), (6, 28)), ((26, 4), (12, 16)), ((12, 16), (26, 28))]  # the letter K
-TRIANGLE = [(19, 16), (27, 12), (27, 20)]
+def triangle_distance(p, corners):
+    """Negative inside."""
+    sides = list(zip(corners, corners[1:] + corners[:1]))
+    turns = [(b[0] - a[0]) * (p[1] - a[1]) - (b[1] - a[1]) * (p[0] - a[0]) for a, b in sides]
+    inside = all(t <= 0 for t in turns) or all(t >= 0 for t in turns)
+    nearest = min(segment_distance(p, a, b) for a, b in sides)
+    return -nearest if inside else nearest
 
 
-def inside_triangle(x, y):
-    sides = [
-        (b[0] - a[0]) * (y - a[1]) - (b[1] - a[1]) * (x - a[0])
-        for a, b in zip(TRIANGLE, TRIANGLE[1:] + TRIANGLE[:1])
-    ]
-    return all(s <= 0 for s in sides) or all(s >= 0 for s in sides)
+def plate_distance(p):
+    """Negative inside."""
+    x = abs(p[0] - CENTRE[0]) - REACH + CORNER
+    y = abs(p[1] - CENTRE[1]) - REACH + CORNER
+    return math.hypot(max(x, 0.0), max(y, 0.0)) + min(max(x, y), 0.0) - CORNER
 
 
-def colour_at(x, y):
-    if min(distance_to_segment(x, y, a, b) for a, b in SEGMENTS) < 2.0:
-        return LINE
-    return FILL if inside_triangle(x, y) else BACKGROUND
+def mix(under, over, share):
+    return tuple(u + (o - u) * share for u, o in zip(under, over))
 
 
-def pixel(column, row):
-    total = [0, 0, 0]
-    for i in range(SAMPLES):
-        for j in range(SAMPLES):
-            sample = colour_at(column + (i + 0.5) / SAMPLES, row + (j + 0.5) / SAMPLES)
-            total = [t + s for t, s in zip(total, sample)]
-    return [t // SAMPLES**2 for t in total]
+def pixels(logo, size):
+    """Rows of (r, g, b, alpha), from the top."""
+    strokes, arrow = logo
+    step = 2 * REACH / size
+
+    def cover(distance):
+        return max(0.0, min(1.0, 0.5 - distance / step))
+
+    for row in range(size):
+        y = CENTRE[1] + REACH - (row + 0.5) * step
+        line = []
+        for column in range(size):
+            p = (CENTRE[0] - REACH + (column + 0.5) * step, y)
+            colour = mix(PLATE, PREY, cover(triangle_distance(p, arrow)))
+            nearest = min(segment_distance(p, a, b) for a, b in strokes)
+            colour = mix(colour, LINE, cover(nearest - HALF_STROKE))
+            line.append((*colour, 255 * cover(plate_distance(p))))
+        yield [tuple(round(v) for v in pixel) for pixel in line]
+
+
+def write(path, data):
+    os.makedirs(os.path.dirname(path), exist_ok=True)
+    with open(path, "wb") as file:
+        file.write(data)
+
+
+def bmp(rows, size):
+    body = b"".join(bytes((b, g, r)) for row in reversed(rows) for r, g, b, _ in row)
+    info = struct.pack("<IiiHHIIiiII", 40, size, size, 1, 24, 0, len(body), 2835, 2835, 0, 0)
+    return struct.pack("<2sIHHI", b"BM", 54 + len(body), 0, 0, 54) + info + body
+
+
+def png(rows, size):
+    def chunk(kind, data):
+        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+
+    body = b"".join(b"\0" + bytes(v for pixel in row for v in pixel) for row in rows)
+    header = struct.pack(">IIBBBBB", size, size, 8, 6, 0, 0, 0)
+    return (b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", header) + chunk(b"IDAT", zlib.compress(body, 9))
+            + chunk(b"IEND", b""))
+
+
+def svg(logo):
+    strokes, arrow = logo
+
+    def place(p):
+        return f"{p[0] - CENTRE[0] + REACH:.3f} {REACH - p[1] + CENTRE[1]:.3f}"
+
+    def colour(rgb):
+        return "#%02x%02x%02x" % rgb
+
+    lines = " ".join(f"M{place(a)}L{place(b)}" for a, b in strokes)
+    triangle = "L".join(place(p) for p in arrow)
+    side = 2 * REACH
+    return f"""<svg xmlns="http://www.w3.org/2000/svg" width="256" height="256" viewBox="0 0 {side} {side}">
+<rect width="{side}" height="{side}" rx="{CORNER}" fill="{colour(PLATE)}"/>
+<path d="M{triangle}Z" fill="{colour(PREY)}"/>
+<path d="{lines}" stroke="{colour(LINE)}" stroke-width="{2 * HALF_STROKE}" stroke-linecap="round"/>
+</svg>
+"""
 
 
 def main():
-    path = sys.argv[1] if len(sys.argv) > 1 else "data/kov.ico"
-    rows = bytearray()
-    for row in reversed(range(SIZE)):  # bottom-up, blue first
-        for column in range(SIZE):
-            rows += bytes(reversed(pixel(column, row)))
-    header = struct.pack("<2sIHHI", b"BM", 54 + len(rows), 0, 0, 54)
-    info = struct.pack("<IiiHHIIiiII", 40, SIZE, SIZE, 1, 24, 0, len(rows), 2835, 2835, 0, 0)
-    with open(path, "wb") as file:
-        file.write(header + info + rows)
+    root = sys.argv[1] if len(sys.argv) > 1 else "."
+    logo = read_logo(root)
+    write(os.path.join(root, "data/kov.ico"), bmp(list(pixels(logo, WINDOW_SIZE)), WINDOW_SIZE))
+    icons = os.path.join(root, "packaging/icons")
+    write(os.path.join(icons, "kov.svg"), svg(logo).encode())
+    for size in DESKTOP_SIZES:
+        write(os.path.join(icons, f"kov-{size}.png"), png(list(pixels(logo, size)), size))
 
 
 if __name__ == "__main__":

@@ -1,0 +1,84 @@
+// The window and the joysticks of the stand-in for SDL. Apart from clock and events, so that a
+// program can have those with a real window.
+
+#include "platform/headless/VirtualSDL.h"
+
+using quorva::headless::sdl;
+
+struct _SDL_Joystick {
+    int index;
+};
+
+namespace {
+
+SDL_Surface surface;
+std::array<_SDL_Joystick, 4> joysticks = {{{0}, {1}, {2}, {3}}};
+
+} // namespace
+
+extern "C" {
+
+int SDL_Init(Uint32) {
+    return 0;
+}
+void SDL_Quit() {
+    ++sdl().quits;
+}
+char* SDL_GetError() {
+    static char text[] = "no such mode";
+    return text;
+}
+
+SDL_Surface* SDL_SetVideoMode(int width, int height, int depth, Uint32 flags) {
+    sdl().modes.push_back({width, height, depth, flags});
+    if (sdl().refusedModes == 0) return &surface;
+    --sdl().refusedModes;
+    return nullptr;
+}
+
+int SDL_GL_SetAttribute(SDL_GLattr, int) {
+    return 0;
+}
+void SDL_GL_SwapBuffers() {
+    ++sdl().swaps;
+}
+int SDL_ShowCursor(int toggle) {
+    if (toggle == SDL_DISABLE) ++sdl().cursorHidden;
+    return toggle;
+}
+void SDL_WM_SetCaption(const char* title, const char*) {
+    sdl().caption = title;
+}
+void SDL_WM_SetIcon(SDL_Surface*, Uint8*) {}
+SDL_RWops* SDL_RWFromFile(const char* file, const char*) {
+    sdl().filesOpened.emplace_back(file);
+    return nullptr;
+}
+SDL_Surface* SDL_LoadBMP_RW(SDL_RWops*, int) {
+    return nullptr;
+}
+void SDL_FreeSurface(SDL_Surface*) {}
+
+int SDL_NumJoysticks() {
+    return sdl().joysticks;
+}
+int SDL_JoystickEventState(int state) {
+    return state;
+}
+SDL_Joystick* SDL_JoystickOpen(int index) {
+    return index == sdl().refusedJoystick ? nullptr : &joysticks.at(index);
+}
+const char* SDL_JoystickName(int) {
+    return "virtual stick";
+}
+int SDL_JoystickNumAxes(SDL_Joystick*) {
+    return 4;
+}
+int SDL_JoystickNumButtons(SDL_Joystick*) {
+    return 16;
+}
+Sint16 SDL_JoystickGetAxis(SDL_Joystick* joystick, int axis) {
+    return sdl().axes.at(joystick->index).at(axis);
+}
+
+} // extern "C"

@@ -1,0 +1,208 @@
+#include "Framework/Graphics/Colour.h"
+#include "Framework/Managers/ResourceTraits.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <fstream>
+#include <map>
+#include <string>
+
+using quorva::graphics::Colour;
+
+namespace {
+
+using Triple = std::array<double, 3>; // RGB, linear RGB or Lab
+
+constexpr double pi = 3.14159265358979323846;
+constexpr double field_grey = 0.105882; // what the screen is cleared with
+
+/// What a colour looks like over an opaque one.
+Triple over(const Colour& colour, const Triple& under) {
+    Triple seen;
+    for (std::size_t i = 0; i < 3; ++i)
+        seen[i] = under[i] + (colour.components[i] - under[i]) * colour.alpha();
+    return seen;
+}
+
+Triple linear(Triple rgb) {
+    for (double& v : rgb)
+        v = v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+    return rgb;
+}
+
+Triple times(const double (&m)[3][3], const Triple& v) {
+    Triple product;
+    for (std::size_t i = 0; i < 3; ++i)
+        product[i] = m[i][0] * v[0] + m[i][1] * v[1] + m[i][2] * v[2];
+    return product;
+}
+
+/// CIE L*a*b* under D65 of a colour in linear sRGB.
+Triple lab(const Triple& rgb) {
+    const double to_xyz[3][3] = {{0.4124564, 0.3575761, 0.1804375},
+                                 {0.2126729, 0.7151522, 0.0721750},
+                                 {0.0193339, 0.1191920, 0.9503041}};
+    const double white[] = {0.95047, 1.0, 1.08883};
+    Triple f = times(to_xyz, rgb);
+    for (std::size_t i = 0; i < 3; ++i) {
+        const double t = f[i] / white[i];
+        f[i] = t > 216.0 / 24389.0 ? std::cbrt(t) : (24389.0 / 27.0 * t + 16.0) / 116.0;
+    }
+    return {116.0 * f[1] - 16.0, 500.0 * (f[0] - f[1]), 200.0 * (f[1] - f[2])};
+}
+
+double sine(double degrees) {
+    return std::sin(degrees * pi / 180.0);
+}
+double cosine(double degrees) {
+    return std::cos(degrees * pi / 180.0);
+}
+double hue(double a, double b) {
+    const double h = std::atan2(b, a) * 180.0 / pi;
+    return h < 0.0 ? h + 360.0 : h;
+}
+
+/// CIEDE2000 of two colours in Lab, as Sharma, Wu and Dalal (2005) write it down.
+double difference(const Triple& one, const Triple& two) {
+    const auto seventh = [](double c) {
+        return std::sqrt(std::pow(c, 7) / (std::pow(c, 7) + 6103515625.0));
+    };
+    const double mean_c = (std::hypot(one[1], one[2]) + std::hypot(two[1], two[2])) / 2.0;
+    const double stretch = 1.0 + 0.5 * (1.0 - seventh(mean_c));
+    const double a1 = one[1] * stretch, a2 = two[1] * stretch;
+    const double c1 = std::hypot(a1, one[2]), c2 = std::hypot(a2, two[2]);
+    const double h1 = hue(a1, one[2]), h2 = hue(a2, two[2]);
+    const bool grey = c1 * c2 == 0.0;
+    double dh = grey ? 0.0 : h2 - h1;
+    if (std::fabs(dh) > 180.0) dh -= std::copysign(360.0, dh);
+    double mean_h = grey ? h1 + h2 : (h1 + h2) / 2.0;
+    if (!grey && std::fabs(h1 - h2) > 180.0) mean_h += h1 + h2 < 360.0 ? 180.0 : -180.0;
+    const double l = (one[0] + two[0]) / 2.0 - 50.0, c = (c1 + c2) / 2.0;
+    const double t = 1.0 - 0.17 * cosine(mean_h - 30.0) + 0.24 * cosine(2.0 * mean_h) +
+                     0.32 * cosine(3.0 * mean_h + 6.0) - 0.20 * cosine(4.0 * mean_h - 63.0);
+    const double dl = (two[0] - one[0]) / (1.0 + 0.015 * l * l / std::sqrt(20.0 + l * l));
+    const double dc = (c2 - c1) / (1.0 + 0.045 * c);
+    const double dH = 2.0 * std::sqrt(c1 * c2) * sine(dh / 2.0) / (1.0 + 0.015 * c * t);
+    const double turn = 60.0 * std::exp(-std::pow((mean_h - 275.0) / 25.0, 2));
+    return std::sqrt(dl * dl + dc * dc + dH * dH - sine(turn) * 2.0 * seventh(c) * dc * dH);
+}
+
+/// How an eye sees linear RGB: Machado, Oliveira and Fernandes (2009), full severity.
+const struct Eye {
+    const char* name;
+    double least; ///< difference between any two roles
+    double matrix[3][3];
+} eyes[] = {
+    {"common", 20.0, {{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}}},
+    {"protanopic",
+     12.0,
+     {{0.152286, 1.052583, -0.204868},
+      {0.114503, 0.786281, 0.099216},
+      {-0.003882, -0.048116, 1.051998}}},
+    {"deuteranopic",
+     12.0,
+     {{0.367322, 0.860646, -0.227968},
+      {0.280085, 0.672501, 0.047413},
+      {-0.011820, 0.042940, 0.968881}}},
+};
+
+Triple seenBy(const Eye& eye, const Triple& rgb) {
+    Triple seen = times(eye.matrix, linear(rgb));
+    for (double& v : seen)
+        v = std::clamp(v, 0.0, 1.0);
+    return lab(seen);
+}
+
+/// Ratio of luminances as WCAG 2 has it.
+double contrast(const Triple& one, const Triple& two) {
+    const auto luminance = [](const Triple& rgb) {
+        const Triple v = linear(rgb);
+        return 0.2126 * v[0] + 0.7152 * v[1] + 0.0722 * v[2] + 0.05;
+    };
+    const auto [darker, lighter] = std::minmax(luminance(one), luminance(two));
+    return lighter / darker;
+}
+
+class Palette : public testing::Test {
+protected:
+    Palette() {
+        std::ifstream file("data/Colour.kov");
+        std::string line, name;
+        for (Colour colour; std::getline(file, line);)
+            if (quorva::ResourceTraits<Colour>::parseLine(line, name, colour))
+                colours[name] = colour;
+    }
+    const Colour& colour(const std::string& name) {
+        EXPECT_EQ(colours.count(name), 1U) << name << " is not in data/Colour.kov";
+        return colours[name];
+    }
+
+    const Triple field = {field_grey, field_grey, field_grey};
+    std::map<std::string, Colour> colours;
+};
+
+} // namespace
+
+TEST(ColourDifference, AgreesWithPublishedPairs) {
+    const struct {
+        Triple one, two;
+        double difference;
+    } pairs[] = {{{50.0, 2.6772, -79.7751}, {50.0, 0.0, -82.7485}, 2.0425},
+                 {{50.0, 0.0, 0.0}, {50.0, -1.0, 2.0}, 2.3669},
+                 {{50.0, 2.49, -0.001}, {50.0, -2.49, 0.0009}, 7.1792},
+                 {{50.0, 2.49, -0.001}, {50.0, -2.49, 0.0011}, 7.2195},
+                 {{50.0, 2.5, 0.0}, {73.0, 25.0, -18.0}, 27.1492},
+                 {{60.2574, -34.0099, 36.2677}, {60.4626, -34.1751, 39.4387}, 1.2644},
+                 {{2.0776, 0.0795, -1.135}, {0.9033, -0.0636, -0.5514}, 0.9082}};
+    for (const auto& pair : pairs)
+        EXPECT_NEAR(difference(pair.one, pair.two), pair.difference, 5e-5);
+}
+
+TEST_F(Palette, RolesOnTheFieldDifferForEveryEye) {
+    // All of these can be on the field at once, so every two of them meet.
+    const char* const roles[] = {"Player Colour",
+                                 "Badguy Colour",
+                                 "Badguy Stuck Colour",
+                                 "Line Colour",
+                                 "Border Colour",
+                                 "PUP Line Colour",
+                                 "PUP Cooldown Colour",
+                                 "Clear Bomb Line Colour",
+                                 "Immune Bomb Line Colour",
+                                 "Square Line Effect",
+                                 "Score Font"};
+    for (const Eye& eye : eyes)
+        for (const auto* one = std::begin(roles); one != std::end(roles); ++one)
+            for (const auto* two = std::begin(roles); two != one; ++two)
+                EXPECT_GE(difference(seenBy(eye, over(colour(*one), field)),
+                                     seenBy(eye, over(colour(*two), field))),
+                          eye.least)
+                    << *one << " and " << *two << " to the " << eye.name << " eye";
+}
+
+TEST_F(Palette, TextIsReadableAndTheSelectionStandsOut) {
+    const struct {
+        const char* backdrop; ///< nullptr: the bare field
+        std::initializer_list<const char*> texts;
+    } pages[] = {
+        {nullptr, {"Score Font"}},
+        {"Pause BG", {"Score Font"}},
+        {"Main Menu Background",
+         {"Main Menu Word On", "Main Menu Word Off", "Menu Title", "Logo Colour"}},
+        {"Config Menu Colour",
+         {"Main Menu Word On", "Main Menu Word Off", "Menu Title", "Menu Selecting"}},
+        {"Console Bar", {"Console Bar Outline"}},
+    };
+    for (const auto& page : pages) {
+        const Triple ground = page.backdrop != nullptr ? over(colour(page.backdrop), field) : field;
+        for (const char* text : page.texts)
+            EXPECT_GE(contrast(over(colour(text), ground), ground), 7.0) << text;
+    }
+    const Triple ground = over(colour("Main Menu Background"), field);
+    EXPECT_GE(contrast(over(colour("Main Menu Word On"), ground),
+                       over(colour("Main Menu Word Off"), ground)),
+              2.0);
+}

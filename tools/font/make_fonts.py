@@ -1,0 +1,122 @@
+#!/usr/bin/env python3
+"""Makes the game's two faces from one set of strokes: fonts/KovMenu.ttf, low enough for rows that
+stand 0.75 apart, and fonts/KovText.ttf, taller and heavier for pages, which are drawn at scale
+0.75. Corners lie on 64ths of the em, the grid on which the game's renderer places them, so that
+strokes keep one weight. Needs python3-fonttools and python3-shapely; the same bytes each time."""
+
+import math
+import os
+import sys
+
+from fontTools.fontBuilder import FontBuilder
+from fontTools.pens.ttGlyphPen import TTGlyphPen
+from shapely.geometry import CAP_STYLE, JOIN_STYLE, LineString, Polygon
+from shapely.geometry.polygon import orient
+from shapely.ops import unary_union
+
+from glyphs import GLYPHS
+
+GRID = 64  # steps per em
+UNITS = 1024  # font units per em
+DIGITS = "0123456789"
+MITRE_LIMIT = 1.5  # of half a stroke: corners of 90 degrees stay sharp
+EPOCH = 3786825600  # seconds from 1904 to 2024: a fixed date
+COPYRIGHT = "Made for KOV. CC0 1.0: no rights reserved."
+
+
+class Style:
+    """Lengths in 64ths of the em."""
+
+    def __init__(self, name, scale, stroke, bearings, digit_left, digit_advance, blank):
+        self.name, self.scale, self.half = name, scale, stroke / 2
+        self.left, self.right = bearings
+        self.digit_left, self.digit_advance = digit_left, digit_advance
+        self.blank = blank
+
+
+STYLES = [
+    Style("KovMenu", 1.0, 6, (3, 4), 2, 24, 15),
+    Style("KovText", 4 / 3, 8, (4, 5), 4, 34, 20),
+]
+
+
+def stroke(polyline, style):
+    points = [tuple(float(v) for v in p.split(",")) for p in polyline.split()]
+    points = [(x * style.scale + style.half, y * style.scale + style.half) for x, y in points]
+    if points[0] == points[-1] and len(points) > 2:  # closed: no caps
+        ring = Polygon(points)
+        grow = dict(join_style=JOIN_STYLE.mitre, mitre_limit=MITRE_LIMIT)
+        return ring.buffer(style.half, **grow).difference(ring.buffer(-style.half, **grow))
+    if len(points) == 2 and points[0] == points[1]:  # a dot
+        points[1] = (points[1][0] + 1e-6, points[1][1])
+    return LineString(points).buffer(style.half, cap_style=CAP_STYLE.square,
+                                     join_style=JOIN_STYLE.mitre, mitre_limit=MITRE_LIMIT)
+
+
+def on_grid(value):
+    return math.floor(value + 0.5) * (UNITS // GRID)
+
+
+def contours(shape):
+    """Outer rings clockwise, holes the other way, as TrueType has them."""
+    for part in getattr(shape, "geoms", [shape]):
+        part = orient(part, -1.0)
+        yield from [part.exterior, *part.interiors]
+
+
+def draw(character, style):
+    """The glyph and its advance in font units."""
+    pen = TTGlyphPen(None)
+    left = style.digit_left if character in DIGITS else style.left
+    advance = left + style.right
+    if GLYPHS[character]:
+        shape = unary_union([stroke(polyline, style) for polyline in GLYPHS[character]])
+        advance += shape.bounds[2]
+        for ring in contours(shape):
+            placed = [(on_grid(x + left), on_grid(y)) for x, y in ring.coords[:-1]]
+            pen.moveTo(placed[0])
+            for i in range(1, len(placed)):
+                if placed[i] != placed[i - 1]:
+                    pen.lineTo(placed[i])
+            pen.closePath()
+    fixed = {" ": style.blank, **dict.fromkeys(DIGITS, style.digit_advance)}
+    return pen.glyph(), on_grid(fixed.get(character, advance))
+
+
+def make(style, folder):
+    characters = sorted(GLYPHS)
+    names = {ord(c): f"uni{ord(c):04X}" for c in characters}
+    drawn = {".notdef": draw(" ", style)}
+    drawn.update((names[ord(c)], draw(c, style)) for c in characters)
+    builder = FontBuilder(UNITS, isTTF=True)
+    builder.setupGlyphOrder(list(drawn))
+    builder.setupCharacterMap(names)
+    builder.setupGlyf({name: glyph for name, (glyph, _) in drawn.items()})
+    glyf = builder.font["glyf"]
+    builder.setupHorizontalMetrics(
+        {name: (advance, getattr(glyf[name], "xMin", 0)) for name, (_, advance) in drawn.items()}
+    )
+    ascent, descent = on_grid(36 * style.scale), on_grid(9 * style.scale)
+    builder.setupHorizontalHeader(ascent=ascent, descent=-descent)
+    builder.setupNameTable(
+        {
+            "familyName": style.name,
+            "styleName": "Regular",
+            "copyright": COPYRIGHT,
+            "uniqueFontIdentifier": style.name + " 1.0",
+            "fullName": style.name,
+            "psName": style.name + "-Regular",
+            "version": "Version 1.0",
+        }
+    )
+    builder.setupOS2(sTypoAscender=ascent, sTypoDescender=-descent, usWinAscent=ascent,
+                     usWinDescent=descent)
+    builder.setupPost()
+    builder.font["head"].created = builder.font["head"].modified = EPOCH
+    builder.font.recalcTimestamp = False
+    builder.save(os.path.join(folder, style.name + ".ttf"))
+
+
+if __name__ == "__main__":
+    for a_style in STYLES:
+        make(a_style, sys.argv[1] if len(sys.argv) > 1 else "fonts")

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Framework/math/Point.h"
+
+#include <deque>
+
+class PlayerCharacter;
+class Triangle;
+
+namespace quorva::headless {
+class HeadlessGame;
+}
+
+namespace gallery {
+
+/// Plays by keys, for the pictures: fences the nearest triangle in with four lines, takes what
+/// lies about, and steps back from what comes too close.
+class Player {
+public:
+    explicit Player(quorva::headless::HeadlessGame& run_) : run(run_) {}
+    void play(); ///< before every tick
+    void rest(); ///< lets go of all keys
+
+private:
+    /// Go there, then fire these guns.
+    struct Stop {
+        quorva::math::Point place;
+        int guns[2]; ///< key symbols, 0 for none
+    };
+
+    const Triangle* nearestTriangle() const;
+    void plan(const Triangle& prey);
+    void planWalk();
+    void follow();
+    bool stepBack(const Triangle& hunter);
+    void steer(double dx, double dy);
+    void hold(int symbol, bool down);
+    void arrive(const Stop& stop);
+
+    quorva::headless::HeadlessGame& run;
+    const PlayerCharacter* cube = nullptr;
+    std::deque<Stop> stops;
+    unsigned int patience = 0; ///< ticks left for the way to the next stop
+    bool held[4] = {};         ///< right, left, up, down
+};
+
+} // namespace gallery
