@@ -1,0 +1,95 @@
+// What a frame of a busy field costs the whole process in a real window, beside a bare loop that
+// sends the very same GL calls. Wants a display.
+//
+//   kov_frame_cost [frames a round]
+
+#include "bench/support/Furniture.h"
+#include "bench/support/WorkFolder.h"
+#include "bench/window/GLTape.h"
+
+#include <GL/gl.h>
+#include <SDL.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <ctime>
+#include <iostream>
+#include <vector>
+
+namespace {
+
+constexpr int rounds = 7;
+constexpr int usual_frames = 100;
+constexpr int width = 800, height = 600; // the default settings
+
+/// ms of processor time, of all threads.
+double processTime() {
+    timespec t;
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &t);
+    return static_cast<double>(t.tv_sec) * 1e3 + static_cast<double>(t.tv_nsec) * 1e-6;
+}
+
+template <class Frame>
+double costOf(int frames, Frame frame) {
+    glFinish();
+    const double start = processTime();
+    for (int i = 0; i < frames; ++i)
+        frame();
+    glFinish();
+    return (processTime() - start) / frames;
+}
+
+std::vector<unsigned char> pixels() {
+    std::vector<unsigned char> rgb(width * height * 3);
+    glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    glReadBuffer(GL_FRONT);
+    glReadPixels(0, 0, width, height, GL_RGB, GL_UNSIGNED_BYTE, rgb.data());
+    return rgb;
+}
+
+double median(std::vector<double> values) {
+    std::nth_element(values.begin(), values.begin() + rounds / 2, values.end());
+    return values[rounds / 2];
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const bench::WorkFolder folder;
+    if (SDL_Init(SDL_INIT_VIDEO) < 0) {
+        std::cerr << "no display: " << SDL_GetError() << '\n';
+        return 1;
+    }
+    const int frames = argc > 1 ? std::max(1, std::atoi(argv[1])) : usual_frames;
+    Field field;
+    bench::furnishFrame(field);
+    const auto gameFrame = [&field] { field.run.frame(); };
+    const auto bareFrame = [] {
+        bench::glTape().play();
+        SDL_GL_SwapBuffers();
+    };
+    gameFrame(); // makes the letters
+    bench::glTape().record();
+    gameFrame();
+    bench::glTape().stop();
+    const auto seen = pixels();
+    glClear(GL_COLOR_BUFFER_BIT);
+    SDL_GL_SwapBuffers();
+    bareFrame();
+    if (pixels() != seen) {
+        std::cerr << "the tape draws another picture than the game\n";
+        return 1;
+    }
+
+    std::vector<double> game, bare, ratio;
+    for (int round = 0; round < rounds; ++round) {
+        game.push_back(costOf(frames, gameFrame));
+        bare.push_back(costOf(frames, bareFrame));
+        ratio.push_back(game.back() / bare.back());
+    }
+    std::cout << "GL calls a frame " << bench::glTape().size() << "\nprocessor time a frame, ms: game "
+              << median(game) << ", bare loop " << median(bare) << "\nratio: median " << median(ratio)
+              << ", least " << *std::min_element(ratio.begin(), ratio.end()) << ", most "
+              << *std::max_element(ratio.begin(), ratio.end()) << '\n';
+    return 0;
+}
