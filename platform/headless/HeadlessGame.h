@@ -2,7 +2,6 @@
 
 #include <cstdint>
 #include <memory>
-#include <string>
 
 class GameBase;
 
@@ -34,11 +33,11 @@ public:
     bool isOver() const;             ///< the program wants to end
 
     GameBase& game() { return *base; }
+    const GameBase& game() const { return *base; }
 
-    /// Hash of all that play depends on: positions, lines, score, lives, random state.
+    /// Hash of all that play depends on: positions, lines, score, lives, random state. What it
+    /// is made of: stateParts().
     std::uint32_t stateHash() const;
-    /// The same in words, an entity a line, for finding what differs.
-    std::string describe() const;
 
 private:
     std::unique_ptr<GameBase> base;

@@ -59,6 +59,12 @@ FMOD_CHANNEL* channelOf(const std::string& path) {
     return &channels->insert({path, FMOD_CHANNEL{path}}).first->second;
 }
 
+/// Held here, as a sound system would: the game leaves its song open when it ends.
+std::map<FMOD_SOUND*, std::unique_ptr<FMOD_SOUND>>& streams() {
+    static auto* const open = new std::map<FMOD_SOUND*, std::unique_ptr<FMOD_SOUND>>;
+    return *open;
+}
+
 std::string nameOf(const FMOD_CHANNEL* channel) {
     return channel == nullptr ? "nothing" : channel->path;
 }
@@ -91,7 +97,9 @@ FMOD_RESULT FMOD_System_CreateStream(FMOD_SYSTEM*, const char* path, unsigned in
                                      FMOD_SOUND** result) {
     note("open ", path, " ", mode);
     if (isUnreadable(path)) return 23;
-    *result = new FMOD_SOUND{path, true};
+    auto stream = std::make_unique<FMOD_SOUND>(FMOD_SOUND{path, true});
+    *result = stream.get();
+    streams()[*result] = std::move(stream);
     ++sound().openStreams;
     return 0;
 }
@@ -124,7 +132,7 @@ FMOD_RESULT FMOD_Sound_Release(FMOD_SOUND* released) {
     note("release ", released->path);
     if (released->isStream) {
         --sound().openStreams;
-        delete released;
+        streams().erase(released);
     }
     return 0;
 }

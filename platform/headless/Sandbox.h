@@ -1,0 +1,20 @@
+#pragma once
+
+#include <boost/filesystem.hpp>
+
+namespace quorva::headless {
+
+/// A folder to play in, made and entered: the game's read-only data linked in, no songs, no
+/// settings, no high score. So no run writes into the tree or reads what another has left.
+class Sandbox {
+public:
+    /// @param source the folder of the game's data
+    explicit Sandbox(const boost::filesystem::path& source);
+    ~Sandbox(); ///< leaves and removes it
+    Sandbox(const Sandbox&) = delete;
+    Sandbox& operator=(const Sandbox&) = delete;
+
+    const boost::filesystem::path folder;
+};
+
+} // namespace quorva::headless
