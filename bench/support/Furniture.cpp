@@ -76,4 +76,18 @@ void Crowd::sway() {
         Field::body(triangle).velocity = Field::body(triangle).velocity * -1.0;
 }
 
+void furnishFrame(Field& field) {
+    const Crowd crowd(200);
+    crossLines(field, 8, 8);
+    exposePlayer(field);
+    addBursts(field);
+    for (int i = 0; i < 60; ++i) { // beyond each edge in turn
+        const double along = i - 30.0;
+        const math::Point places[] = {
+            {along, 17, 0}, {along, -17, 0}, {22, along, 0}, {-22, along, 0}};
+        Engine::Instance().createEntity<Triangle>("Triangle", places[i % 4], 0.0, 1.0);
+    }
+    field.run.tick();
+}
+
 } // namespace bench

@@ -30,4 +30,8 @@ private:
     std::vector<Triangle*> triangles; ///< the engine owns them
 };
 
+/// All that a frame can have to show at once: 200 triangles, 16 lines, two bursts of a hundred
+/// rays, the border lit by 60 more, the display.
+void furnishFrame(Field& field);
+
 } // namespace bench

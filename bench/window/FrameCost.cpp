@@ -4,8 +4,8 @@
 //   kov_frame_cost [frames a round]
 
 #include "bench/support/Furniture.h"
-#include "bench/support/WorkFolder.h"
 #include "bench/window/GLTape.h"
+#include "platform/headless/Sandbox.h"
 
 #include <GL/gl.h>
 #include <SDL.h>
@@ -55,7 +55,7 @@ double median(std::vector<double> values) {
 } // namespace
 
 int main(int argc, char** argv) {
-    const bench::WorkFolder folder;
+    const quorva::headless::Sandbox sandbox(KOV_SOURCE_DIR);
     if (SDL_Init(SDL_INIT_VIDEO) < 0) {
         std::cerr << "no display: " << SDL_GetError() << '\n';
         return 1;
@@ -87,9 +87,10 @@ int main(int argc, char** argv) {
         bare.push_back(costOf(frames, bareFrame));
         ratio.push_back(game.back() / bare.back());
     }
-    std::cout << "GL calls a frame " << bench::glTape().size() << "\nprocessor time a frame, ms: game "
-              << median(game) << ", bare loop " << median(bare) << "\nratio: median " << median(ratio)
-              << ", least " << *std::min_element(ratio.begin(), ratio.end()) << ", most "
+    std::cout << "GL calls a frame " << bench::glTape().size()
+              << "\nprocessor time a frame, ms: game " << median(game) << ", bare loop "
+              << median(bare) << "\nratio: median " << median(ratio) << ", least "
+              << *std::min_element(ratio.begin(), ratio.end()) << ", most "
               << *std::max_element(ratio.begin(), ratio.end()) << '\n';
     return 0;
 }
