@@ -1,10 +1,10 @@
 #!/bin/sh
 # Makes the pictures and the film of docs/gallery again, from a game played by a program with a
-# fixed clock, on a display of its own. Takes about a minute once the program is built.
+# fixed seed, on a display of its own. Takes about a minute once the program is built.
 set -eu
 cd "$(dirname "$0")/.."
 
-wide_clock=7 narrow_clock=7 # ms; seed the games
+wide_seed=7 narrow_seed=7
 
 tools/install_packages.sh build gallery
 cmake -B build/gallery -G Ninja -DCMAKE_BUILD_TYPE=Release -DKOV_GALLERY=ON -DKOV_TESTS=OFF >/dev/null
@@ -19,9 +19,9 @@ for folder in data fonts textures; do ln -s "$PWD/$folder" "$work/$folder"; done
 mkdir "$work/Songs" "$work/wide" "$work/narrow" "$work/film"
 cd "$work"
 xvfb-run -a -s "-screen 0 1920x1080x24" sh -c "
-    '$program' pictures wide 1920 1080 $wide_clock &&
-    '$program' pictures narrow 800 600 $narrow_clock &&
-    '$program' film film 960 540 $wide_clock"
+    '$program' pictures wide 1920 1080 $wide_seed &&
+    '$program' pictures narrow 800 600 $narrow_seed &&
+    '$program' film film 960 540 $wide_seed"
 
 # Few colours are enough for lines; no dither, so that they stay clean.
 save_pictures() { # from a folder, to a folder

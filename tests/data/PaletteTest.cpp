@@ -122,7 +122,7 @@ double contrast(const Triple& one, const Triple& two) {
         const Triple v = linear(rgb);
         return 0.2126 * v[0] + 0.7152 * v[1] + 0.0722 * v[2] + 0.05;
     };
-    const auto [darker, lighter] = std::minmax(luminance(one), luminance(two));
+    const auto [darker, lighter] = std::minmax({luminance(one), luminance(two)});
     return lighter / darker;
 }
 
@@ -132,7 +132,7 @@ protected:
         std::ifstream file("data/Colour.kov");
         std::string line, name;
         for (Colour colour; std::getline(file, line);)
-            if (quorva::ResourceTraits<Colour>::parseLine(line, name, colour))
+            if (quorva::resources::ResourceTraits<Colour>::parseLine(line, name, colour))
                 colours[name] = colour;
     }
     const Colour& colour(const std::string& name) {

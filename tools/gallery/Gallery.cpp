@@ -1,10 +1,11 @@
 // Makes the pictures of docs/gallery: plays one game by a fixed clock and fixed rules, and keeps of
 // each kind of moment the one that shows most.
 //
-//   gallery pictures FOLDER WIDTH HEIGHT CLOCK   all pages and moments
-//   gallery film FOLDER WIDTH HEIGHT CLOCK       the frames of the game's liveliest seconds
+//   gallery pictures FOLDER WIDTH HEIGHT SEED   all pages and moments
+//   gallery film FOLDER WIDTH HEIGHT SEED       the frames of the game's liveliest seconds
 //
-// All as PPM. WIDTH and HEIGHT are the screen's, in pixels; CLOCK, in ms, seeds the game.
+// All as PPM. WIDTH and HEIGHT are the screen's, in pixels; SEED is how
+// many ticks pass in the menu: the clock at the start of a level seeds its game.
 
 #include "game/GameBase.h"
 #include "game/Marvo.h"
@@ -53,9 +54,9 @@ Moment moments[] = {
     {"square", [](const Scene& s) { return near(s.square, 0.7) * (crowd(s) + 3.0 * s.splinters); }},
     {"death", [](const Scene& s) { return near(0.01F * s.deathTicks, 0.9) * s.splinters; }},
     {"clear-bomb",
-     [](const Scene& s) { return s.clearBombs * near(s.pulse, 0.35) * (10.0 + crowd(s)); }},
+     [](const Scene& s) { return s.clearBombs * near(s.pulse, 0.45) * (10.0 + crowd(s)); }},
     {"immune-bomb",
-     [](const Scene& s) { return s.immuneBombs * near(s.pulse, 0.35) * (10.0 + crowd(s)); }},
+     [](const Scene& s) { return s.immuneBombs * near(s.pulse, 0.45) * (10.0 + crowd(s)); }},
     {"power-ups",
      [](const Scene& s) {
          return s.linePowerUps > 0 && s.cooldownPowerUps > 0 ? s.rays + crowd(s) : 0.0;
@@ -64,9 +65,9 @@ Moment moments[] = {
 
 class Gallery {
 public:
-    Gallery(std::string folder_, unsigned short width_, unsigned short height_, std::uint32_t clock)
-        : folder(std::move(folder_)), width(width_), height(height_), run(clock, width, height),
-          player(run) {}
+    Gallery(std::string folder_, unsigned short width_, unsigned short height_, unsigned int seed_)
+        : folder(std::move(folder_)), width(width_), height(height_), seed(seed_),
+          run(0, width, height), player(run) {}
 
     void pictures();
     /// Plays without a camera.
@@ -87,6 +88,7 @@ private:
 
     const std::string folder;
     const unsigned short width, height;
+    const unsigned int seed;
     quorva::headless::HeadlessGame run;
     gallery::Player player;
 };
@@ -98,6 +100,8 @@ void Gallery::press(int symbol) {
 }
 
 void Gallery::startGame() {
+    for (unsigned int i = 0; i < seed; ++i)
+        run.process(); // unseen
     run.startLevel();
     run.tick();
 }
@@ -213,7 +217,7 @@ void Gallery::film(unsigned int firstTick) {
 int main(int argc, char* argv[]) {
     const std::string what = argc == 6 ? argv[1] : "";
     if (what != "pictures" && what != "film") {
-        std::cerr << "Usage: gallery pictures|film FOLDER WIDTH HEIGHT CLOCK\n";
+        std::cerr << "Usage: gallery pictures|film FOLDER WIDTH HEIGHT SEED\n";
         return 2;
     }
     if (SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK) < 0) {
@@ -223,7 +227,7 @@ int main(int argc, char* argv[]) {
     const auto open = [argv] {
         return std::make_unique<Gallery>(argv[2], static_cast<unsigned short>(std::stoi(argv[3])),
                                          static_cast<unsigned short>(std::stoi(argv[4])),
-                                         static_cast<std::uint32_t>(std::stoul(argv[5])));
+                                         static_cast<unsigned int>(std::stoul(argv[5])));
     };
     if (what == "pictures") {
         open()->pictures();
