@@ -20,6 +20,78 @@ double marginOf(double size1, double size2) {
     return fuzzy_margin * std::max({1.0, std::fabs(size1), std::fabs(size2)});
 }
 
+/// Where the corners of a triangle can be while its position is within a region.
+class Extents {
+public:
+    Extents(const PhysicsObject& body, const Bounds& region);
+
+    /// Whether the line can be in the triangle's way.
+    bool mayMeet(const TrapLine& line) const { return !known || mayTouch(line); }
+    /// Whether the rectangle can hold the triangle.
+    bool mayBeHeldBy(const SquareBounds& rectangle) const;
+
+private:
+    bool mayHaveLevelEdge(const PhysicsObject& body) const;
+    bool mayTouch(const TrapLine& line) const;
+
+    std::array<Bounds, 3> corners;
+    Bounds all;
+    bool known = true;      ///< they are numbers
+    bool levelEdge = false; ///< an edge's slope may count as zero
+};
+
+/// A corner lies at position + vertex. Rounding never turns an order round, so the corners of
+/// the region's two ends bound that corner everywhere in it, exactly.
+Extents::Extents(const PhysicsObject& body, const Bounds& region) {
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        const math::Point& v = body.vertices[i];
+        corners[i] = {region.left + v.x, region.right + v.x, region.bottom + v.y, region.top + v.y};
+        const Bounds& c = corners[i];
+        known = known && std::isfinite(c.left) && std::isfinite(c.right) &&
+                std::isfinite(c.bottom) && std::isfinite(c.top);
+    }
+    const auto& [a, b, c] = corners;
+    all = {std::min({a.left, b.left, c.left}), std::max({a.right, b.right, c.right}),
+           std::min({a.bottom, b.bottom, c.bottom}), std::max({a.top, b.top, c.top})};
+    levelEdge = mayHaveLevelEdge(body);
+}
+
+/// The slope of an edge counts as zero if its ends have the same y, or an x that is fuzzily the
+/// same. Neither can be where the vertices differ by more than the margin in both.
+bool Extents::mayHaveLevelEdge(const PhysicsObject& body) const {
+    const double marginX = marginOf(all.left, all.right), marginY = marginOf(all.bottom, all.top);
+    const auto& [a, b, c] = body.vertices;
+    const auto slopes = [&](const math::Point& from, const math::Point& to) {
+        return std::fabs(from.x - to.x) > marginX && std::fabs(from.y - to.y) > marginY;
+    };
+    return !(slopes(a, b) && slopes(a, c) && slopes(b, c));
+}
+
+/// LinesInterect refuses an edge whose two ends lie beyond the line's fixed coordinate on the
+/// same side, but for one odd case that comes first: an edge whose slope counts as zero meets a
+/// vertical line if its y is the line's x, wherever it lies. So a vertical line is refused only
+/// if there is no such edge, or if no corner can have such a y. Comparisons with not-a-number
+/// keep the line.
+bool Extents::mayTouch(const TrapLine& line) const {
+    if (line.start.y == line.end.y) {
+        const double y = line.start.y;
+        return !(y < all.bottom || y > all.top);
+    }
+    const double x = line.start.x;
+    const bool aside = x < all.left || x > all.right;
+    if (!aside || !levelEdge) return !aside;
+    const double margin = std::max(marginOf(all.bottom, all.top), marginOf(x, x));
+    return !(x < all.bottom - margin || x > all.top + margin);
+}
+
+bool Extents::mayBeHeldBy(const SquareBounds& rectangle) const {
+    if (!known) return true;
+    return std::count_if(corners.begin(), corners.end(), [&rectangle](const Bounds& corner) {
+               return corner.right >= rectangle.left && corner.left <= rectangle.right &&
+                      corner.bottom <= rectangle.top && corner.top >= rectangle.bottom;
+           }) >= caught_corners;
+}
+
 } // namespace
 
 Corners worldCorners(const PhysicsObject& body) {
@@ -38,68 +110,23 @@ bool isInTheWay(const TrapLine& line, const Corners& c) {
            LinesInterect(line.start, line.end, c[1], c[2]);
 }
 
-/// A corner lies at position + vertex. Rounding never turns an order round, so the corners of
-/// the region's two ends bound that corner everywhere in it, exactly.
-void Reach::surround(const PhysicsObject& body) {
-    const math::Point& at = body.position;
-    const double dx = std::fabs(body.velocity.x), dy = std::fabs(body.velocity.y);
-    region = {at.x - dx, at.x + dx, at.y - dy, at.y + dy};
-    known = true;
-    for (std::size_t i = 0; i < corners.size(); ++i) {
-        const math::Point& v = body.vertices[i];
-        corners[i] = {region.left + v.x, region.right + v.x, region.bottom + v.y, region.top + v.y};
-        const Extent& c = corners[i];
-        known = known && std::isfinite(c.left) && std::isfinite(c.right) &&
-                std::isfinite(c.bottom) && std::isfinite(c.top);
-    }
-    const auto& [a, b, c] = corners;
-    all = {std::min({a.left, b.left, c.left}), std::max({a.right, b.right, c.right}),
-           std::min({a.bottom, b.bottom, c.bottom}), std::max({a.top, b.top, c.top})};
-    levelEdge = mayHaveLevelEdge(body);
-}
-
-/// The slope of an edge counts as zero if its ends have the same y, or an x that is fuzzily the
-/// same. Neither can be where the vertices differ by more than the margin in both.
-bool Reach::mayHaveLevelEdge(const PhysicsObject& body) const {
-    const double marginX = marginOf(all.left, all.right), marginY = marginOf(all.bottom, all.top);
-    const auto& [a, b, c] = body.vertices;
-    const auto slopes = [&](const math::Point& from, const math::Point& to) {
-        return std::fabs(from.x - to.x) > marginX && std::fabs(from.y - to.y) > marginY;
-    };
-    return !(slopes(a, b) && slopes(a, c) && slopes(b, c));
-}
-
 bool Reach::covers(const math::Point& position) const {
     return position.x >= region.left && position.x <= region.right && position.y >= region.bottom &&
            position.y <= region.top;
 }
 
-/// LinesInterect refuses an edge whose two ends lie beyond the line's fixed coordinate on the
-/// same side, but for one odd case that comes first: an edge whose slope counts as zero meets a
-/// vertical line if its y is the line's x, wherever it lies. So a vertical line is refused only
-/// if there is no such edge, or if no corner can have such a y. Comparisons with not-a-number
-/// keep the line.
-bool Reach::mayMeet(const TrapLine& line) const {
-    if (line.start.y == line.end.y) {
-        const double y = line.start.y;
-        return !(y < all.bottom || y > all.top);
-    }
-    const double x = line.start.x;
-    const bool aside = x < all.left || x > all.right;
-    if (!aside || !levelEdge) return !aside;
-    const double margin = std::max(marginOf(all.bottom, all.top), marginOf(x, x));
-    return !(x < all.bottom - margin || x > all.top + margin);
-}
-
 void Reach::follow(const PhysicsObject& body, const Epochs& now) {
     if (linesEpoch == now.lines && covers(body.position)) return;
-    surround(body);
+    const math::Point& at = body.position;
+    const double dx = std::fabs(body.velocity.x), dy = std::fabs(body.velocity.y);
+    region = {at.x - dx, at.x + dx, at.y - dy, at.y + dy};
     linesEpoch = now.lines;
     rectanglesEpoch = 0; // looked up over another region
     tested = false;
     lines.clear();
+    const Extents extents(body, region);
     for (const TriLine& line : body.lines)
-        if (!known || mayMeet(*line.line)) lines.push_back(line.line);
+        if (extents.mayMeet(*line.line)) lines.push_back(line.line);
 }
 
 bool Reach::isStopped(const PhysicsObject& body, const Epochs& now) {
@@ -114,20 +141,14 @@ bool Reach::isStopped(const PhysicsObject& body, const Epochs& now) {
     return stopped;
 }
 
-bool Reach::mayBeHeldBy(const SquareBounds& rectangle) const {
-    return std::count_if(corners.begin(), corners.end(), [&rectangle](const Extent& corner) {
-               return corner.right >= rectangle.left && corner.left <= rectangle.right &&
-                      corner.bottom <= rectangle.top && corner.top >= rectangle.bottom;
-           }) >= caught_corners;
-}
-
 bool Reach::isNearAny(const std::vector<SquareBounds>& rectangles, const PhysicsObject& body,
                       const Epochs& now) {
     follow(body, now);
     if (rectanglesEpoch == now.rectangles) return nearRectangle;
     rectanglesEpoch = now.rectangles;
-    nearRectangle = !known || std::any_of(rectangles.begin(), rectangles.end(),
-                                          [this](const auto& r) { return mayBeHeldBy(r); });
+    const Extents extents(body, region);
+    nearRectangle = std::any_of(rectangles.begin(), rectangles.end(),
+                                [&extents](const auto& r) { return extents.mayBeHeldBy(r); });
     return nearRectangle;
 }
 

@@ -38,6 +38,11 @@ struct SquareBounds {
     }
 };
 
+/// In world units.
+struct Bounds {
+    double left, right, bottom, top;
+};
+
 /// The trap lines and rectangles that a triangle can meet while it stays within a small region,
 /// as wide as one tick's move to either side. A tick has up to 1000 sub-steps: each then tests
 /// those few instead of all. They are looked up again when the triangle leaves the region or an
@@ -59,29 +64,18 @@ public:
                    const Epochs& now);
 
 private:
-    /// Bounds of one corner, or of all of them, over the region.
-    struct Extent {
-        double left, right, bottom, top;
-    };
-
     void follow(const PhysicsObject& body, const Epochs& now);
-    void surround(const PhysicsObject& body);
-    bool mayHaveLevelEdge(const PhysicsObject& body) const;
     bool covers(const math::Point& position) const;
-    bool mayMeet(const TrapLine& line) const;
-    bool mayBeHeldBy(const SquareBounds& rectangle) const;
 
-    Extent region{1.0, -1.0, 1.0, -1.0}; ///< of positions; holds none at first
-    std::array<Extent, 3> corners{};
-    Extent all{};
-    bool known = false;     ///< the extents are numbers
-    bool levelEdge = false; ///< an edge's slope may count as zero
-    boost::container::small_vector<const TrapLine*, 16> lines; ///< no more than 16 ever stand
-    bool nearRectangle = false;
+    // Few bytes, and those of every sub-step together: a thousand triangles should stay near the
+    // processor.
+    Bounds region{1.0, -1.0, 1.0, -1.0};               ///< of positions; holds none at first
     std::uint32_t linesEpoch = 0, rectanglesEpoch = 0; ///< of `lines`, of `nearRectangle`
+    bool nearRectangle = false;
     bool tested = false; ///< against `lines`, at testedAt, with the answer `stopped`
     bool stopped = false;
     math::Point testedAt;
+    boost::container::small_vector<const TrapLine*, 4> lines; ///< those that can be met
 };
 
 } // namespace quorva::physics
