@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+struct mpg123_handle_struct;
 struct sf_private_tag;
 
 namespace platform::fmodex {
@@ -19,6 +20,7 @@ public:
     Decoder(const Decoder&) = delete;
     Decoder& operator=(const Decoder&) = delete;
 
+    /// FILE_NOTFOUND, FORMAT, FILE_BAD, MEMORY; after a failure only open may be called.
     FMOD_RESULT open(const std::string& path);
 
     /// Appends up to `frames` frames to `samples`; fewer at the end of the file.
@@ -31,9 +33,17 @@ public:
     unsigned int lengthMs() const;
 
 private:
+    FMOD_RESULT openFile(const std::string& path);
+    FMOD_RESULT openMpeg(const std::string& path);
+    std::size_t readFile(std::vector<std::int16_t>& samples, std::size_t frames);
+    std::size_t readMpeg(std::vector<std::int16_t>& samples, std::size_t frames);
     void close();
 
+    // One of the two: libsndfile would guess the length of a variable-rate MP3 that doesn't tell
+    // it, and would stop there.
     sf_private_tag* file = nullptr;
+    mpg123_handle_struct* mpeg = nullptr;
+    bool isMpeg = false;
     int channelCount = 0; ///< in the file
     int rate = 0;
     std::uint64_t frameCount = 0;
