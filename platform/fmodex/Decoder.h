@@ -33,18 +33,18 @@ public:
     unsigned int lengthMs() const;
 
 private:
-    FMOD_RESULT openFile(const std::string& path);
+    FMOD_RESULT openFile(int descriptor);
     FMOD_RESULT openMpeg(const std::string& path);
     std::size_t readFile(std::vector<std::int16_t>& samples, std::size_t frames);
     std::size_t readMpeg(std::vector<std::int16_t>& samples, std::size_t frames);
     void close();
 
-    // One of the two: libsndfile would guess the length of a variable-rate MP3 that doesn't tell
-    // it, and would stop there.
+    // libmpg123 for MP3: libsndfile would guess the length of a variable-rate file that doesn't
+    // tell it and stop there, and would write about bad files on standard error.
     sf_private_tag* file = nullptr;
     mpg123_handle_struct* mpeg = nullptr;
     bool isMpeg = false;
-    int channelCount = 0; ///< in the file
+    int channelCount = 0; ///< in `file`
     int rate = 0;
     std::uint64_t frameCount = 0;
     std::vector<float> scratch; ///< one piece
