@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+struct mpg123_handle_struct;
 struct sf_private_tag;
 
 namespace platform::fmodex {
@@ -19,6 +20,7 @@ public:
     Decoder(const Decoder&) = delete;
     Decoder& operator=(const Decoder&) = delete;
 
+    /// FILE_NOTFOUND, FORMAT, FILE_BAD, MEMORY; after a failure only open may be called.
     FMOD_RESULT open(const std::string& path);
 
     /// Appends up to `frames` frames to `samples`; fewer at the end of the file.
@@ -31,10 +33,18 @@ public:
     unsigned int lengthMs() const;
 
 private:
+    FMOD_RESULT openFile(int descriptor);
+    FMOD_RESULT openMpeg(const std::string& path);
+    std::size_t readFile(std::vector<std::int16_t>& samples, std::size_t frames);
+    std::size_t readMpeg(std::vector<std::int16_t>& samples, std::size_t frames);
     void close();
 
+    // libmpg123 for MP3: libsndfile would guess the length of a variable-rate file that doesn't
+    // tell it and stop there, and would write about bad files on standard error.
     sf_private_tag* file = nullptr;
-    int channelCount = 0; ///< in the file
+    mpg123_handle_struct* mpeg = nullptr;
+    bool isMpeg = false;
+    int channelCount = 0; ///< in `file`
     int rate = 0;
     std::uint64_t frameCount = 0;
     std::vector<float> scratch; ///< one piece

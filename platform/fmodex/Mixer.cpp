@@ -29,16 +29,16 @@ void submit(ALuint buffer, const Decoder& decoder, const std::vector<std::int16_
 ALCdevice* openDevice() {
     if (loopback)
         return loopbackFunction<LPALCLOOPBACKOPENDEVICESOFT>("alcLoopbackOpenDeviceSOFT")(nullptr);
-    if (ALCdevice* const card = alcOpenDevice(nullptr)) return card;
-    return alcOpenDevice("No Output");
+    return alcOpenDevice(nullptr);
 }
 
 ALCcontext* openContext(ALCdevice* device, int sources) {
     const ALCint loopbackFormat[] = {
         ALC_FORMAT_CHANNELS_SOFT, ALC_STEREO_SOFT, ALC_FORMAT_TYPE_SOFT,
         ALC_SHORT_SOFT,           ALC_FREQUENCY,   loopback_rate,
-        ALC_MONO_SOURCES,         sources,         0};
-    const ALCint cardFormat[] = {ALC_STEREO_SOURCES, sources, 0};
+        ALC_STEREO_SOURCES,       sources,         0};
+    // No guess at headphones: it would colour the music.
+    const ALCint cardFormat[] = {ALC_STEREO_SOURCES, sources, ALC_HRTF_SOFT, ALC_FALSE, 0};
     return alcCreateContext(device, loopback ? loopbackFormat : cardFormat);
 }
 
@@ -78,8 +78,10 @@ FMOD_RESULT FMOD_SYSTEM::start(int maxChannels) {
         context = nullptr;
         return FMOD_OK;
     }
-    for (Channel& channel : channels)
+    for (Channel& channel : channels) {
         alGenSources(1, &channel.source);
+        alSourcei(channel.source, AL_DIRECT_CHANNELS_SOFT, AL_TRUE); // left is left, unmixed
+    }
     std::atexit(closeOutput); // else the library complains of a device left open
     return FMOD_OK;
 }
@@ -184,8 +186,9 @@ FMOD_RESULT FMOD_SYSTEM::play(FMOD_SOUND* sound, bool paused, FMOD_CHANNEL** res
     if (sound->isStream()) {
         sound->decoder->rewind();
         sound->atEnd = false;
-        for (const ALuint buffer : sound->queue)
-            if (fill(*sound, buffer)) alSourceQueueBuffers(channel->source, 1, &buffer);
+        sound->spare.assign(sound->queue.begin(), sound->queue.end());
+        while (!sound->spare.empty() && !sound->atEnd)
+            queueNextPiece(*channel);
     } else {
         alSourcei(channel->source, AL_BUFFER, static_cast<ALint>(sound->buffer));
     }
@@ -193,36 +196,40 @@ FMOD_RESULT FMOD_SYSTEM::play(FMOD_SOUND* sound, bool paused, FMOD_CHANNEL** res
     return FMOD_OK;
 }
 
-bool FMOD_SYSTEM::fill(FMOD_SOUND& sound, ALuint buffer) const {
+void FMOD_SYSTEM::queueNextPiece(Channel& channel) {
+    FMOD_SOUND& sound = *channel.sound;
     const std::size_t frames =
         static_cast<std::size_t>(sound.decoder->sampleRate()) / FMOD_SOUND::pieces_per_second;
     sound.piece.clear();
-    if (sound.atEnd || sound.decoder->read(sound.piece, frames) < frames) sound.atEnd = true;
-    if (sound.piece.empty()) return false;
+    if (sound.decoder->read(sound.piece, frames) < frames) sound.atEnd = true;
+    if (sound.piece.empty()) return;
+    const ALuint buffer = sound.spare.back();
+    sound.spare.pop_back();
     submit(buffer, *sound.decoder, sound.piece);
-    return true;
+    alSourceQueueBuffers(channel.source, 1, &buffer);
 }
 
 void FMOD_SYSTEM::pump(Channel& channel) {
-    ALint processed = 0;
+    FMOD_SOUND& sound = *channel.sound;
+    // Asked first: a source that stops later is seen to at the next call.
+    ALint state = AL_PLAYING, processed = 0;
+    alGetSourcei(channel.source, AL_SOURCE_STATE, &state);
     alGetSourcei(channel.source, AL_BUFFERS_PROCESSED, &processed);
-    if (processed > 0 && !channel.sound->atEnd) { // one piece a call: a call stays short
+    for (; processed > 0; --processed) {
         ALuint buffer = 0;
         alSourceUnqueueBuffers(channel.source, 1, &buffer);
-        if (fill(*channel.sound, buffer)) alSourceQueueBuffers(channel.source, 1, &buffer);
+        sound.spare.push_back(buffer);
     }
-    ALint state = AL_PLAYING, queued = 0;
-    alGetSourcei(channel.source, AL_SOURCE_STATE, &state);
-    alGetSourcei(channel.source, AL_BUFFERS_QUEUED, &queued);
-    alGetSourcei(channel.source, AL_BUFFERS_PROCESSED, &processed);
+    if (sound.spare.empty() || sound.atEnd) return;
+    queueNextPiece(channel); // one a call: a call stays short
     // After a stall longer than the queue it goes on where it stood.
-    if (state == AL_STOPPED && queued > processed && !channel.paused) alSourcePlay(channel.source);
+    if (state == AL_STOPPED) alSourcePlay(channel.source);
 }
 
 void FMOD_SYSTEM::update() {
     if (isSilent()) return;
     for (Channel& channel : channels)
-        if (channel.sound != nullptr && channel.sound->isStream()) pump(channel);
+        if (channel.sound != nullptr && channel.sound->isStream() && !channel.paused) pump(channel);
 }
 
 FMOD_RESULT FMOD_SYSTEM::setVolume(FMOD_CHANNEL* handle, float volume) {
@@ -237,8 +244,13 @@ FMOD_RESULT FMOD_SYSTEM::setPaused(FMOD_CHANNEL* handle, bool paused) {
     Channel* const channel = find(handle);
     if (channel == nullptr) return FMOD_ERR_INVALID_HANDLE;
     if (channel->paused == paused || hasEnded(*channel)) return FMOD_OK;
+    if (isSilent()) {
+        channel->paused = paused;
+        return FMOD_OK;
+    }
+    // One that a stall has stopped goes on first: only what plays can be halted.
+    if (paused && channel->sound->isStream()) pump(*channel);
     channel->paused = paused;
-    if (isSilent()) return FMOD_OK;
     if (paused)
         alSourcePause(channel->source);
     else

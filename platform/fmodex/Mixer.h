@@ -18,6 +18,7 @@ struct FMOD_SOUND {
     std::unique_ptr<platform::fmodex::Decoder> decoder; ///< of a stream; else null
     ALuint buffer = 0;                                  ///< of an effect
     std::array<ALuint, queue_length> queue{};           ///< of a stream
+    std::vector<ALuint> spare;                          ///< those of `queue` that hold nothing
     std::vector<std::int16_t> piece;                    ///< scratch of a stream
     unsigned int length = 0;                            ///< ms
     bool atEnd = false;                                 ///< a stream has nothing more to decode
@@ -56,7 +57,7 @@ private:
     void stop(Channel& channel);
     bool hasEnded(const Channel& channel) const;
     void pump(Channel& channel);
-    bool fill(FMOD_SOUND& sound, ALuint buffer) const;
+    void queueNextPiece(Channel& channel);
 
     std::vector<Channel> channels;
     std::uint64_t starts = 0;

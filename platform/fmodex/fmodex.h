@@ -1,8 +1,8 @@
 #pragma once
 
 // The sound layer: the ten operations that the game needs of a mixer, over OpenAL Soft (mixing,
-// output) and libsndfile (WAV, Ogg Vorbis, MP3). Handles are opaque. Every operation returns 0
-// for success or a code below; FMOD_ErrorString has a text for each. One thread.
+// output), libsndfile (WAV, Ogg Vorbis) and libmpg123 (MP3). Handles are opaque. Every operation
+// returns 0 for success or a code below; FMOD_ErrorString has a text for each. One thread.
 //
 // Without a usable sound card everything succeeds on a silent output. The system ends with the
 // process: there is no call to close it.
@@ -32,16 +32,17 @@ enum {
 /// The one system of the process.
 FMOD_RESULT FMOD_System_Create(FMOD_SYSTEM** system);
 
-/// Starts the output. @param maxChannels sounds at once; `flags` and `extra` are not used
+/// Starts the output. @param maxChannels sounds at once, 1 to 4095, else INVALID_PARAM; `flags` and
+/// `extra` are not used
 FMOD_RESULT FMOD_System_Init(FMOD_SYSTEM* system, int maxChannels, unsigned int flags, void* extra);
 
 /// Loads a file whole, mono or stereo, up to 64 MiB of samples. `mode` and `exInfo` are not used.
-/// FILE_NOTFOUND, FORMAT, FILE_BAD (empty or cut short), MEMORY
+/// FILE_NOTFOUND, FORMAT, FILE_BAD (no sound, or not as much as it says), MEMORY
 FMOD_RESULT FMOD_System_CreateSound(FMOD_SYSTEM* system, const char* path, unsigned int mode,
                                     void* exInfo, FMOD_SOUND** sound);
 
 /// Opens a file to be decoded while it plays, in a queue of two seconds. It does not loop.
-/// FILE_NOTFOUND, FORMAT, FILE_BAD, MEMORY
+/// FILE_NOTFOUND, FORMAT, FILE_BAD (as above), MEMORY
 FMOD_RESULT FMOD_System_CreateStream(FMOD_SYSTEM* system, const char* path, unsigned int mode,
                                      void* exInfo, FMOD_SOUND** sound);
 
@@ -58,11 +59,12 @@ FMOD_RESULT FMOD_Channel_SetPaused(FMOD_CHANNEL* channel, int paused);
 /// @param unit 1: milliseconds, the only one
 FMOD_RESULT FMOD_Sound_GetLength(FMOD_SOUND* sound, unsigned int* length, unsigned int unit);
 
-/// Stops the sound at once, wherever it plays, and frees it.
+/// Stops the sound at once, wherever it plays, and frees it: the pointer must not be used again.
 FMOD_RESULT FMOD_Sound_Release(FMOD_SOUND* sound);
 
-/// Decodes the next pieces of the streams. To be called every frame; a stall of up to about two
-/// seconds is not heard.
+/// Decodes the next piece of each stream, an eighth of a second. To be called every frame; a stall
+/// of up to about two seconds is not heard, and after a longer one the stream goes on where it
+/// stood.
 FMOD_RESULT FMOD_System_Update(FMOD_SYSTEM* system);
 
 /// A short text for codes 0 to 73; "Unknown error." for any other.

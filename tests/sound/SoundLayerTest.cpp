@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 #include <sndfile.h>
 
+#include <algorithm>
 #include <cmath>
 #include <fstream>
 #include <limits>
+#include <set>
 
 // What the layer plays is rendered into memory and looked at there.
 
@@ -22,7 +24,62 @@ struct Wave {
     double hertz, seconds;
     double level = 0.5;
     int channels = 1;
+    double rise = 0;         ///< Hz that each second is higher than the one before
+    double laterLevel = 0.5; ///< from the third second on
 };
+
+std::string bytesOf(const char* path) {
+    std::ifstream file(path, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+/// The left side of a file, -1 to 1.
+std::vector<double> samplesOf(const std::string& path) {
+    platform::fmodex::Decoder decoder;
+    EXPECT_EQ(decoder.open(path), FMOD_OK) << path;
+    std::vector<std::int16_t> both;
+    decoder.read(both, decoder.frames());
+    std::vector<double> left;
+    for (std::size_t i = 0; i < both.size(); i += 2)
+        left.push_back(both[i] / 32768.0);
+    return left;
+}
+
+/// The factors by which the parts have gone into the mix: least squares, by Gauss and Jordan.
+template <class Mix>
+std::vector<double> factorsOf(const std::vector<std::vector<double>>& parts, const Mix& mix) {
+    const std::size_t count = parts.size();
+    std::vector<std::vector<double>> rows(count, std::vector<double>(count + 1));
+    for (std::size_t r = 0; r < count; ++r) {
+        for (std::size_t i = 0; i < parts[r].size(); ++i) {
+            for (std::size_t c = 0; c < count; ++c)
+                if (i < parts[c].size()) rows[r][c] += parts[r][i] * parts[c][i];
+            rows[r][count] += parts[r][i] * mix[i] / 32768.0;
+        }
+    }
+    for (std::size_t pivot = 0; pivot < count; ++pivot)
+        for (std::size_t r = 0; r < count; ++r) {
+            const double factor = rows[r][pivot] / rows[pivot][pivot];
+            for (std::size_t c = 0; c <= count && r != pivot; ++c)
+                rows[r][c] -= factor * rows[pivot][c];
+        }
+    std::vector<double> factors;
+    for (std::size_t r = 0; r < count; ++r)
+        factors.push_back(rows[r][count] / rows[r][r]);
+    return factors;
+}
+
+/// Frames by which the output's limiter delays the mix: where the samples fit best.
+template <class Mix>
+std::ptrdiff_t latencyOf(const std::vector<double>& samples, const Mix& mix) {
+    std::vector<double> fits;
+    for (std::size_t shift = 0; shift < 500; ++shift) {
+        fits.push_back(0);
+        for (std::size_t i = 0; i < samples.size(); ++i)
+            fits.back() += samples[i] * mix[i + shift];
+    }
+    return std::max_element(fits.begin(), fits.end()) - fits.begin();
+}
 
 void write(const std::string& path, int format, const Wave& wave) {
     SF_INFO info = {};
@@ -37,7 +94,9 @@ void write(const std::string& path, int format, const Wave& wave) {
     }
     std::vector<float> frame(static_cast<std::size_t>(wave.channels));
     for (int i = 0; i < static_cast<int>(wave.seconds * rate); ++i) {
-        const double value = wave.level * std::sin(2 * pi * wave.hertz * i / rate);
+        const double hertz = wave.hertz + wave.rise * (i / rate);
+        const double level = i < 2 * rate ? wave.level : wave.laterLevel;
+        const double value = level * std::sin(2 * pi * hertz * i / rate);
         std::fill(frame.begin(), frame.end(), static_cast<float>(value));
         sf_writef_float(file, frame.data(), 1);
     }
@@ -132,6 +191,55 @@ TEST_F(SoundLayer, MixesEveryEffectAtTheLevelSet) {
     FMOD_Sound_Release(high);
 }
 
+TEST_F(SoundLayer, EachOfTheGamesEffectsIsInTheMixAtItsLevel) {
+    const char* const names[] = {"alive", "bullet", "death", "hit", "square",
+                                 "Clear", "Immune", "Pup",   "Bad", "Pause"};
+    std::vector<std::vector<double>> parts;
+    std::vector<FMOD_SOUND*> sounds;
+    for (const std::string name : names) {
+        const std::string path = KOV_SOURCE_DIR "/Sounds/" + name + ".wav";
+        parts.push_back(samplesOf(path));
+        const auto& part = parts.back();
+        EXPECT_EQ(part.front(), 0) << name;
+        EXPECT_EQ(part.back(), 0) << name;
+        EXPECT_LE(*std::max_element(part.begin(), part.end()), 0.89) << name << ": -1 dBFS";
+        const bool frequent = name == "bullet" || name == "hit";
+        EXPECT_TRUE(!frequent || part.size() < 0.16 * rate) << name;
+        sounds.push_back(load(path.c_str()));
+    }
+    const auto volumeOf = [](std::size_t i) { return 0.02F * static_cast<float>(i + 1); };
+    std::vector<double> expected(1.3 * rate);
+    for (std::size_t i = 0; i < sounds.size(); ++i) {
+        FMOD_Channel_SetVolume(play(sounds[i]), volumeOf(i));
+        for (std::size_t at = 0; at < parts[i].size(); ++at)
+            expected[at] += volumeOf(i) * parts[i][at];
+    }
+    auto heard = hear(1.5);
+    heard.erase(heard.begin(), heard.begin() + latencyOf(expected, heard));
+    const auto factors = factorsOf(parts, heard);
+    for (std::size_t i = 0; i < sounds.size(); ++i)
+        EXPECT_NEAR(factors[i], volumeOf(i), 0.005) << names[i];
+    for (FMOD_SOUND* const sound : sounds)
+        FMOD_Sound_Release(sound);
+}
+
+TEST_F(SoundLayer, StreamsTheGamesSongs) {
+    std::set<std::string> endings;
+    for (const fs::path& path : fs::directory_iterator(KOV_SOURCE_DIR "/Songs")) {
+        if (path.extension() != ".mp3" && path.extension() != ".ogg") continue;
+        endings.insert(path.extension().string());
+        FMOD_SOUND* const song = open(path.c_str());
+        unsigned int length = 0;
+        FMOD_Sound_GetLength(song, &length, 1);
+        EXPECT_GE(length, 90000U) << path;
+        play(song);
+        const auto heard = hear(2);
+        EXPECT_GT(*std::max_element(heard.begin(), heard.end()), 1000) << path;
+        FMOD_Sound_Release(song);
+    }
+    EXPECT_EQ(endings.size(), 2U);
+}
+
 TEST_F(SoundLayer, LetsTheOldestEffectGiveWayAndNeverTheSong) {
     write("song.wav", wav, {300, 5, 0.3});
     write("tick.wav", wav, {3000, 2, 0.01});
@@ -182,15 +290,35 @@ TEST_F(SoundLayer, StreamsEveryKindWithItsLengthToTheEnd) {
     }
 }
 
-TEST_F(SoundLayer, SurvivesAStallOfASecond) {
-    write("long.wav", wav, {440, 6});
+TEST_F(SoundLayer, SurvivesAStallAndGoesOnWhereItStood) {
+    write("long.wav", wav, {400, 7, 0.5, 1, 200}); // 400, 600, 800 Hz and so on
     FMOD_SOUND* const song = open("long.wav");
     play(song);
     hear(0.5);
-    EXPECT_NEAR(levelOf(hear(1.0, false), 440), 0.5, 0.02) << "without an update";
-    hear(0.5);
-    EXPECT_NEAR(levelOf(hear(1.0), 440), 0.5, 0.02);
+    const auto stalled = hear(1.0, false);
+    EXPECT_NEAR(levelOf(stalled, 400), 0.25, 0.02) << "half a second of each";
+    EXPECT_NEAR(levelOf(stalled, 600), 0.25, 0.02);
+    EXPECT_NEAR(levelOf(hear(0.5), 600), 0.5, 0.02);
+    hear(4.0, false); // longer than the queue, which ends at 4 s
+    EXPECT_LT(levelOf(hear(0.1, false), 1000), 0.01);
+    const auto after = hear(0.2), later = hear(0.7);
+    EXPECT_LT(levelOf(after, 800), 0.02) << "nothing is heard twice";
+    EXPECT_GT(levelOf(after, 1200), 0.15);
+    EXPECT_NEAR(levelOf(later, 1200), 0.5, 0.02);
     FMOD_Sound_Release(song);
+}
+
+TEST_F(SoundLayer, TellsTheLengthOfAVariableRateSongThatHidesIt) {
+    write("full.mp3", mp3, {5000, 12, 0.9, 2, 37, 0.001}); // the rate falls after two seconds
+    const std::string whole = bytesOf("full.mp3");
+    std::ofstream("bare.mp3", std::ios::binary) << whole.substr(whole.find("\xff\xfb", 4));
+    for (const char* path : {"full.mp3", "bare.mp3"}) {
+        FMOD_SOUND* const song = open(path);
+        unsigned int length = 0;
+        FMOD_Sound_GetLength(song, &length, 1);
+        EXPECT_NEAR(length, 12025, 50) << path; // bare: with the coder's lead-in
+        FMOD_Sound_Release(song);
+    }
 }
 
 TEST_F(SoundLayer, APauseLosesAndRepeatsNothing) {
@@ -222,11 +350,7 @@ TEST_F(SoundLayer, APauseLosesAndRepeatsNothing) {
 
 TEST_F(SoundLayer, RefusesBadFilesWithACode) {
     write("good.wav", wav, {440, 0.5});
-    const auto bytes = [](const char* name) {
-        std::ifstream file(name, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(file), {});
-    };
-    const std::string good = bytes("good.wav");
+    const std::string good = bytesOf("good.wav");
     std::string lying = good;
     lying.replace(40, 4, "\xff\xff\xff\x7f"); // says two gigabytes
     const struct {
@@ -237,11 +361,15 @@ TEST_F(SoundLayer, RefusesBadFilesWithACode) {
     } cases[] = {
         {"empty", "", false, FMOD_ERR_FORMAT},
         {"garbage", std::string(5000, '\x5a'), false, FMOD_ERR_FORMAT},
+        {"a frame's mark and garbage", "\xff\xfb\x90\x64" + std::string(5000, '\x5a'), false,
+         FMOD_ERR_FORMAT},
         {"a header alone", good.substr(0, 44), false, FMOD_ERR_FILE_BAD},
         {"half a header", good.substr(0, 20), false, FMOD_ERR_FORMAT},
-        {"cut short", good.substr(0, 5000), true, FMOD_OK},
-        {"lying about its size", lying, true, FMOD_OK},
+        {"cut short", good.substr(0, 5000), false, FMOD_ERR_FILE_BAD},
+        {"lying about its size", lying, false, FMOD_ERR_FILE_BAD},
+        {"whole", good, true, FMOD_OK},
     };
+    testing::internal::CaptureStderr();
     for (const auto& c : cases) {
         std::ofstream("bad.wav", std::ios::binary) << c.content;
         FMOD_SOUND* sound = nullptr;
@@ -250,6 +378,16 @@ TEST_F(SoundLayer, RefusesBadFilesWithACode) {
         EXPECT_EQ(result, c.code) << c.what;
         EXPECT_EQ(sound != nullptr, c.loads) << c.what;
         if (sound != nullptr) FMOD_Sound_Release(sound);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "telling is the caller's";
+    for (const int format : {ogg, mp3}) {
+        write("song", format, {440, 4, 0.5, 2});
+        const std::string song = bytesOf("song");
+        std::ofstream("half", std::ios::binary) << song.substr(0, song.size() / 2);
+        FMOD_SOUND* half = nullptr;
+        EXPECT_EQ(FMOD_System_CreateStream(system, "half", stream_mode, nullptr, &half),
+                  FMOD_ERR_FILE_BAD)
+            << format;
     }
     fs::create_directory("folder.wav");
     for (const char* path : {"none.wav", "folder.wav"}) {
