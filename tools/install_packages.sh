@@ -1,5 +1,5 @@
 #!/bin/sh
-# Installs those of the named groups' Debian packages that are missing: build, test.
+# Installs those of the named groups' Debian packages that are missing: build, test, demo, package.
 set -eu
 
 packages=""
@@ -9,15 +9,21 @@ for group in "$@"; do
         libgl-dev libglu1-mesa-dev libftgl-dev libfreetype-dev libloki-dev libboost-dev
         libboost-filesystem-dev libopenal-dev libsndfile1-dev
         libgl1-mesa-dri" ;;
+    demo) packages="$packages xvfb xdotool imagemagick" ;;
+    package) packages="$packages dpkg-dev file" ;;
     test) packages="$packages libgtest-dev clang-format" ;;
     *) echo "install_packages.sh: no such group: $group" >&2; exit 2 ;;
     esac
 done
 
+# shellcheck disable=SC2086 # a list of words
+installed=$(dpkg-query -W -f ' ${Package}=${db:Status-Status} ' $packages 2>/dev/null || true)
 missing=""
 for package in $packages; do
-    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
-        missing="$missing $package"
+    case $installed in
+    *" $package=installed "*) ;;
+    *) missing="$missing $package" ;;
+    esac
 done
 [ -n "$missing" ] || exit 0
 

@@ -1,0 +1,13 @@
+#!/bin/sh
+# Makes the Debian package of this tree: build/package/kov_*.deb.
+set -eu
+cd "$(dirname "$0")/.."
+
+tools/install_packages.sh build package
+CXXFLAGS=$(dpkg-buildflags --get CXXFLAGS) LDFLAGS=$(dpkg-buildflags --get LDFLAGS) \
+    cmake -G Ninja -S . -B build/package -DCMAKE_BUILD_TYPE=Release -DKOV_TESTS=OFF \
+    -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_BINDIR=games >/dev/null
+cmake --build build/package
+cd build/package
+umask 022
+cpack -G DEB
