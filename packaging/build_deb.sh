@@ -4,7 +4,9 @@ set -eu
 cd "$(dirname "$0")/.."
 
 tools/install_packages.sh build package
-CXXFLAGS=$(dpkg-buildflags --get CXXFLAGS) LDFLAGS=$(dpkg-buildflags --get LDFLAGS) \
+export DEB_BUILD_MAINT_OPTIONS=hardening=+all
+CXXFLAGS="$(dpkg-buildflags --get CPPFLAGS) $(dpkg-buildflags --get CXXFLAGS)" \
+    LDFLAGS=$(dpkg-buildflags --get LDFLAGS) \
     cmake -G Ninja -S . -B build/package -DCMAKE_BUILD_TYPE=Release -DKOV_TESTS=OFF \
     -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_BINDIR=games >/dev/null
 cmake --build build/package
