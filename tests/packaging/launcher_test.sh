@@ -56,9 +56,9 @@ expect "upgrade" "colours: own; songs: away.ogg mine.ogg two ; keys: Up, W"
 echo "Up, U" >"$home/bind1.conf" && echo "Up, I" >"$share/bind1.conf"
 kov
 expect "changed bindings stay" "keys: Up, U"
-rm -r "$home/Songs" && ln -s "$root" "$home/Songs"
+rm -r "$home/Songs" && ln -s "$root" "$home/Songs" && echo new >"$share/Songs/three"
 kov
-[ ! -e "$root/two" ] || { echo "FAILED: songs were linked into the player's own folder" && failures=1; }
+[ ! -e "$root/three" ] || { echo "FAILED: songs were linked into the player's own folder" && failures=1; }
 
 # The disk gets full while the game saves, and stays full until the player has made room.
 ROUND=': >s.dat; : >game.conf' kov
@@ -72,7 +72,9 @@ expect "full disk" "No space left on device). The game starts all the same"
 expect "full disk, the game" "arguments: -u; colours: own"
 expect "full disk, the score is known" 9999
 holds "full disk" "$home/s.dat" 9999
-rm "$home/.kept/s.dat.new"
+rm "$home/.kept/s.dat.new" && ln -s /dev/full "$home/.kept/room"
+ROUND='echo 5 >s.dat' kov
+holds "no room to save in" "$home/s.dat" 9999
 
 ROUND="echo second: && ROUND='echo 2 >s.dat' '$bin/kov'; kill -9 \$\$" kov || true
 expect "two games" "kov: a game is running already (process"
@@ -84,7 +86,7 @@ echo file >"$root/file"
 for unusable in "$root/file" /proc; do
     XDG_DATA_HOME=$unusable kov || true
     expect "no folder in $unusable" "kov: can't write to $unusable/kov ("
-    expect "no folder in $unusable" "colours: shipped; songs: one two ; keys: Up, I"
+    expect "no folder in $unusable" "colours: shipped; songs: one three two ; keys: Up, I"
 done
 [ -z "$(find "$root" -mindepth 1 -maxdepth 1 -name 'tmp.*')" ] || { echo "FAILED: scratch left" && failures=1; }
 XDG_DATA_HOME=relative HOME="$root/home" kov
