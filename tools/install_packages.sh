@@ -16,6 +16,11 @@ for group in "$@"; do
     esac
 done
 
+# The compatibility library's headers do as well.
+if dpkg-query -W -f '${db:Status-Status}' libsdl1.2-compat-dev 2>/dev/null | grep -qx installed; then
+    packages=$(echo "$packages" | sed 's/libsdl1.2-dev//')
+fi
+
 # shellcheck disable=SC2086 # a list of words
 installed=$(dpkg-query -W -f ' ${Package}=${db:Status-Status} ' $packages 2>/dev/null || true)
 missing=""
