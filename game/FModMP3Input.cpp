@@ -20,7 +20,6 @@ constexpr std::uint16_t no_song = 37626;     // simply no index that occurs
 constexpr unsigned int effect_mode = 0x4149; // no loop, 2D, software, loaded whole
 constexpr unsigned int stream_mode = 64;     // software
 constexpr unsigned int length_in_ms = 1;
-constexpr std::uint32_t unreadable_song_length = 1000; // ms
 constexpr int any_channel = -1;
 constexpr std::size_t ending_length = 4; // ".mp3"
 constexpr float full_volume = 100.0F;
@@ -125,8 +124,7 @@ void FModMP3Input::playSong(unsigned short id) {
     result = FMOD_System_PlaySound(system, any_channel, song, 0, &musicChannel);
     FMOD_Channel_SetVolume(musicChannel, config.getMusicVolume() / full_volume);
     FModSystem::Instance().isFModOk(result);
-    // One that can't be opened is over in a second, or its failure would be told at every pass.
-    songLength = unreadable_song_length;
+    // One that can't be opened leaves the length of the song before: so long is the silence.
     FMOD_Sound_GetLength(song, &songLength, length_in_ms);
     songEndTime = SDL_GetTicks() + songLength;
     songPlaying = true;

@@ -68,7 +68,9 @@ public:
                *hitSound = nullptr, *squareSound = nullptr, *clearSound = nullptr,
                *immuneSound = nullptr, *pupSound = nullptr, *badSound = nullptr,
                *pauseSound = nullptr;
-    std::uint32_t songLength = 0;   ///< ms
+    /// ms. Before the first song a second, or one that can't be read would be told of at every
+    /// pass.
+    std::uint32_t songLength = 1000;
     std::uint32_t songEndTime = 0;  ///< clock at which the song ends, but for pauses
     std::vector<std::string> songs; ///< file names, without the folder
     bool songPlaying = false;       ///< update watches for the song's end, or for the setting

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Installs those of the named groups' Debian packages that are missing: build, test, gallery,
-# assets.
+# Installs those of the named groups' Debian packages that are missing: build, test, demo, package,
+# gallery, assets.
 set -eu
 
 packages=""
@@ -10,6 +10,8 @@ for group in "$@"; do
         libgl-dev libglu1-mesa-dev libftgl-dev libfreetype-dev libloki-dev libboost-dev
         libboost-filesystem-dev libopenal-dev libsndfile1-dev libmpg123-dev
         libgl1-mesa-dri" ;;
+    demo) packages="$packages xvfb xdotool imagemagick" ;;
+    package) packages="$packages dpkg-dev file" ;;
     test) packages="$packages libgtest-dev clang-format" ;;
     gallery) packages="$packages xvfb xauth imagemagick optipng gifsicle" ;;
     assets) packages="$packages python3-fonttools python3-shapely" ;;
@@ -17,10 +19,19 @@ for group in "$@"; do
     esac
 done
 
+# The compatibility library's headers do as well.
+if dpkg-query -W -f '${db:Status-Status}' libsdl1.2-compat-dev 2>/dev/null | grep -qx installed; then
+    packages=$(echo "$packages" | sed 's/libsdl1.2-dev//')
+fi
+
+# shellcheck disable=SC2086 # a list of words
+installed=$(dpkg-query -W -f ' ${Package}=${db:Status-Status} ' $packages 2>/dev/null || true)
 missing=""
 for package in $packages; do
-    dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' ||
-        missing="$missing $package"
+    case $installed in
+    *" $package=installed "*) ;;
+    *) missing="$missing $package" ;;
+    esac
 done
 [ -n "$missing" ] || exit 0
 

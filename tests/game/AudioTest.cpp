@@ -187,12 +187,16 @@ TEST_F(AudioTest, ReportsASongThatIsNotThere) {
         EXPECT_EQ(errorsOf([&] { publish(message); }), c.errors);
         EXPECT_EQ(audio.lastSongID, 1);
     }
-    // A song that can't be opened is told of, and the next one is tried a second later.
+    // A song that can't be opened is told of, and is silence for as long as the one before; the
+    // first of all, for a second.
     sound().unreadable = {"Songs/a.mp3", "Songs/b.mp3"};
     EXPECT_EQ(errorsOf([&] { audio.playSong(0); }), "FMOD error!23recorded failure\n"
                                                     "FMOD error!37recorded failure\n");
     EXPECT_EQ(audio.song, nullptr);
-    sdl().ticks += 1000;
+    FModMP3Input first;
+    first.playSong(0);
+    EXPECT_EQ(first.songEndTime, sdl().ticks + 1000);
+    sdl().ticks += sound().songLength;
     EXPECT_EQ(errorsOf([&] { audio.update(); }), "");
     ++sdl().ticks;
     EXPECT_NE(errorsOf([&] { audio.update(); }), "");
