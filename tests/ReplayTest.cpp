@@ -59,7 +59,7 @@ TEST_P(Replay, IsTheRecordedGameAtEveryTick) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Games, Replay,
-                         testing::Values("first-steps", "to-the-last-life", "pages-and-pauses",
+                         testing::Values("first-steps", "one-game", "pages-and-pauses",
                                          "long-evening"),
                          [](const auto& game) {
                              std::string name = game.param;

@@ -22,7 +22,7 @@ const struct {
     bool visitsPages;
 } games[] = {
     {"first-steps", 11, 1000, false},
-    {"to-the-last-life", 23, 5000, false},
+    {"one-game", 23, 5000, false},
     {"pages-and-pauses", 37, 3000, true},
     {"long-evening", 58, 14000, true},
 };
