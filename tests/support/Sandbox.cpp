@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 namespace {
 
 /// Every run of the tests works in a folder of its own.
@@ -13,7 +11,8 @@ public:
     void TearDown() override { sandbox.reset(); }
 
 private:
-    std::unique_ptr<quorva::headless::Sandbox> sandbox;
+    /// Owned up to TearDown alone: a forked test that exits must not remove the folder.
+    quorva::headless::Sandbox* sandbox = nullptr;
 };
 
 const auto* const environment = testing::AddGlobalTestEnvironment(new SandboxEnvironment);
