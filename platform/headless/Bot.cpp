@@ -33,12 +33,12 @@ constexpr double fear_distance = 5.0;                     // of a triangle
 constexpr double fear = 12.0;                             // weight against the way to go
 constexpr unsigned int plan_patience = 200;               // ticks
 constexpr unsigned int defence_chance = 12;               // one tick in so many, if there is reason
-constexpr unsigned int pause_chance = 4000;               // one tick in so many
-constexpr unsigned int leave_chance = 40000;              // the same, for giving a game up
-constexpr unsigned int page_chance = 4;                   // one visit to the menu in so many
+constexpr unsigned int pause_chance = 1000;               // one tick in so many
+constexpr unsigned int leave_chance = 10000;              // the same, for giving a game up
+constexpr unsigned int page_chance = 2;                   // one visit to the menu in so many
 
-enum Item { item_start, item_config }; // then help and about
-constexpr unsigned int page_count = 3;
+// Items of the main menu, from the top.
+constexpr unsigned int start_game = 0, first_page = 1, page_count = 3, undecided = 99;
 
 const Point& placeOf(const Entity* e) {
     return e->physics->position;
@@ -84,7 +84,7 @@ double sign(double value) {
 
 } // namespace
 
-Bot::Bot(std::uint32_t seed) : random(seed) {}
+Bot::Bot(std::uint32_t seed) : random(seed), goal(undecided) {}
 
 void Bot::play() {
     look();
@@ -117,8 +117,7 @@ void Bot::playMenu() {
     if (wasInLevel) {
         releaseAll();
         plan.active = false;
-        goal = item_start;
-        if (visitsPages && draw(page_chance) == 0) goal = item_config + draw(page_count);
+        wait = 2 + draw(6); // it takes a look at the menu
     }
     if (menu == nullptr) return; // the program is about to end
     if (wait > 0) {
@@ -133,12 +132,14 @@ void Bot::playMenu() {
 }
 
 void Bot::chooseItem() {
+    if (goal == undecided)
+        goal = visitsPages && draw(page_chance) == 0 ? first_page + draw(page_count) : start_game;
     if (menu->selection != goal) {
         press(menu->selection < goal ? SDLK_DOWN : SDLK_UP);
         return;
     }
     press(SDLK_RETURN);
-    goal = item_start; // the next time
+    goal = undecided;
 }
 
 void Bot::usePage() {

@@ -75,7 +75,7 @@ private:
     Plan plan;
     std::vector<int> held;
     unsigned int wait = 0; ///< passes until the next key in a menu or pause
-    unsigned int goal = 0; ///< item of the main menu
+    unsigned int goal;     ///< item of the main menu
     bool wasInLevel = false;
     bool wasLyingDead = false;
 

@@ -35,7 +35,7 @@ void writeNumber(std::ostream& out, std::uint32_t value, std::size_t bytes) {
 std::uint32_t readNumber(const std::vector<std::uint8_t>& data, std::size_t at, std::size_t bytes) {
     std::uint32_t value = 0;
     for (std::size_t i = 0; i < bytes; ++i)
-        value |= static_cast<std::uint32_t>(data.at(at + i)) << (8 * i);
+        value |= static_cast<std::uint32_t>(data[at + i]) << (8 * i);
     return value;
 }
 
@@ -109,14 +109,15 @@ void Recording::loadHashes(const std::string& path) {
     auto file = open<std::ifstream>(path, std::ios::binary);
     const std::vector<std::uint8_t> data((std::istreambuf_iterator<char>(file)), {});
     for (std::size_t at = 0; at < data.size();) {
-        const auto count =
-            static_cast<std::uint16_t>(readNumber(data, at + hash_bytes, count_bytes));
-        ticks.push_back({readNumber(data, at, hash_bytes), marks.size(), count});
-        at += hash_bytes + count_bytes;
-        if (count > data.size() - at) throw std::runtime_error("cut off: " + path);
-        marks.insert(marks.end(), data.begin() + static_cast<std::ptrdiff_t>(at),
-                     data.begin() + static_cast<std::ptrdiff_t>(at + count));
-        at += count;
+        const std::size_t begin = at + hash_bytes + count_bytes;
+        if (begin > data.size()) throw std::runtime_error("cut off: " + path);
+        const std::size_t count = readNumber(data, at + hash_bytes, count_bytes);
+        if (count > data.size() - begin) throw std::runtime_error("cut off: " + path);
+        ticks.push_back(
+            {readNumber(data, at, hash_bytes), marks.size(), static_cast<std::uint16_t>(count)});
+        const auto first = data.begin() + static_cast<std::ptrdiff_t>(begin);
+        marks.insert(marks.end(), first, first + static_cast<std::ptrdiff_t>(count));
+        at = begin + count;
     }
 }
 

@@ -256,6 +256,21 @@ TEST_F(ActorsTest, BombsPulseThreeTimesAndGo) {
     EXPECT_EQ(pulses, "50 100 150 200 ");
 }
 
+TEST_F(ActorsTest, ABombMayRunOutUnderAPlayerThatLiesDead) {
+    body(player).isActive = true;
+    auto* const bomb = engine().createEntity<BombClear>("Bomb", math::Point(0.5, 0, 0));
+    bomb->pulses = 3;
+    bomb->ticks = 5;
+    publish(PlayerDead());
+    run.ticks(4);
+    ASSERT_EQ(body(player).collidedWith, bomb);
+    run.ticks(2);
+    EXPECT_EQ(body(player).collidedWith, nullptr);
+    run.ticks(120); // back alive, with hitBox still set
+    EXPECT_EQ(player->deathTicks, 0);
+    EXPECT_EQ(player->cooldownPups, 0);
+}
+
 TEST_F(ActorsTest, ABurstGrowsThenSpinsAwayWithItsPowerUp) {
     for (const bool reverse : {false, true}) {
         const graphics::Colour colour(1, 1, 1, 1);

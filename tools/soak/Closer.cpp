@@ -9,6 +9,8 @@
 
 #include <unistd.h>
 
+#include <iterator>
+
 namespace soak {
 
 using namespace quorva;
@@ -20,7 +22,7 @@ const char* const moment_names[moment_count] = {
     "pause",          "on a death",           "lying dead",
     "on a rectangle", "on a clear bomb",      "on the last death",
     "verdict"};
-const char* const way_names[way_count] = {"window", "escape and window", "exit"};
+const char* const way_names[way_count] = {"window", "escape and window", "window and keys", "exit"};
 
 namespace {
 
@@ -137,8 +139,12 @@ void Closer::happens(Moment m) {
 
 void Closer::close() {
     closing = true;
-    if (way != by_window && isInLevel()) press(SDLK_ESCAPE);
+    if (way == by_escape_and_window || way == by_exit) press(SDLK_ESCAPE);
     if (way != by_exit) headless::pushQuit();
+    if (way != by_window_and_keys) return;
+    const int keys[] = {SDLK_ESCAPE, SDLK_RETURN, SDLK_p, SDLK_d};
+    for (int i = 0; i < 4; ++i)
+        press(keys[random() % std::size(keys)]);
 }
 
 /// "Exit" takes several passes.

@@ -36,6 +36,7 @@ extern const char* const moment_names[moment_count];
 enum Way : unsigned int {
     by_window,
     by_escape_and_window, ///< both in one pass
+    by_window_and_keys,   ///< keys go on for what is left of the pass
     by_exit,              ///< back to the menu, and "Exit"
     way_count
 };

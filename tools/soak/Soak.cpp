@@ -70,7 +70,10 @@ void Soak::tick() {
     mostEntities = std::max(mostEntities, Engine::Instance().entities.size());
     const bool nowInLevel = run.game().level != nullptr;
     if (inLevel && !nowInLevel) noteEndOfGame();
-    if (nowInLevel && checkIsDue) fault("the next game has begun before the last had gone");
+    if (nowInLevel && checkIsDue) {
+        fault("the next game has begun before the last had gone");
+        checkIsDue = false;
+    }
     inLevel = nowInLevel;
     if (!checkIsDue) return;
     ++ticksSinceEnd;

@@ -22,9 +22,9 @@ const struct {
     bool visitsPages;
 } games[] = {
     {"first-steps", 11, 1000, false},
-    {"to-the-last-life", 23, 6000, false},
-    {"pages-and-pauses", 37, 4000, true},
-    {"long-evening", 58, 20000, true},
+    {"one-game", 23, 5000, false},
+    {"pages-and-pauses", 37, 3000, true},
+    {"long-evening", 58, 14000, true},
 };
 
 } // namespace
