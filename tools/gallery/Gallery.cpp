@@ -59,7 +59,9 @@ Moment moments[] = {
      [](const Scene& s) { return s.immuneBombs * near(s.pulse, 0.45) * (10.0 + crowd(s)); }},
     {"power-ups",
      [](const Scene& s) {
-         return s.linePowerUps > 0 && s.cooldownPowerUps > 0 ? s.rays + crowd(s) : 0.0;
+         const bool both = s.linePowerUps > 0 && s.cooldownPowerUps > 0;
+         const bool any = s.linePowerUps > 0 || s.cooldownPowerUps > 0;
+         return any && s.playerVisible ? (both ? 100.0 : 0.0) + s.rays + crowd(s) : 0.0;
      }},
 };
 
