@@ -28,7 +28,7 @@ using gallery::Scene;
 
 namespace {
 
-constexpr unsigned int game_ticks = 6000, pause_tick = 2400;
+constexpr unsigned int game_ticks = 6000, pause_tick = 1500;
 constexpr unsigned int film_ticks = 240, ticks_per_frame = 2;
 constexpr double worth_of_catch = 60.0, cost_of_death = 20.0; ///< for the film, in crowds
 
