@@ -4,7 +4,7 @@
 set -eu
 cd "$(dirname "$0")/.."
 
-wide_seed=7 narrow_seed=7
+wide_seed=5 narrow_seed=5
 
 tools/install_packages.sh build gallery
 cmake -B build/gallery -G Ninja -DCMAKE_BUILD_TYPE=Release -DKOV_GALLERY=ON -DKOV_TESTS=OFF >/dev/null

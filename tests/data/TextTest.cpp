@@ -137,6 +137,7 @@ TEST_F(TextTest, TheConfigurationWithAllItsValues) {
     press(SDLK_DOWN);
     press(SDLK_RIGHT); // full screen
     press(SDLK_DOWN, 3);
+    run.tick(); // the lines of help follow the selection
     expectInOrder(menu, still + 2);
     press(SDLK_DOWN);
     press(SDLK_RIGHT); // saves the processor

@@ -28,7 +28,7 @@ using gallery::Scene;
 
 namespace {
 
-constexpr unsigned int game_ticks = 6000, pause_tick = 2400;
+constexpr unsigned int game_ticks = 6000, pause_tick = 1500;
 constexpr unsigned int film_ticks = 240, ticks_per_frame = 2;
 constexpr double worth_of_catch = 60.0, cost_of_death = 20.0; ///< for the film, in crowds
 
@@ -59,7 +59,9 @@ Moment moments[] = {
      [](const Scene& s) { return s.immuneBombs * near(s.pulse, 0.45) * (10.0 + crowd(s)); }},
     {"power-ups",
      [](const Scene& s) {
-         return s.linePowerUps > 0 && s.cooldownPowerUps > 0 ? s.rays + crowd(s) : 0.0;
+         const bool both = s.linePowerUps > 0 && s.cooldownPowerUps > 0;
+         const bool any = s.linePowerUps > 0 || s.cooldownPowerUps > 0;
+         return any && s.playerVisible ? (both ? 100.0 : 0.0) + s.rays + crowd(s) : 0.0;
      }},
 };
 
