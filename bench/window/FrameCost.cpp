@@ -1,5 +1,5 @@
-// What a frame of a busy field costs the whole process in a real window, beside a bare loop that
-// sends the very same GL calls. Wants a display.
+// What a frame costs the whole process in a real window, beside a bare loop that sends the very
+// same GL calls. Wants a display.
 //
 //   kov_frame_cost [frames a round]
 
@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <ctime>
+#include <iomanip>
 #include <iostream>
 #include <vector>
 
@@ -52,18 +53,10 @@ double median(std::vector<double> values) {
     return values[rounds / 2];
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
-    const quorva::headless::Sandbox sandbox(KOV_SOURCE_DIR);
-    if (SDL_Init(SDL_INIT_VIDEO) < 0) {
-        std::cerr << "no display: " << SDL_GetError() << '\n';
-        return 1;
-    }
-    const int frames = argc > 1 ? std::max(1, std::atoi(argv[1])) : usual_frames;
-    Field field;
-    bench::furnishFrame(field);
-    const auto gameFrame = [&field] { field.run.frame(); };
+/// One line of the table: the scene's frames by the game and from the tape, in turn.
+/// @return false if the tape doesn't draw what the game draws
+template <class Frame>
+bool measure(const char* scene, int frames, Frame gameFrame) {
     const auto bareFrame = [] {
         bench::glTape().play();
         SDL_GL_SwapBuffers();
@@ -76,10 +69,7 @@ int main(int argc, char** argv) {
     glClear(GL_COLOR_BUFFER_BIT);
     SDL_GL_SwapBuffers();
     bareFrame();
-    if (pixels() != seen) {
-        std::cerr << "the tape draws another picture than the game\n";
-        return 1;
-    }
+    if (pixels() != seen) return false;
 
     std::vector<double> game, bare, ratio;
     for (int round = 0; round < rounds; ++round) {
@@ -87,10 +77,46 @@ int main(int argc, char** argv) {
         bare.push_back(costOf(frames, bareFrame));
         ratio.push_back(game.back() / bare.back());
     }
-    std::cout << "GL calls a frame " << bench::glTape().size()
-              << "\nprocessor time a frame, ms: game " << median(game) << ", bare loop "
-              << median(bare) << "\nratio: median " << median(ratio) << ", least "
-              << *std::min_element(ratio.begin(), ratio.end()) << ", most "
+    std::cout << std::setw(12) << scene << std::setw(12) << bench::glTape().size() << std::setw(12)
+              << median(game) << std::setw(12) << median(bare) << std::setw(12) << median(ratio)
+              << std::setw(12) << *std::min_element(ratio.begin(), ratio.end()) << std::setw(12)
               << *std::max_element(ratio.begin(), ratio.end()) << '\n';
-    return 0;
+    return true;
+}
+
+bool measureMenu(int frames) {
+    quorva::headless::HeadlessGame run;
+    return measure("menu", frames, [&run] { run.frame(); });
+}
+
+bool measureIdleGame(int frames) {
+    quorva::headless::HeadlessGame run;
+    run.startLevel();
+    run.ticks(60);
+    return measure("idle game", frames, [&run] { run.frame(); });
+}
+
+bool measureBusyField(int frames) {
+    Field field;
+    bench::furnishFrame(field);
+    return measure("busy field", frames, [&field] { field.run.frame(); });
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const quorva::headless::Sandbox sandbox(KOV_SOURCE_DIR);
+    if (SDL_Init(SDL_INIT_VIDEO) < 0) {
+        std::cerr << "no display: " << SDL_GetError() << '\n';
+        return 1;
+    }
+    const int frames = argc > 1 ? std::max(1, std::atoi(argv[1])) : usual_frames;
+    std::cout
+        << "Processor time of the process, ms a frame; medians of " << rounds << " rounds of "
+        << frames << " frames\n"
+        << "       scene    GL calls        game        bare       ratio       least        most\n"
+        << std::setprecision(4);
+    if (measureMenu(frames) && measureIdleGame(frames) && measureBusyField(frames)) return 0;
+    std::cerr << "the tape draws another picture than the game\n";
+    return 1;
 }
