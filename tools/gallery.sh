@@ -33,6 +33,6 @@ save_pictures() { # from a folder, to a folder
 }
 save_pictures wide "$gallery"
 save_pictures narrow "$gallery/800x600"
-convert -delay 6 -loop 0 'film/*.ppm[50%]' -dither None film.gif
-gifsicle -O3 --colors 64 --lossy=30 film.gif -o "$gallery/play.gif"
+mogrify -resize 50% -dither None -colors 64 -format gif film/*.ppm
+gifsicle -O3 --delay 6 --loopcount --colors 64 --lossy=30 film/*.gif -o "$gallery/play.gif"
 du -sh "$gallery"

@@ -7,6 +7,8 @@
 // All as PPM. WIDTH and HEIGHT are the screen's, in pixels; SEED is how
 // many ticks pass in the menu: the clock at the start of a level seeds its game.
 
+#include "Framework/MessageHandler.h"
+#include "Framework/Messages.h"
 #include "game/GameBase.h"
 #include "game/Marvo.h"
 #include "platform/headless/HeadlessGame.h"
@@ -206,6 +208,7 @@ unsigned int Gallery::findFilm() {
 }
 
 void Gallery::film(unsigned int firstTick) {
+    quorva::publish(quorva::messages::ResetVideo()); // the letters went with the first run's window
     startGame();
     for (unsigned int tick = 0; tick < firstTick + film_ticks && playTick(); ++tick) {
         if (tick < firstTick || tick % ticks_per_frame != 0) continue;
