@@ -142,11 +142,13 @@ int TGA::loadTgaPalette() {
 }
 
 int TGA::loadTgaRLEData() {
+    // A header of 18 bytes can ask for 4 GiB. No packing makes more than this of a byte.
+    if (imageSize / longest_packet > fileData.size()) return bad_size;
     // The last packet may overrun the image, and is written in full.
     image.resize(imageSize + longest_packet * pixelSize());
     std::size_t source = dataOffset();
     std::size_t written = 0;
-    while (written < imageSize) {
+    while (written < imageSize && source < fileData.size()) { // else the rest stays black
         const unsigned char control = at(source++);
         const bool isRun = (control & run_flag) != 0;
         const std::size_t count = (control & ~run_flag) + 1U;

@@ -221,7 +221,7 @@ void GLAPIENTRY glPopClientAttrib() {
 }
 void GLAPIENTRY glGetIntegerv(GLenum name, GLint* value) {
     record("glGetIntegerv", name);
-    *value = 0;
+    *value = name == GL_MAX_TEXTURE_SIZE ? largest_texture : 0;
 }
 GLenum GLAPIENTRY glGetError() {
     return GL_NO_ERROR;
