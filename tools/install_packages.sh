@@ -1,5 +1,6 @@
 #!/bin/sh
-# Installs those of the named groups' Debian packages that are missing: build, test.
+# Installs those of the named groups' Debian packages that are missing: build, test,
+# check, fuzz.
 set -eu
 
 packages=""
@@ -9,7 +10,9 @@ for group in "$@"; do
         libgl-dev libglu1-mesa-dev libftgl-dev libfreetype-dev libloki-dev libboost-dev
         libboost-filesystem-dev libopenal-dev libsndfile1-dev
         libgl1-mesa-dri" ;;
-    test) packages="$packages libgtest-dev clang-format" ;;
+    test) packages="$packages libgtest-dev clang-format xvfb" ;;
+    check) packages="$packages clang-tidy cppcheck" ;;
+    fuzz) packages="$packages clang libclang-rt-14-dev" ;;
     *) echo "install_packages.sh: no such group: $group" >&2; exit 2 ;;
     esac
 done

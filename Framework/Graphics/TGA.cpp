@@ -1,7 +1,8 @@
 #include "Framework/Graphics/TGA.h"
 
+#include "Framework/Files.h"
+
 #include <algorithm>
-#include <fstream>
 #include <iterator>
 #include <new>
 
@@ -83,13 +84,9 @@ int TGA::load(std::string& path) {
 }
 
 int TGA::readFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file = utility::openForReading(path);
     if (!file) return no_file;
-    try {
-        fileData.assign(std::istreambuf_iterator<char>(file), {});
-    } catch (const std::ios_base::failure&) {
-        return no_file; // a folder opens, but can't be read
-    }
+    fileData.assign(std::istreambuf_iterator<char>(file), {});
     return success;
 }
 

@@ -38,6 +38,8 @@ GLRecorder& glRecorder() {
 
 namespace {
 
+constexpr GLint largest_texture = 2048; // pixels; the library of the fonts asks
+
 template <class... Arguments>
 void record(const char* name, Arguments... arguments) {
     auto& recorder = quorva::headless::glRecorder();

@@ -89,6 +89,7 @@ int SDL_GL_SetAttribute(SDL_GLattr, int) {
 }
 void SDL_GL_SwapBuffers() {
     ++sdl().swaps;
+    if (sdl().onSwap) sdl().onSwap();
 }
 int SDL_ShowCursor(int toggle) {
     if (toggle == SDL_DISABLE) ++sdl().cursorHidden;

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,7 @@ struct VirtualSDL {
     std::vector<VideoMode> modes; ///< asked for, in order
     int refusedModes = 0;         ///< how many of the next modes are refused
     std::uint64_t swaps = 0;      ///< frames shown
+    std::function<void()> onSwap; ///< called at each, the end of a pass
     int cursorHidden = 0;
     int quits = 0;
     std::string caption;
