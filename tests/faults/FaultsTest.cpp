@@ -1,8 +1,9 @@
 // The whole program, from main to its exit, in a folder of its own with something wrong in it. It
 // says the lines that it should on standard error, and nothing else, and plays on.
 
-#include "Framework/Messages.h"
 #include "game/Marvo.h"
+#include "game/PlayerCharacter.h"
+#include "platform/fmodex/fmodex.h"
 #include "platform/headless/VirtualSDL.h"
 
 #include <boost/filesystem.hpp>
@@ -52,6 +53,7 @@ void turnPage() {
     if (passes == death_pass) {
         Marvo::Instance().score = record;
         Marvo::Instance().lives = 0;
+        Marvo::Instance().player->invulnerable = false;
         Marvo::Instance().killPlayer();
     }
     if (passes == last_pass) quorva::headless::pushQuit();
@@ -145,7 +147,8 @@ std::string noise() {
         state ^= state << 13U;
         state ^= state >> 17U;
         state ^= state << 5U;
-        bytes += static_cast<char>(state);
+        const char byte = static_cast<char>(state);
+        bytes += byte == ',' ? '.' : byte; // no line of it counts
     }
     return bytes;
 }
@@ -168,17 +171,25 @@ struct Row {
     std::string lines[harm_count];
 };
 
-std::string unreadSounds(const std::string& failure) {
+/// Resources are loaded at the start, and again when the video restarts.
+std::string twice(const std::string& line) {
+    return line + line;
+}
+
+std::string told(FMOD_RESULT result) {
+    return "FMOD error!" + std::to_string(result) + FMOD_ErrorString(result) + "\n";
+}
+
+std::string unreadSounds(FMOD_RESULT result) {
     std::string lines;
     for (const char* sound :
          {"alive", "bullet", "death", "hit", "square", "clear", "immune", "Power up", "Bad", "Bad"})
-        lines += "FMOD error!" + failure + "\nCan't read " + sound + " sound\n";
+        lines += told(result) + "Can't read " + sound + " sound\n";
     return lines;
 }
 
-std::string unreadSong(const std::string& failure) {
-    return "FMOD error!" + failure +
-           "\nFMOD error!37An invalid parameter was passed to this function.\n";
+std::string unreadSong(FMOD_RESULT result) {
+    return told(result) + told(FMOD_ERR_INVALID_PARAM);
 }
 
 } // namespace
@@ -196,10 +207,10 @@ TEST_F(Faults, WithAllInPlaceNothingIsSaidAndAllIsKept) {
 }
 
 TEST_F(Faults, AFileThatIsNotWhatItShouldBeIsToldOfOnceAndTheGameGoesOn) {
-    const std::string notFound = "23File not found.", badFormat = "25The format is not supported.";
-    const std::string colours = "Can't readColour file: data/Colour.kov\n";
-    const std::string points = "Can't readPoint file: data/Point.kov\n";
-    const std::string fonts = "Can't readFont file: data/Font.kov\n";
+    const FMOD_RESULT notFound = FMOD_ERR_FILE_NOTFOUND, badFormat = FMOD_ERR_FORMAT;
+    const std::string colours = twice("Can't readColour file: data/Colour.kov\n");
+    const std::string points = twice("Can't readPoint file: data/Point.kov\n");
+    const std::string fonts = twice("Can't readFont file: data/Font.kov\n");
     const std::string keys = "Can't read bind1.conf\n";
     const std::string songs = "Song directory is missing\n";
     const Row rows[] = {
@@ -271,16 +282,16 @@ TEST_F(Faults, WhatCannotBeWrittenIsPassedOverAndLosesNothing) {
         const Outcome outcome = play(fullDisk(room));
         EXPECT_EQ(outcome.errors, "");
         EXPECT_EQ(outcome.code, 0);
-        EXPECT_EQ(contentsOf("game.conf").substr(0, room), settings.substr(0, room));
         EXPECT_EQ(contentsOf("game.conf"), settings) << room << " bytes of room";
         if (room < score.size()) {
             EXPECT_EQ(contentsOf("s.dat"), score);
         }
     }
+    fs::remove("game.conf.bak");
     // A folder, and files, that may only be read.
+    fill("s.dat", score);
     for (const char* path : {"game.conf", "s.dat", "."})
         fs::permissions(path, fs::owner_read | fs::owner_exe);
-    fill("s.dat", score);
     const Outcome outcome = play();
     EXPECT_EQ(outcome.errors, "");
     EXPECT_EQ(outcome.code, 0);
