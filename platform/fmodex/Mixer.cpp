@@ -163,6 +163,7 @@ FMOD_SYSTEM::Channel* FMOD_SYSTEM::find(FMOD_CHANNEL* handle) {
 
 FMOD_CHANNEL* FMOD_SYSTEM::handleOf(const Channel& channel) const {
     const auto index = static_cast<std::uintptr_t>(&channel - channels.data());
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle, which nobody follows
     return reinterpret_cast<FMOD_CHANNEL*>(std::uintptr_t{channel.generation} << index_bits |
                                            (index + 1));
 }
