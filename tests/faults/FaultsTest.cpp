@@ -20,6 +20,11 @@
 
 int gameMain(int argc, char* argv[]); // main of the game
 
+/// The effects are held until the process ends, by nobody in the end.
+extern "C" const char* __lsan_default_suppressions() { // NOLINT: the sanitizer's name
+    return "leak:FModMP3Input::loadEffects\n";
+}
+
 namespace {
 
 namespace fs = boost::filesystem;
