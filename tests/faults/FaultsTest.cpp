@@ -25,6 +25,10 @@ extern "C" const char* __lsan_default_suppressions() { // NOLINT: the sanitizer'
     return "leak:FModMP3Input::loadEffects\n";
 }
 
+extern "C" const char* __lsan_default_options() { // NOLINT: likewise
+    return "print_suppressions=0";                // on standard error
+}
+
 namespace {
 
 namespace fs = boost::filesystem;
