@@ -120,10 +120,11 @@ void FModMP3Input::playSong(unsigned short id) {
 
     const std::string path = mp3_directory + "/" + songs[id];
     result = FMOD_System_CreateStream(system, path.c_str(), stream_mode, nullptr, &song);
-    FModSystem::Instance().isFModOk(result);
+    const bool isKnownToFail = result != FMOD_OK && !brokenSongs.insert(path).second;
+    if (!isKnownToFail) FModSystem::Instance().isFModOk(result);
     result = FMOD_System_PlaySound(system, any_channel, song, 0, &musicChannel);
     FMOD_Channel_SetVolume(musicChannel, config.getMusicVolume() / full_volume);
-    FModSystem::Instance().isFModOk(result);
+    if (!isKnownToFail) FModSystem::Instance().isFModOk(result);
     // One that can't be opened leaves the length of the song before: so long is the silence.
     FMOD_Sound_GetLength(song, &songLength, length_in_ms);
     songEndTime = SDL_GetTicks() + songLength;

@@ -6,6 +6,7 @@
 #include "platform/fmodex/fmodex.h"
 
 #include <cstdint>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -83,4 +84,6 @@ private:
     void subscribeToAll();
     void loadEffects();
     void playEffect(FMOD_SOUND* sound);
+
+    std::set<std::string> brokenSongs; ///< paths; their failure is told once
 };

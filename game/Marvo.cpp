@@ -2,6 +2,7 @@
 
 #include "Framework/Constants.h"
 #include "Framework/Engine.h"
+#include "Framework/Files.h"
 #include "Framework/Graphics/Camera.h"
 #include "Framework/MessageHandler.h"
 #include "Framework/Messages.h"
@@ -9,7 +10,6 @@
 #include "game/SquareIndicator.h"
 
 #include <cmath>
-#include <fstream>
 
 using namespace quorva;
 
@@ -37,7 +37,7 @@ MarvoClass::MarvoClass() {
     const float height = static_cast<float>(camera.top) - static_cast<float>(camera.bottom);
     fieldArea = static_cast<double>(width) * height;
 
-    std::ifstream file(high_score_file, std::ios::binary);
+    std::ifstream file = utility::openForReading(high_score_file);
     file.read(reinterpret_cast<char*>(&highScore), sizeof highScore); // a short file counts too
 }
 
@@ -90,6 +90,6 @@ void MarvoClass::killTriangles(const primitives::Box& box, unsigned short count)
 void MarvoClass::saveHighScore() {
     if (score <= highScore) return;
     highScore = score;
-    std::ofstream file(high_score_file, std::ios::binary | std::ios::trunc);
-    file.write(reinterpret_cast<const char*>(&score), sizeof score);
+    utility::replaceContents(high_score_file,
+                             {reinterpret_cast<const char*>(&score), sizeof score});
 }

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Installs those of the named groups' Debian packages that are missing: build, test, demo, package,
-# gallery, assets.
+# Installs those of the named groups' Debian packages that are missing: build, test, check, fuzz,
+# demo, package, gallery, assets.
 set -eu
 
 packages=""
@@ -10,9 +10,11 @@ for group in "$@"; do
         libgl-dev libglu1-mesa-dev libftgl-dev libfreetype-dev libloki-dev libboost-dev
         libboost-filesystem-dev libopenal-dev libsndfile1-dev libmpg123-dev
         libgl1-mesa-dri" ;;
+    test) packages="$packages libgtest-dev clang-format xvfb" ;;
+    check) packages="$packages clang-tidy cppcheck" ;;
+    fuzz) packages="$packages clang libclang-rt-14-dev" ;;
     demo) packages="$packages xvfb xdotool imagemagick" ;;
     package) packages="$packages dpkg-dev file" ;;
-    test) packages="$packages libgtest-dev clang-format" ;;
     gallery) packages="$packages xvfb xauth imagemagick optipng gifsicle" ;;
     assets) packages="$packages python3-fonttools python3-shapely" ;;
     *) echo "install_packages.sh: no such group: $group" >&2; exit 2 ;;

@@ -97,7 +97,7 @@ void CameraClass::setupFrustum() {
     std::transform(m.m.begin(), m.m.end(), projectionMatrix.begin(), narrow);
     glGetFloatv(GL_PROJECTION_MATRIX, projectionMatrix.data());
     // Deliberate: from the model matrix, not from what GL has given.
-    for (unsigned int i = 0; i < 4; ++i) {
+    for (std::size_t i = 0; i < 4; ++i) {
         const double w = m[i * 4 + 3], x = m[i * 4], y = m[i * 4 + 1];
         frustum[0][i] = narrow(w - x);
         frustum[1][i] = narrow(w + x);

@@ -1,7 +1,8 @@
 #include "Framework/Graphics/TGA.h"
 
+#include "Framework/Files.h"
+
 #include <algorithm>
-#include <fstream>
 #include <iterator>
 #include <new>
 
@@ -83,13 +84,9 @@ int TGA::load(std::string& path) {
 }
 
 int TGA::readFile(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file = utility::openForReading(path);
     if (!file) return no_file;
-    try {
-        fileData.assign(std::istreambuf_iterator<char>(file), {});
-    } catch (const std::ios_base::failure&) {
-        return no_file; // a folder opens, but can't be read
-    }
+    fileData.assign(std::istreambuf_iterator<char>(file), {});
     return success;
 }
 
@@ -142,11 +139,13 @@ int TGA::loadTgaPalette() {
 }
 
 int TGA::loadTgaRLEData() {
+    // A header of 18 bytes can ask for 4 GiB. No packing makes more than this of a byte.
+    if (imageSize / longest_packet > fileData.size()) return bad_size;
     // The last packet may overrun the image, and is written in full.
     image.resize(imageSize + longest_packet * pixelSize());
     std::size_t source = dataOffset();
     std::size_t written = 0;
-    while (written < imageSize) {
+    while (written < imageSize && source < fileData.size()) { // else the rest stays black
         const unsigned char control = at(source++);
         const bool isRun = (control & run_flag) != 0;
         const std::size_t count = (control & ~run_flag) + 1U;

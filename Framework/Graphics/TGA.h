@@ -7,7 +7,8 @@
 namespace quorva::graphics {
 
 /// A Truevision TGA file as rows of pixels for glTexImage2D: true colour as RGB or RGBA, or
-/// colour-mapped with its palette. A file that lies about its size gives black, never a fault.
+/// colour-mapped with its palette. A file that lies about its size gives black, or no image if
+/// nothing could unpack to that size; never a fault.
 /// Truevision TGA, version 2.0, 1991.
 class TGA {
 public:

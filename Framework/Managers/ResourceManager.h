@@ -1,12 +1,12 @@
 #pragma once
 
 #include "Framework/Constants.h"
+#include "Framework/Files.h"
 #include "Framework/GameInfo.h"
 #include "Framework/Managers/ResourceManagerManager.h"
 #include "Framework/Managers/ResourceTraits.h"
 #include "Framework/Managers/ScopedType.h"
 
-#include <fstream>
 #include <iostream>
 #include <map>
 
@@ -36,7 +36,7 @@ public:
 
     void load(std::string scope) override {
         setFilename(scope);
-        std::ifstream file(filename);
+        std::ifstream file = utility::openForReading(filename);
         if (!file) {
             std::cerr << "Can't read" << name << " file: " << filename << '\n';
             return;

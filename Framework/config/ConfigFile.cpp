@@ -1,5 +1,6 @@
 #include "Framework/config/ConfigFile.h"
 
+#include "Framework/Files.h"
 #include "Framework/GameInfo.h"
 #include "Framework/Utility.h"
 
@@ -10,15 +11,15 @@
 namespace quorva::config {
 
 ConfigFile::ConfigFile(const std::string& path) {
-    const IPSError failure("Unable to load config file: " + path);
-    std::ifstream file(path);
-    if (!file) throw failure;
+    const std::string failure = "Unable to load config file: " + path;
+    std::ifstream file = utility::openForReading(path);
+    if (!file) throw IPSError(failure);
     try {
         std::string line;
         while (std::getline(file, line))
             readLine(line);
     } catch (const std::exception&) {
-        throw failure;
+        throw IPSError(failure);
     }
 }
 

@@ -1,10 +1,11 @@
 // The way of the settings from and to the configuration file.
 
 #include "Framework/Config.h"
+#include "Framework/Files.h"
 #include "Framework/GameInfo.h"
 #include "Framework/config/SettingNames.h"
 
-#include <fstream>
+#include <sstream>
 
 namespace quorva::config {
 
@@ -90,11 +91,12 @@ void ConfigClass::readFile() {
 void ConfigClass::saveConfig() {
     if (file != nullptr) file->backup();
     const GameInfoClass& info = GameInfo::Instance();
-    std::ofstream out(info.configFile, std::ios::trunc);
+    std::ostringstream out;
     out << "#Config file for: " << info.title << ". v." << info.version << '\n';
     for (const std::string* name : written)
         out << *name << " = " << valueOf(*activatedValues, *name) << '\n';
     out << "#eof\n";
+    utility::replaceContents(info.configFile, out.str()); // a failure is passed over
 }
 
 } // namespace quorva::config

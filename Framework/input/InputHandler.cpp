@@ -20,8 +20,8 @@ double share(short value) {
 } // namespace
 
 InputHandler::InputHandler() : event() {
-    for (unsigned short i = 0; i < playerInputs.size(); ++i)
-        playerInputs[i].player = i;
+    for (std::size_t i = 0; i < playerInputs.size(); ++i)
+        playerInputs[i].player = static_cast<unsigned short>(i);
     dirty.assign(false);
     Joystick::Instance(); // opens the joysticks
 }

@@ -1,12 +1,12 @@
 #include "Framework/input/KeyMapper.h"
 
 #include "Framework/Constants.h"
+#include "Framework/Files.h"
 #include "Framework/Utility.h"
 
 #include <boost/algorithm/string.hpp>
 
 #include <algorithm>
-#include <fstream>
 #include <iostream>
 
 namespace quorva::input {
@@ -85,7 +85,7 @@ const InputKey* KeyMapperClass::getButton(const char* name, unsigned short playe
 }
 
 void KeyMapperClass::readBindFiles() {
-    std::ifstream file(bind_file_name);
+    std::ifstream file = utility::openForReading(bind_file_name);
     if (!file) {
         std::cerr << "Can't read bind1.conf\n"; // the defaults stay in force
         return;

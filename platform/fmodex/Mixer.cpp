@@ -1,6 +1,8 @@
 #include "platform/fmodex/Mixer.h"
 
 #include <AL/alext.h>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -26,7 +28,33 @@ void submit(ALuint buffer, const Decoder& decoder, const std::vector<std::int16_
                  static_cast<ALsizei>(samples.size() * sizeof samples[0]), decoder.sampleRate());
 }
 
+/// Keeps what the libraries below say of a missing card off the player's terminal, unless their
+/// log was asked for.
+class Quiet {
+public:
+    Quiet() {
+        const int nowhere = open("/dev/null", O_WRONLY | O_CLOEXEC);
+        if (nowhere < 0) return;
+        if (std::getenv("ALSOFT_LOGLEVEL") == nullptr) {
+            errors = fcntl(STDERR_FILENO, F_DUPFD_CLOEXEC, STDERR_FILENO + 1);
+            if (errors >= 0) dup2(nowhere, STDERR_FILENO);
+        }
+        ::close(nowhere);
+    }
+    ~Quiet() {
+        if (errors < 0) return;
+        dup2(errors, STDERR_FILENO);
+        ::close(errors);
+    }
+    Quiet(const Quiet&) = delete;
+    Quiet& operator=(const Quiet&) = delete;
+
+private:
+    int errors = -1; ///< where standard error went to
+};
+
 ALCdevice* openDevice() {
+    const Quiet quiet;
     if (loopback)
         return loopbackFunction<LPALCLOOPBACKOPENDEVICESOFT>("alcLoopbackOpenDeviceSOFT")(nullptr);
     return alcOpenDevice(nullptr);
@@ -137,6 +165,7 @@ FMOD_SYSTEM::Channel* FMOD_SYSTEM::find(FMOD_CHANNEL* handle) {
 
 FMOD_CHANNEL* FMOD_SYSTEM::handleOf(const Channel& channel) const {
     const auto index = static_cast<std::uintptr_t>(&channel - channels.data());
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle, which nobody follows
     return reinterpret_cast<FMOD_CHANNEL*>(std::uintptr_t{channel.generation} << index_bits |
                                            (index + 1));
 }

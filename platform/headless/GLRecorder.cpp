@@ -38,6 +38,8 @@ GLRecorder& glRecorder() {
 
 namespace {
 
+constexpr GLint largest_texture = 2048; // pixels; the library of the fonts asks
+
 template <class... Arguments>
 void record(const char* name, Arguments... arguments) {
     auto& recorder = quorva::headless::glRecorder();
@@ -221,7 +223,7 @@ void GLAPIENTRY glPopClientAttrib() {
 }
 void GLAPIENTRY glGetIntegerv(GLenum name, GLint* value) {
     record("glGetIntegerv", name);
-    *value = 0;
+    *value = name == GL_MAX_TEXTURE_SIZE ? largest_texture : 0;
 }
 GLenum GLAPIENTRY glGetError() {
     return GL_NO_ERROR;

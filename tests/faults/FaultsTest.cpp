@@ -1,0 +1,356 @@
+// The whole program, from main to its exit, in a folder of its own with something wrong in it. It
+// says the lines that it should on standard error, and nothing else, and plays on.
+
+#include "game/Marvo.h"
+#include "game/PlayerCharacter.h"
+#include "platform/fmodex/fmodex.h"
+#include "platform/headless/VirtualSDL.h"
+
+#include <boost/filesystem.hpp>
+#include <gtest/gtest.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstring>
+#include <fstream>
+#include <functional>
+
+int gameMain(int argc, char* argv[]); // main of the game
+
+/// The effects are held until the process ends, by nobody in the end.
+extern "C" const char* __lsan_default_suppressions() { // NOLINT: the sanitizer's name
+    return "leak:FModMP3Input::loadEffects\n";
+}
+
+extern "C" const char* __lsan_default_options() { // NOLINT: likewise
+    return "print_suppressions=0";                // on standard error
+}
+
+namespace {
+
+namespace fs = boost::filesystem;
+using quorva::headless::sdl;
+
+constexpr uid_t nobody = 65534;
+constexpr int stopped_early = 99;
+
+/// A key at a pass, 30 ms each. Plays, pauses, leaves, saves the settings, loses with a record.
+const struct {
+    unsigned int pass;
+    int key;
+} script[] = {{2, SDLK_RETURN},  {5, SDLK_w},       {10, SDLK_d},      {15, SDLK_p},
+              {20, SDLK_p},      {25, SDLK_a},      {60, SDLK_ESCAPE}, // to the menu
+              {65, SDLK_DOWN},   {66, SDLK_RETURN}, {67, SDLK_UP},     {68, SDLK_UP},
+              {69, SDLK_RETURN}, // saves
+              {75, SDLK_RETURN}};
+constexpr unsigned int death_pass = 100, last_pass = 120;
+constexpr std::uint32_t record = 4321;
+
+unsigned int passes = 0;
+
+void turnPage() {
+    sdl().ticks += 30;
+    ++passes;
+    for (const auto& row : script) {
+        if (row.pass != passes) continue;
+        quorva::headless::pushKey(row.key, true);
+        quorva::headless::pushKey(row.key, false);
+    }
+    if (passes == death_pass) {
+        Marvo::Instance().score = record;
+        Marvo::Instance().lives = 0;
+        Marvo::Instance().player->invulnerable = false;
+        Marvo::Instance().killPlayer();
+    }
+    if (passes == last_pass) quorva::headless::pushQuit();
+}
+
+class Faults : public testing::Test {
+protected:
+    struct Outcome {
+        std::string errors;
+        int code;
+    };
+
+    void SetUp() override {
+        fs::create_directories(folder / "Songs");
+        const fs::path source = KOV_SOURCE_DIR;
+        for (const char* name : {"data", "fonts", "Sounds"}) {
+            fs::create_directory(folder / name);
+            for (const fs::directory_entry& entry : fs::directory_iterator(source / name))
+                fs::copy_file(entry.path(), folder / name / entry.path().filename());
+        }
+        fs::copy_file(source / "fuzz/corpus/sound_file/song.ogg", folder / "Songs/a.ogg");
+        fill("bind1.conf", "Fire Up, w\n");
+        fill("game.conf", settings);
+        fill("s.dat", std::string("\x10\x27\0\0", 4));
+        fs::current_path(folder);
+    }
+    void TearDown() override {
+        fs::current_path("/");
+        fs::remove_all(folder);
+    }
+
+    void fill(const char* name, const std::string& contents) {
+        std::ofstream((folder / name).string(), std::ios::binary) << contents;
+    }
+    std::string contentsOf(const char* name) const {
+        std::ifstream file((folder / name).string(), std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+
+    /// Runs the game in a child process, as somebody whom file permissions bind.
+    static Outcome play(const std::function<void()>& prepare = {}) {
+        int ends[2];
+        if (pipe(ends) != 0) return {"no pipe", -1};
+        const pid_t child = fork();
+        if (child == 0) {
+            dup2(ends[1], STDERR_FILENO);
+            close(ends[0]);
+            close(ends[1]);
+            setenv("ALSOFT_DRIVERS", "null", 0);
+            if (prepare) prepare();
+            leaveRoot();
+            sdl().onSwap = turnPage;
+            char name[] = "kov";
+            char* arguments[] = {name, nullptr};
+            const int code = gameMain(1, arguments);
+            std::exit(passes < last_pass ? stopped_early : code);
+        }
+        close(ends[1]);
+        Outcome outcome;
+        char piece[4096];
+        for (ssize_t got; (got = read(ends[0], piece, sizeof piece)) > 0;)
+            outcome.errors.append(piece, static_cast<std::size_t>(got));
+        close(ends[0]);
+        int status = 0;
+        waitpid(child, &status, 0);
+        outcome.code = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
+        return outcome;
+    }
+
+    const std::string settings = "ScreenWidth = 1280\nScreenHeight = 1024\n";
+    const fs::path folder = fs::temp_directory_path() / fs::unique_path("kov-faults-%%%%%%%%");
+
+private:
+    static void leaveRoot() {
+        if (geteuid() != 0) return;
+        for (const fs::directory_entry& entry : fs::recursive_directory_iterator("."))
+            if (lchown(entry.path().c_str(), nobody, nobody) != 0) std::exit(stopped_early);
+        if (chown(".", nobody, nobody) != 0 || setuid(nobody) != 0) std::exit(stopped_early);
+        prctl(PR_SET_DUMPABLE, 1); // else the leak check can't look into this process
+    }
+};
+
+enum Harm { missing, empty, other_kind, unreadable, garbage, harm_count };
+const char* const harm_names[] = {"missing", "empty", "a folder or file in its place", "unreadable",
+                                  "garbage"};
+
+std::string noise() {
+    std::string bytes;
+    std::uint32_t state = 2463534242U; // xorshift, Marsaglia 2003
+    for (int i = 0; i < 4096; ++i) {
+        state ^= state << 13U;
+        state ^= state >> 17U;
+        state ^= state << 5U;
+        const char byte = static_cast<char>(state);
+        bytes += byte == ',' ? '.' : byte; // no line of it counts
+    }
+    return bytes;
+}
+
+void spoil(const fs::path& path, Harm harm) {
+    const bool isFolder = fs::is_directory(path);
+    if (harm == unreadable) return fs::permissions(path, fs::no_perms);
+    fs::remove_all(path);
+    if (harm == missing) return;
+    const bool wantsFolder = isFolder ? harm == empty : harm == other_kind;
+    if (wantsFolder)
+        fs::create_directory(path);
+    else
+        std::ofstream(path.string(), std::ios::binary) << (harm == garbage ? noise() : "");
+}
+
+/// What is harmed, all of it at once, and the lines of each harm.
+struct Row {
+    std::vector<const char*> paths;
+    std::string lines[harm_count];
+};
+
+/// Resources are loaded at the start, and again when the video restarts.
+std::string twice(const std::string& line) {
+    return line + line;
+}
+
+std::string told(FMOD_RESULT result) {
+    return "FMOD error!" + std::to_string(result) + FMOD_ErrorString(result) + "\n";
+}
+
+std::string unreadSounds(FMOD_RESULT result) {
+    std::string lines;
+    for (const char* sound :
+         {"alive", "bullet", "death", "hit", "square", "clear", "immune", "Power up", "Bad", "Bad"})
+        lines += told(result) + "Can't read " + sound + " sound\n";
+    return lines;
+}
+
+std::string unreadSong(FMOD_RESULT result) {
+    return told(result) + told(FMOD_ERR_INVALID_PARAM);
+}
+
+} // namespace
+
+TEST_F(Faults, WithAllInPlaceNothingIsSaidAndAllIsKept) {
+    const Outcome outcome = play();
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(contentsOf("game.conf").substr(0, 50),
+              "#Config file for: KOV. v.1.0\nScreenWidth = 1280\nSc");
+    EXPECT_EQ(contentsOf("s.dat"), std::string("\x10\x27\0\0", 4)) << "10000 is not beaten";
+    fill("s.dat", "");
+    EXPECT_EQ(play().code, 0);
+    EXPECT_EQ(contentsOf("s.dat"), std::string("\xe1\x10\0\0", 4));
+}
+
+TEST_F(Faults, AFileThatIsNotWhatItShouldBeIsToldOfOnceAndTheGameGoesOn) {
+    const FMOD_RESULT notFound = FMOD_ERR_FILE_NOTFOUND, badFormat = FMOD_ERR_FORMAT;
+    const std::string colours = twice("Can't readColour file: data/Colour.kov\n");
+    const std::string points = twice("Can't readPoint file: data/Point.kov\n");
+    const std::string fonts = twice("Can't readFont file: data/Font.kov\n");
+    const std::string keys = "Can't read bind1.conf\n";
+    const std::string songs = "Song directory is missing\n";
+    const Row rows[] = {
+        {{"data/Colour.kov"}, {colours, "", colours, colours, ""}},
+        {{"data/Point.kov"}, {points, "", points, points, ""}},
+        {{"data/Font.kov"}, {fonts, "", fonts, fonts, ""}},
+        {{"data/kov.ico"}, {}},
+        {{"game.conf"}, {}},
+        {{"s.dat"}, {}},
+        {{"bind1.conf"}, {keys, "", keys, keys, ""}},
+        {{"Songs"}, {songs, "", songs, songs, songs}},
+        {{"Songs/a.ogg"},
+         {"", unreadSong(badFormat), "", unreadSong(notFound), unreadSong(badFormat)}},
+        {{"Sounds/alive.wav", "Sounds/bullet.wav", "Sounds/death.wav", "Sounds/hit.wav",
+          "Sounds/square.wav", "Sounds/Clear.wav", "Sounds/Immune.wav", "Sounds/Pup.wav",
+          "Sounds/Bad.wav", "Sounds/Pause.wav"},
+         {unreadSounds(notFound), unreadSounds(badFormat), unreadSounds(notFound),
+          unreadSounds(notFound), unreadSounds(badFormat)}},
+        {{"Sounds"},
+         {unreadSounds(notFound), unreadSounds(notFound), unreadSounds(notFound),
+          unreadSounds(notFound), unreadSounds(notFound)}},
+    };
+    for (const Row& row : rows) {
+        for (int harm = missing; harm < harm_count; ++harm) {
+            SCOPED_TRACE(std::string(row.paths[0]) + ": " + harm_names[harm]);
+            for (const char* path : row.paths)
+                spoil(path, static_cast<Harm>(harm));
+            const Outcome outcome = play();
+            EXPECT_EQ(outcome.errors, row.lines[harm]);
+            EXPECT_EQ(outcome.code, 0);
+            TearDown();
+            SetUp();
+        }
+    }
+}
+
+TEST_F(Faults, AFontThatCannotBeReadIsToldOfAtEachLoad) {
+    const std::string family = "DejaVuSansCondensed.ttf", fallback = "VeraMono.ttf";
+    fill("data/Font.kov", "Menu Font,-," + family + ",Polygon\n");
+    for (const std::string& font : {family, fallback}) {
+        for (const Harm harm : {missing, empty, other_kind, unreadable, garbage}) {
+            SCOPED_TRACE(font + ": " + harm_names[harm]);
+            const fs::path path = folder / "fonts" / font;
+            fs::rename(path, folder / "kept");
+            fs::copy_file(folder / "kept", path);
+            spoil(path, harm);
+            const Outcome outcome = play();
+            // The fallback is loaded once; what the file names, again when the video restarts.
+            const std::string line = "Couldn't load font: fonts/" + font + "\n";
+            EXPECT_EQ(outcome.errors, font == fallback ? line : line + line);
+            EXPECT_EQ(outcome.code, 0);
+            fs::remove_all(path);
+            fs::rename(folder / "kept", path);
+        }
+    }
+}
+
+TEST_F(Faults, WhatCannotBeWrittenIsPassedOverAndLosesNothing) {
+    const auto fullDisk = [](rlim_t room) {
+        return [room] {
+            std::signal(SIGXFSZ, SIG_IGN);
+            const rlimit limit = {room, room};
+            setrlimit(RLIMIT_FSIZE, &limit);
+        };
+    };
+    const std::string score = std::string("\1\0\0\0", 4);
+    fill("s.dat", score);
+    for (const rlim_t room : {0, 2, 60}) {
+        const Outcome outcome = play(fullDisk(room));
+        EXPECT_EQ(outcome.errors, "");
+        EXPECT_EQ(outcome.code, 0);
+        EXPECT_EQ(contentsOf("game.conf"), settings) << room << " bytes of room";
+        if (room < score.size()) {
+            EXPECT_EQ(contentsOf("s.dat"), score);
+        }
+    }
+    fs::remove("game.conf.bak");
+    // A folder, and files, that may only be read.
+    fill("s.dat", score);
+    for (const char* path : {"game.conf", "s.dat", "."})
+        fs::permissions(path, fs::owner_read | fs::owner_exe);
+    const Outcome outcome = play();
+    EXPECT_EQ(outcome.errors, "");
+    EXPECT_EQ(outcome.code, 0);
+    fs::permissions(".", fs::owner_all);
+    EXPECT_EQ(contentsOf("game.conf"), settings);
+    EXPECT_FALSE(fs::exists("game.conf.bak"));
+}
+
+TEST_F(Faults, AHighScoreFileOfAnyLengthIsRead) {
+    for (std::size_t length = 0; length <= 5; ++length) {
+        fill("s.dat", std::string("\xff\xff\xff\xff\xff").substr(0, length));
+        const Outcome outcome = play();
+        EXPECT_EQ(outcome.errors, "");
+        EXPECT_EQ(outcome.code, 0);
+        const bool beaten = length < 2; // by 4321
+        EXPECT_EQ(contentsOf("s.dat").substr(0, 2), beaten ? "\xe1\x10" : "\xff\xff") << length;
+    }
+}
+
+TEST_F(Faults, OfTheMachine) {
+    const std::string refused = "Couldn't set the video mode: no such mode\n";
+    const struct {
+        const char* what;
+        std::function<void()> prepare;
+        std::string errors;
+        int code;
+    } cases[] = {
+        {"no sound card", [] { setenv("ALSOFT_DRIVERS", "alsa", 1); }, "", 0},
+        {"no sound system", [] { setenv("ALSOFT_DRIVERS", "none", 1); }, "", 0},
+        {"a joystick that does not open", [] { sdl().joysticks = 1, sdl().refusedJoystick = 0; },
+         "No active joysticks found.\n", 0},
+        {"the mode is refused", [] { sdl().refusedModes = 1; }, refused, 0},
+        {"so is the other", [] { sdl().refusedModes = 2; }, refused + refused, 255},
+    };
+    for (const auto& c : cases) {
+        const Outcome outcome = play(c.prepare);
+        EXPECT_EQ(outcome.errors, c.errors) << c.what;
+        EXPECT_EQ(outcome.code, c.code) << c.what;
+    }
+}
+
+TEST_F(Faults, InAnEmptyFolderTheGamePlaysOn) {
+    for (const fs::directory_entry& entry : fs::directory_iterator("."))
+        fs::remove_all(entry.path());
+    const Outcome outcome = play();
+    EXPECT_EQ(outcome.code, 0);
+    for (const char* line :
+         {"Can't readColour file: data/Colour.kov\n", "Can't readFont file: data/Font.kov\n",
+          "Couldn't load font: fonts/VeraMono.ttf\n", "Can't read bind1.conf\n",
+          "Song directory is missing\n", "Can't read Power up sound\n"})
+        EXPECT_NE(outcome.errors.find(line), std::string::npos) << line;
+    EXPECT_EQ(contentsOf("s.dat").size(), 4U);
+}

@@ -1,0 +1,55 @@
+#!/bin/bash
+# The real window with something wrong: window_faults.sh GAME SOURCES. Starts the game on a
+# display of its own (Xvfb), asks it to end, and compares its exit code and its standard error.
+set -u
+game=$1 sources=$2
+folder=$(mktemp -d) failures=0
+Xvfb -displayfd 3 -screen 0 1024x768x24 -noreset 3>"$folder/display" 2>/dev/null &
+server=$!
+trap 'kill $server; rm -rf "$folder"' EXIT
+while [ ! -s "$folder/display" ]; do
+    kill -0 $server || exit 1
+    sleep 0.1
+done
+DISPLAY=:$(cat "$folder/display")
+export DISPLAY ALSOFT_DRIVERS=null ASAN_OPTIONS=detect_leaks=0 # GL drivers leak
+cp -r "$sources"/{data,fonts,Sounds} "$folder"
+mkdir "$folder/Songs"
+touch "$folder/said"
+
+# Without that file a line says that the game has its window and is about to turn.
+ready="Can't read bind1.conf"
+
+expect() { # what, exit code, standard error but for the line above, command...
+    local what=$1 code=$2 errors=$3 got got_code
+    shift 3
+    (cd "$folder" && exec "$@" >/dev/null 2>said) &
+    local pid=$!
+    while kill -0 $pid 2>/dev/null && ! grep -q "$ready" "$folder/said"; do sleep 0.05; done
+    kill -TERM $pid 2>/dev/null # as a closed window
+    wait $pid
+    got_code=$?
+    got=$(grep -v "$ready" "$folder/said")
+    : >"$folder/said"
+    [ "$got_code" = "$code" ] && [ "$got" = "$errors" ] && return
+    printf '%s: exit code %s, not %s; said:\n%s\n' "$what" "$got_code" "$code" "$got"
+    failures=$((failures + 1))
+}
+
+refused="Couldn't set the video mode:"
+no_gl="$refused OpenGL not available"
+expect "nothing wrong" 0 "" "$game"
+expect "mode too large" 0 "$refused No video mode large enough for 1920x1080" \
+    "$game" -f -w=1920 -l=1080
+expect "no display" 255 "$no_gl
+$no_gl" env -u DISPLAY SDL_VIDEODRIVER=dummy "$game"
+expect "no sound card" 0 "" env ALSOFT_DRIVERS=alsa "$game"
+
+icon=$folder/data/kov.ico
+rm "$icon" && expect "no icon" 0 "" "$game"
+touch "$icon" && expect "empty icon" 0 "" "$game"
+rm "$icon" && mkdir "$icon" && expect "a folder for an icon" 0 "" "$game"
+rmdir "$icon" && head -c 4000 "$game" >"$icon" && expect "no image for an icon" 0 "" "$game"
+head -c 300 "$sources/data/kov.ico" >"$icon" && expect "half an icon" 0 "" "$game"
+
+exit $failures
