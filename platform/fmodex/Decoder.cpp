@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <limits>
@@ -120,14 +121,22 @@ std::size_t Decoder::read(std::vector<std::int16_t>& samples, std::size_t frames
 }
 
 std::size_t Decoder::readFile(std::vector<std::int16_t>& samples, std::size_t frames) {
-    scratch.resize(frames * static_cast<std::size_t>(channelCount));
-    const sf_count_t got = sf_readf_float(file, scratch.data(), static_cast<sf_count_t>(frames));
-    const std::size_t count = got > 0 ? static_cast<std::size_t>(got) : 0;
-    const std::size_t right = channelCount == 2 ? 1 : 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        const float* const frame = &scratch[i * static_cast<std::size_t>(channelCount)];
-        samples.push_back(toSample(frame[0]));
-        samples.push_back(toSample(frame[right]));
+    std::array<float, 2048> piece; // small enough to stay where it is
+    const auto channels = static_cast<std::size_t>(channelCount);
+    const std::size_t right = channels - 1;
+    const std::size_t told = std::min<std::uint64_t>(frames, frameCount); // it may lie
+    samples.reserve(samples.size() + told * sides);
+    std::size_t count = 0, got = 1;
+    while (count < frames && got > 0) {
+        const std::size_t wanted = std::min(frames - count, piece.size() / channels);
+        const sf_count_t read = sf_readf_float(file, piece.data(), static_cast<sf_count_t>(wanted));
+        got = read > 0 ? static_cast<std::size_t>(read) : 0;
+        for (std::size_t i = 0; i < got; ++i) {
+            const float* const frame = &piece[i * channels];
+            samples.push_back(toSample(frame[0]));
+            samples.push_back(toSample(frame[right]));
+        }
+        count += got;
     }
     return count;
 }

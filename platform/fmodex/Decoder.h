@@ -47,7 +47,6 @@ private:
     int channelCount = 0; ///< in `file`
     int rate = 0;
     std::uint64_t frameCount = 0;
-    std::vector<float> scratch; ///< one piece
 };
 
 } // namespace platform::fmodex

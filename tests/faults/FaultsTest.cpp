@@ -257,7 +257,7 @@ TEST_F(Faults, AFileThatIsNotWhatItShouldBeIsToldOfOnceAndTheGameGoesOn) {
 }
 
 TEST_F(Faults, AFontThatCannotBeReadIsToldOfAtEachLoad) {
-    const std::string family = "DejaVuSansCondensed.ttf", fallback = "VeraMono.ttf";
+    const std::string family = "KovMenu.ttf", fallback = "VeraMono.ttf";
     fill("data/Font.kov", "Menu Font,-," + family + ",Polygon\n");
     for (const std::string& font : {family, fallback}) {
         for (const Harm harm : {missing, empty, other_kind, unreadable, garbage}) {
