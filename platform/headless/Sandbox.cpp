@@ -2,12 +2,14 @@
 
 #include "Framework/GameInfo.h"
 
+#include <unistd.h>
+
 namespace quorva::headless {
 
 namespace fs = boost::filesystem;
 
 Sandbox::Sandbox(const fs::path& source)
-    : folder(fs::temp_directory_path() / fs::unique_path("kov-sandbox-%%%%%%%%")) {
+    : maker(getpid()), folder(fs::temp_directory_path() / fs::unique_path("kov-sandbox-%%%%%%%%")) {
     fs::create_directories(folder);
     for (const char* name : {"data", "fonts", "textures", "Sounds"})
         fs::create_directory_symlink(fs::absolute(source) / name, folder / name);
@@ -20,6 +22,7 @@ Sandbox::Sandbox(const fs::path& source)
 }
 
 Sandbox::~Sandbox() {
+    if (getpid() != maker) return;
     fs::current_path("/");
     fs::remove_all(folder);
 }

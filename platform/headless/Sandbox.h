@@ -2,6 +2,8 @@
 
 #include <boost/filesystem.hpp>
 
+#include <sys/types.h>
+
 namespace quorva::headless {
 
 /// A folder to play in, made and entered: the game's read-only data linked in, no songs, no
@@ -10,10 +12,11 @@ class Sandbox {
 public:
     /// @param source the folder of the game's data
     explicit Sandbox(const boost::filesystem::path& source);
-    ~Sandbox(); ///< leaves and removes it
+    ~Sandbox(); ///< leaves and removes it, unless this is a fork of the process that made it
     Sandbox(const Sandbox&) = delete;
     Sandbox& operator=(const Sandbox&) = delete;
 
+    const pid_t maker;
     const boost::filesystem::path folder;
 };
 

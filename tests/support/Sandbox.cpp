@@ -2,17 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace {
 
 /// Every run of the tests works in a folder of its own.
 class SandboxEnvironment : public testing::Environment {
 public:
-    void SetUp() override { sandbox = new quorva::headless::Sandbox(KOV_SOURCE_DIR); }
-    void TearDown() override { delete sandbox; }
+    void SetUp() override { sandbox = std::make_unique<quorva::headless::Sandbox>(KOV_SOURCE_DIR); }
+    void TearDown() override { sandbox.reset(); }
 
 private:
-    /// Owned up to TearDown alone: a forked test that exits must not remove the folder.
-    quorva::headless::Sandbox* sandbox = nullptr;
+    std::unique_ptr<quorva::headless::Sandbox> sandbox;
 };
 
 const auto* const environment = testing::AddGlobalTestEnvironment(new SandboxEnvironment);
