@@ -148,14 +148,29 @@ TEST_F(EngineTest, SweepsComponentsByPositionWhileTheyComeAndGo) {
     EXPECT_EQ(run(&EngineClass::update),
               (Journal{"update changer", "changer - all", "update added"}));
 
+    engine.delComponent(&last);
+    engine.delComponent(&added);
     Service emptier("emptier", [&] {
         for (Component* c : {static_cast<Component*>(&last), static_cast<Component*>(&added),
                              static_cast<Component*>(&emptier)})
             engine.delComponent(c);
     });
-    engine.addComponent(&emptier);
-    run(&EngineClass::update);
+    for (Component* c : {static_cast<Component*>(&emptier), static_cast<Component*>(&last),
+                         static_cast<Component*>(&added)})
+        engine.addComponent(c);
+    EXPECT_EQ(run(&EngineClass::update),
+              (Journal{"update emptier", "last - all", "added - all", "emptier - all"}));
     EXPECT_TRUE(engine.components.empty());
+
+    std::vector<std::unique_ptr<Service>> crowd; // more than the list has room for
+    Service crowder("crowder", [&] {
+        for (int i = 0; i < 100; ++i) {
+            crowd.push_back(std::make_unique<Service>("late"));
+            engine.addComponent(crowd.back().get());
+        }
+    });
+    engine.addComponent(&crowder);
+    EXPECT_EQ(run(&EngineClass::update), (Journal{"update crowder"}));
 }
 
 TEST(MessageBus, DeliversInOrderOfSubscriptionOncePerSubscriber) {
