@@ -1,7 +1,5 @@
 #include "Framework/CounterManager.h"
-#include "Framework/Debug.h"
 #include "Framework/Timer.h"
-#include "platform/headless/GLRecorder.h"
 #include "platform/headless/VirtualSDL.h"
 
 #include <gtest/gtest.h>
@@ -28,15 +26,6 @@ TEST(TimeCounters, KeepTheLastSamplesAndTheirExtremes) {
     EXPECT_EQ(counter.elapsed, 12U);
 }
 
-TEST(TimeCounters, TheFirstSampleSetsTheMaximumAlone) {
-    TimeCounter counter(100);
-    counter.start();
-    headless::sdl().ticks += 5;
-    counter.end();
-    EXPECT_EQ(counter.maximum, 5U);
-    EXPECT_EQ(counter.minimum, 999999999U);
-}
-
 TEST(TimeCounters, AreKeptByNameAndUnknownOnesDoNoHarm) {
     CounterManagerClass manager;
     TimeCounter* const draw = manager.addNewCounter("draw");
@@ -51,18 +40,4 @@ TEST(TimeCounters, AreKeptByNameAndUnknownOnesDoNoHarm) {
     manager.end("other");
     EXPECT_EQ(manager.getElapsed("other"), 0U);
     EXPECT_TRUE(std::isnan(manager.getMean("other")));
-}
-
-TEST(DebugBar, IsATrackWithAKnobAndAnOutline) {
-    headless::glRecorder().start();
-    debug::drawBar(5, 0.5, 2);
-    headless::glRecorder().stop();
-    const auto corners = headless::glRecorder().callsTo("glVertex2f");
-    ASSERT_EQ(corners.size(), 12U);
-    EXPECT_EQ(corners[6].arguments[0], 0.5) << "the knob is as wide as the track is high";
-    EXPECT_EQ(corners[6].arguments[1], 1.5);
-    EXPECT_EQ(corners[8].arguments[0], -5.0);
-    EXPECT_EQ(headless::glRecorder().callsTo("glTranslatef")[0].arguments[0], 2.0);
-    const std::string text = headless::glRecorder().text();
-    EXPECT_EQ(text.substr(text.rfind("glEnable")), "glEnable 2929\nglPolygonMode 1032 6914\n");
 }

@@ -5,7 +5,6 @@
 #include "Framework/Graphics/Draw.h"
 #include "Framework/Graphics/DrawPrimitives.h"
 #include "Framework/Graphics/GraphicObject.h"
-#include "Framework/Graphics/Material.h"
 #include "Framework/Graphics/Renderer.h"
 #include "Framework/Graphics/Stuff/GAxesIndicator.h"
 #include "Framework/Graphics/Stuff/GBox.h"
@@ -177,19 +176,6 @@ TEST(Fonts, ReportWhatTheyCannotBe) {
               "Font Render Mode invalid in: Framework/Graphics/Font\n");
     for (const char* mode : {"Polygon", "Bitmap", "Pixmap", "Outline", "Texture"})
         EXPECT_EQ(getStringFromFontRenderMode(getFontRenderModeFromString(mode)), mode);
-}
-
-TEST(Layers, AreMadeUpToTheOneAskedFor) {
-    GraphicObject object;
-    object.createGraphic<GLine>(3);
-    EXPECT_EQ(object.things.size(), 4U);
-    EXPECT_EQ(object.things[3]->graphics.size(), 1U);
-    object.createGraphic<GLine>(0);
-    object.createGraphic<GBox>(0);
-    EXPECT_EQ(object.things[0]->graphics.size(), 2U);
-    object.things[0]->addGraphic(nullptr);
-    EXPECT_EQ(object.getBaseLayer()->graphics.size(), 2U);
-    EXPECT_EQ(object.createNewLayer(), 4U);
 }
 
 TEST(Layers, DrawWhatIsActivePlacedAndFlatInMenus) {
@@ -389,14 +375,4 @@ TEST(Primitives, AreCirclesOfTheGamesOwnFullTurn) {
         figures::filledCylinder(0, 0, 0, 1, 2, 3);
     });
     EXPECT_EQ(glRecorder().callsTo("glVertex3f").size(), 6U + 3U + 12U);
-}
-
-TEST(Materials, SendTheirColoursOrTheDefaults) {
-    Material material;
-    material.diffuse = &colours::red; // its flag is not set
-    material.specular = &colours::green;
-    material.hasSpecular = material.hasEmissive = true;
-    EXPECT_EQ(recordingOf([&] { useMaterial(&material); }),
-              "glMaterialfv 1032 4608 0.2 0.2 0.2 1\nglMaterialfv 1032 4610 0 1 0 1\n"
-              "glMaterialfv 1032 4609 0.8 0.8 0.8 1\nglMaterialfv 1032 5632 0 0 0 1\n");
 }

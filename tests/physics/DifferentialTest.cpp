@@ -1,7 +1,7 @@
 // The physics must come to the same as its plain loops, to the last bit, on whatever field.
 
+#include "bench/support/PlainPhysics.h"
 #include "tests/support/FieldTest.h"
-#include "tests/support/PlainPhysics.h"
 
 #include "game/PupLine.h"
 
