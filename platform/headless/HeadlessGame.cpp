@@ -40,7 +40,8 @@ void introduceGame() {
 
 } // namespace
 
-HeadlessGame::HeadlessGame(std::uint32_t startTicks, unsigned short width, unsigned short height) {
+HeadlessGame::HeadlessGame(std::uint32_t startTicks, unsigned short width, unsigned short height)
+    : engine(Engine::Instance()) {
     sdl().ticks = startTicks;
     sdl().events.clear();
     introduceGame();
@@ -59,7 +60,6 @@ HeadlessGame::HeadlessGame(std::uint32_t startTicks, unsigned short width, unsig
 }
 
 HeadlessGame::~HeadlessGame() {
-    EngineClass& engine = Engine::Instance();
     for (const auto& [id, entity] : engine.entities)
         entity->dead = true;
     while (!engine.entities.empty()) {
@@ -70,14 +70,14 @@ HeadlessGame::~HeadlessGame() {
 }
 
 void HeadlessGame::frame() {
-    Engine::Instance().update();
+    engine.update();
 }
 
 void HeadlessGame::process() {
     TimerClass& timer = Timer::Instance();
     sdl().ticks += timer.getProcessRate();
     if (timer.paused) return;
-    Engine::Instance().process();
+    engine.process();
     timer.calculateLastBlip();
 }
 

@@ -5,6 +5,10 @@
 
 class GameBase;
 
+namespace quorva {
+class EngineClass;
+}
+
 namespace quorva::headless {
 
 /// The real game on virtual time, without window, wall clock or sound card. One at a time; the
@@ -40,6 +44,7 @@ public:
     std::uint32_t stateHash() const;
 
 private:
+    EngineClass& engine; ///< not owned
     std::unique_ptr<GameBase> base;
 };
 

@@ -128,7 +128,7 @@ std::string replay(const Recording& recording) {
         for (; key != recording.keys.end() && key->tick == tick; ++key)
             run.key(key->symbol, key->down);
         run.tick();
-        const std::string difference = recording.compare(tick, stateParts(run.game()));
+        std::string difference = recording.compare(tick, stateParts(run.game()));
         if (!difference.empty()) return difference;
     }
     return {};
