@@ -109,7 +109,7 @@ def make(style, folder):
             "version": "Version 1.0",
         }
     )
-    builder.setupOS2(sTypoAscender=ascent, sTypoDescender=-descent, usWinAscent=ascent,
+    builder.setupOS2(fsType=0, sTypoAscender=ascent, sTypoDescender=-descent, usWinAscent=ascent,
                      usWinDescent=descent)
     builder.setupPost()
     builder.font["head"].created = builder.font["head"].modified = EPOCH
