@@ -25,19 +25,3 @@ TEST(TimeCounters, KeepTheLastSamplesAndTheirExtremes) {
     counter.end(); // from the last start
     EXPECT_EQ(counter.elapsed, 12U);
 }
-
-TEST(TimeCounters, AreKeptByNameAndUnknownOnesDoNoHarm) {
-    CounterManagerClass manager;
-    TimeCounter* const draw = manager.addNewCounter("draw");
-    EXPECT_EQ(manager.addNewCounter("draw"), draw);
-    EXPECT_EQ(draw->sampleLimit, 100);
-    manager.start("draw");
-    headless::sdl().ticks += 4;
-    manager.end("draw");
-    EXPECT_EQ(manager.getElapsed("draw"), 4U);
-    EXPECT_EQ(manager.getMean("draw"), 4.0);
-    manager.start("other");
-    manager.end("other");
-    EXPECT_EQ(manager.getElapsed("other"), 0U);
-    EXPECT_TRUE(std::isnan(manager.getMean("other")));
-}

@@ -52,17 +52,6 @@ TEST(WholeGame, RunsFromTheMenuToGameOverAndIntoASecondGame) {
     }
 }
 
-TEST(WholeGame, EscapeLeadsToTheMenuWithoutAVerdict) {
-    HeadlessGame run;
-    run.startLevel();
-    run.ticks(100);
-    run.press(SDLK_ESCAPE);
-    run.frame();
-    EXPECT_EQ(run.game().level, nullptr);
-    EXPECT_TRUE(run.game().mainMenu->shown);
-    EXPECT_EQ(run.game().mainMenu->gameOverScreen, nullptr);
-}
-
 TEST(WholeGame, EscapeInThePassOfTheLastDeathDoesNotEndTheNextGame) {
     HeadlessGame run(77);
     run.startLevel();

@@ -17,6 +17,7 @@
 #include <cstring>
 #include <fstream>
 #include <functional>
+#include <random>
 
 int gameMain(int argc, char* argv[]); // main of the game
 
@@ -151,12 +152,9 @@ const char* const harm_names[] = {"missing", "empty", "a folder or file in its p
 
 std::string noise() {
     std::string bytes;
-    std::uint32_t state = 2463534242U; // xorshift, Marsaglia 2003
+    std::mt19937 random;
     for (int i = 0; i < 4096; ++i) {
-        state ^= state << 13U;
-        state ^= state >> 17U;
-        state ^= state << 5U;
-        const char byte = static_cast<char>(state);
+        const char byte = static_cast<char>(random());
         bytes += byte == ',' ? '.' : byte; // no line of it counts
     }
     return bytes;

@@ -197,15 +197,6 @@ TEST_F(ActorsTest, ALineWhoseBulletEndsAfterTheTickKillsItOutright) {
     EXPECT_TRUE(line->finished);
 }
 
-TEST_F(ActorsTest, LinesFadeInThirteenTicksWhenThePlayerDies) {
-    TrapLine* const line = across(5, -20, 20);
-    publish(PlayerDead());
-    int ticks = 0;
-    for (; !line->fakeDone && ticks < 100; ++ticks)
-        line->process();
-    EXPECT_EQ(ticks, 13);
-}
-
 TEST_F(ActorsTest, ABulletEndsAQuarterUnitPastTheEdge) {
     for (const double x : {20.25, 20.2500001}) {
         Bullet bullet(math::Point(x, 0, 0), math::Vector());

@@ -55,22 +55,6 @@ protected:
 
 } // namespace
 
-TEST_F(AudioTest, LoadsTheEffectsInOrderAndReportsWhatIsMissing) {
-    sound().unreadable = {"Sounds/death.wav", "Sounds/Pause.wav"};
-    listen();
-    std::string errors;
-    {
-        errors = errorsOf([] { FModMP3Input audio; });
-    }
-    EXPECT_EQ(errors, "FMOD error!23recorded failure\nCan't read death sound\n"
-                      "FMOD error!23recorded failure\nCan't read Bad sound\n");
-    EXPECT_EQ(sound().take(), "load Sounds/alive.wav 16713; load Sounds/bullet.wav 16713; "
-                              "load Sounds/death.wav 16713; load Sounds/hit.wav 16713; "
-                              "load Sounds/square.wav 16713; load Sounds/Clear.wav 16713; "
-                              "load Sounds/Immune.wav 16713; load Sounds/Pup.wav 16713; "
-                              "load Sounds/Bad.wav 16713; load Sounds/Pause.wav 16713; ");
-}
-
 TEST_F(AudioTest, PlaysAnEffectForEachMessageAndSetsTheVolumeInEveryCase) {
     sound().unreadable = {"Sounds/Pup.wav"};
     testing::internal::CaptureStderr();

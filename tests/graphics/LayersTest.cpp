@@ -2,17 +2,10 @@
 
 #include "Framework/Config.h"
 #include "Framework/Graphics/Camera.h"
-#include "Framework/Graphics/Draw.h"
-#include "Framework/Graphics/DrawPrimitives.h"
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Renderer.h"
-#include "Framework/Graphics/Stuff/GAxesIndicator.h"
-#include "Framework/Graphics/Stuff/GBox.h"
 #include "Framework/Graphics/Stuff/GCircle.h"
-#include "Framework/Graphics/Stuff/GCube.h"
-#include "Framework/Graphics/Stuff/GGrid.h"
 #include "Framework/Graphics/Stuff/GLine.h"
-#include "Framework/Graphics/Stuff/GLinedCube.h"
 #include "Framework/Graphics/Stuff/GOutlinedCircle.h"
 #include "Framework/Graphics/Stuff/GSlideBar.h"
 #include "Framework/Graphics/Stuff/GTransparentBox.h"
@@ -79,12 +72,9 @@ TEST(Shapes, DrawTheirFigures) {
     const std::string head = "glTranslatef 0 0 0\n" + no_turn + "glScalef 1 1 1\n";
     const std::string quad = "glBegin 7\nglVertex2f -1 -2\nglVertex2f 3 -2\nglVertex2f 3 4\n"
                              "glVertex2f -1 4\nglEnd\n";
-    GBox box;
+    GTransparentBox box;
     box.box = primitives::Box(4, -2, -1, 3);
-    EXPECT_EQ(recordingOf([&] { box.render(); }), head + quad);
-    GTransparentBox transparent;
-    transparent.box = box.box;
-    EXPECT_EQ(recordingOf([&] { transparent.render(); }),
+    EXPECT_EQ(recordingOf([&] { box.render(); }),
               head + "glDisable 2929\n" + quad + "glEnable 2929\n");
 
     GTriangle triangle;
@@ -98,16 +88,6 @@ TEST(Shapes, DrawTheirFigures) {
               head + "glLineWidth 1\nglBegin 3\nglVertex3f 0 0 0\nglVertex3f 0 1 0\n"
                      "glVertex3f 0 0 0\nglEnd\n");
 
-    GCube cube;
-    cube.sizeX = cube.sizeY = cube.sizeZ = 2;
-    EXPECT_EQ(callsOf(cube, "glVertex3f"), 24U);
-    math::Vector sum;
-    for (const auto& call : glRecorder().callsTo("glVertex3f"))
-        sum += math::Vector(call.arguments[0], call.arguments[1], call.arguments[2]);
-    EXPECT_EQ(sum, math::zero_vector) << "each corner is balanced by the one across";
-    GLinedCube lined;
-    EXPECT_EQ(callsOf(lined, "glPolygonMode"), 2U);
-
     float value = 0.5F;
     GSlideBar bar;
     bar.halfWidth = 2;
@@ -117,10 +97,6 @@ TEST(Shapes, DrawTheirFigures) {
         recordingOf([&] { bar.render(); });
         EXPECT_EQ(glRecorder().callsTo("glTranslatef").back().arguments[0], 4 * (knob - 0.5));
     }
-    GGrid grid;
-    EXPECT_EQ(callsOf(grid, "glVertex2f"), 8U) << "two lines each way";
-    GAxesIndicator axes;
-    EXPECT_EQ(callsOf(axes, "glColor4fv"), 3U);
 }
 
 TEST(Shapes, CirclesRestoreTheDepthTestEvenWithoutAPoint) {
@@ -161,21 +137,6 @@ TEST(Words, AlignByTheTextLastSet) {
     word.setWord("text");
     EXPECT_EQ(word.bounds.right, 0.0);
     EXPECT_EQ(callsOf(word, "glBegin"), 0U) << "a font that failed draws nothing";
-}
-
-TEST(Fonts, ReportWhatTheyCannotBe) {
-    testing::internal::CaptureStderr();
-    Font missing(FR_POLYGON);
-    missing.loadFont("fonts/none.ttf");
-    EXPECT_FALSE(missing.loaded);
-    EXPECT_EQ(getFontRenderModeFromString("polygon"), FR_POLYGON);
-    EXPECT_EQ(getStringFromFontRenderMode(static_cast<FontRenderModeE>(9)), "Polygon");
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "Couldn't load font: fonts/none.ttf\n"
-              "String Font Render Mode invalid in: Framework/Graphics/Font\n"
-              "Font Render Mode invalid in: Framework/Graphics/Font\n");
-    for (const char* mode : {"Polygon", "Bitmap", "Pixmap", "Outline", "Texture"})
-        EXPECT_EQ(getStringFromFontRenderMode(getFontRenderModeFromString(mode)), mode);
 }
 
 TEST(Layers, DrawWhatIsActivePlacedAndFlatInMenus) {
@@ -322,57 +283,4 @@ TEST(Camera, MovesAndComesBackFromTheMenu) {
     EXPECT_EQ(glRecorder().callsTo("glFrustum").size(), 1U);
     EXPECT_EQ(camera.position, math::Point(1, 0, -125));
     EXPECT_EQ(camera.rotation.z, 4.5);
-    camera.setupFrustum();
-    math::Point inside(0.5, 0.5, 0), outside(2, 0, 0);
-    EXPECT_TRUE(camera.objectInFrustum(inside, 0.1F));
-    EXPECT_FALSE(camera.objectInFrustum(outside, 0.1F));
-}
-
-TEST(Draw, MapsShapesAndKeepsBlendModes) {
-    EXPECT_EQ(getGLShape(SHAPE_QUADS), 7U);
-    EXPECT_EQ(getGLShape(SHAPE_QUAD_STRIP), 4U) << "taken as triangles";
-    EXPECT_EQ(getGLShape(SHAPE_POINTS), 0x1b00U);
-    EXPECT_EQ(getGLShape(SHAPE_NONE), 11U);
-    draw::setBlendMode(BLEND_STANDARD);
-    draw::saveBlendMode();
-    EXPECT_EQ(recordingOf([] {
-                  draw::setBlendMode(static_cast<BlendModeEnum>(1));
-                  draw::restoreBlendMode();
-              }),
-              "");
-    EXPECT_EQ(draw::i_fun.currentBlendMode, BLEND_STANDARD);
-    EXPECT_EQ(recordingOf([] {
-                  draw::setColour(static_cast<unsigned char>(255), static_cast<unsigned char>(0),
-                                  static_cast<unsigned char>(51), static_cast<unsigned char>(255));
-              }),
-              "glColor4f 1 0 0.2 1\n");
-    draw::renderSmooth();
-    EXPECT_TRUE(draw::isSmoothLines() && !draw::isSmoothShapes() && draw::isSmoothShading());
-    draw::setOutlineMode();
-    EXPECT_TRUE(draw::isOutLineMode());
-    draw::unsetOutlineMode();
-    EXPECT_FALSE(draw::isOutLineMode());
-}
-
-TEST(Primitives, AreCirclesOfTheGamesOwnFullTurn) {
-    namespace figures = draw::primitives;
-    EXPECT_EQ(recordingOf([] { figures::circle(2, 0); }),
-              "glDisable 2929\nglBegin 2\nglEnd\nglEnable 2929\n");
-    recordingOf([] { figures::filledCircle(colours::red, 1, 2, 3, 2, 4); });
-    const auto points = glRecorder().callsTo("glVertex3f");
-    ASSERT_EQ(points.size(), 4U);
-    EXPECT_EQ(points[0].arguments[0], 3.0);
-    EXPECT_NEAR(points[1].arguments[1], 4.0, 1e-6);
-    EXPECT_EQ(points[2].arguments[2], 3.0);
-    EXPECT_EQ(glRecorder().callsTo("glColor4fv").size(), 1U);
-    recordingOf([] { figures::outlinedCircle(colours::red, colours::blue, 1, 6); });
-    EXPECT_EQ(glRecorder().callsTo("glVertex3f").size(), 12U);
-    recordingOf([] { figures::filledDonut(1, 2, 5); });
-    EXPECT_EQ(glRecorder().callsTo("glVertex2f").size(), 20U);
-    recordingOf([] {
-        figures::circleSpokes(0, 0, 0, 1, 3);
-        figures::Circle3D(0, 0, 0, 1, 3);
-        figures::filledCylinder(0, 0, 0, 1, 2, 3);
-    });
-    EXPECT_EQ(glRecorder().callsTo("glVertex3f").size(), 6U + 3U + 12U);
 }

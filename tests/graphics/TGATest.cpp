@@ -118,21 +118,13 @@ TEST_F(TGATest, RefusesWithACode) {
         {"exactly long enough", [](Header&) {}, 12, 1},
         {"a byte short", [](Header&) {}, 11, 8},
         {"with an identification", [](Header& h) { h.idLength = 1; }, 12, 8},
-        {"grey", [](Header& h) { h.type = 3; }, 12, 64},
         {"unknown type", [](Header& h) { h.type = 12; }, 12, 64},
-        {"map type 2", [](Header& h) { h.mapType = 2; }, 12, 64},
         {"a map of 255",
          [](Header& h) {
              h = mappedHeader(1);
              h.mapLength = 255;
          },
          800, 64},
-        {"true colour with a map",
-         [](Header& h) {
-             h = mappedHeader(2);
-             h.bits = 24;
-         },
-         800, 8},
         {"mapped without a map", [](Header& h) { h.type = 9; }, 12, 8},
         {"origin as large as the width", [](Header& h) { h.x = 2; }, 12, 8},
         {"no height", [](Header& h) { h.height = 0; }, 12, 8},
@@ -166,7 +158,6 @@ TEST_F(TGATest, TexturesTakeTheirFileFromLinesOfTwoFields) {
         std::size_t uploads;
     } cases[] = {{"Stone, default.tga ", true, "Stone", 1, 1},
                  {"Stone,none.tga", true, "Stone", 1, 0},
-                 {"Stone,default.tga,1", true, "Stone", 0, 0},
                  {"Stone", false, "", 0, 0},
                  {"a,b,c,d,e", false, "", 0, 0}};
     for (const auto& c : cases) {
@@ -180,24 +171,4 @@ TEST_F(TGATest, TexturesTakeTheirFileFromLinesOfTwoFields) {
         EXPECT_EQ(gl.callsTo("glTexImage2D").size(), c.uploads) << c.line;
         EXPECT_EQ(texture.name != 0, c.uploads == 1) << c.line;
     }
-}
-
-TEST(MaterialLines, NameColoursByKey) {
-    quorva::graphics::Material material;
-    const struct {
-        const char* line;
-        bool taken;
-    } cases[] = {{" MAT_DIFFUSE : Player Colour ", true},
-                 {"MAT_SHININESS:2.5", true},
-                 {"MAT_OTHER:1", true},
-                 {"MAT_AMBIENT", false},
-                 {"MAT_AMBIENT:a:b", false},
-                 {"", false}};
-    for (const auto& c : cases) {
-        std::string line = c.line;
-        EXPECT_EQ(parseSubLine(line, material), c.taken) << c.line;
-    }
-    EXPECT_TRUE(material.hasDiffuse && material.diffuse != nullptr);
-    EXPECT_FALSE(material.hasAmbient || material.hasSpecular || material.hasEmissive);
-    EXPECT_EQ(material.shininess, 2.5F);
 }

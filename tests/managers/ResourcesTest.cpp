@@ -80,25 +80,6 @@ TEST_F(ResourcesTest, ReportsAMissingFileAndStaysOfUse) {
     resources::ResourceManagerManager::Instance().removeResourceManager(&manager);
 }
 
-TEST_F(ResourcesTest, TheirManagerKnowsEachOnce) {
-    resources::ResourceManagerManagerClass all;
-    EXPECT_EQ(all.getName(), "ResourceManagerManger");
-    ResourceManager<Colour, true> one, two;
-    for (auto* manager : {&two, &one, &two, &one})
-        all.addResourceManager(manager);
-    all.addResourceManager(nullptr);
-    EXPECT_EQ(all.managers.size(), 2U);
-    all.load("level");
-    EXPECT_EQ(green(one, "New") + green(two, "New"), 2.0F);
-    all.close("level");
-    all.removeResourceManager(&one);
-    all.removeResourceManager(&one);
-    all.removeResourceManager(nullptr);
-    EXPECT_EQ(all.managers.size(), 1U);
-    for (auto* manager : {&one, &two})
-        resources::ResourceManagerManager::Instance().removeResourceManager(manager);
-}
-
 TEST(ResourceLines, OfColours) {
     const struct {
         const char* line;

@@ -185,17 +185,3 @@ TEST_F(CollisionTest, TheLastDeathEndsTheLevelInTheNextPassAndOnlyOnce) {
     physics->update();
     EXPECT_EQ(ends.count, 1);
 }
-
-TEST_F(CollisionTest, RunsWhatAControllerAsksFor) {
-    Triangle* const triangle = layAt(5, 5);
-    body(triangle).velocity = math::Vector(1, 1, 0);
-    body(triangle).booleanResult = true;
-    messages::PhysicsController message;
-    message.resetVelocities = message.enable = message.runTests = true;
-    publish(message);
-    EXPECT_EQ(body(triangle).velocity, math::zero_vector);
-    EXPECT_FALSE(body(triangle).booleanResult);
-    EXPECT_TRUE(physics->enabled);
-    physics->doGravity();
-    EXPECT_DOUBLE_EQ(body(triangle).velocity.y, -6.0 / 30.0);
-}

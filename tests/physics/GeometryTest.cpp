@@ -62,25 +62,3 @@ TEST(LinesInterect, MeetsEdgesAsTheGameAlwaysHas) {
     for (const auto& c : cases)
         EXPECT_EQ(LinesInterect(c.a1, c.a2, c.b1, c.b2), c.meets) << c.what;
 }
-
-TEST(Barycentric, AddsUpToOneInWhicheverPlaneTheTriangleLies) {
-    const Point corners[][3] = {{at(0, 0), at(2, 0), at(0, 2)},
-                                {{0, 0, 0}, {0, 2, 0}, {0, 0, 2}},
-                                {{0, 0, 0}, {0, 0, 2}, {2, 0, 0}}};
-    for (const auto& c : corners) {
-        const Point middle = c[0] + (c[1] - c[0]) * 0.25 + (c[2] - c[0]) * 0.5;
-        double u, v, w;
-        Barycentric(c[0], c[1], c[2], middle, u, v, w);
-        EXPECT_DOUBLE_EQ(u, 0.25);
-        EXPECT_DOUBLE_EQ(v, 0.25);
-        EXPECT_DOUBLE_EQ(w, 0.5);
-    }
-}
-
-TEST(CollisionCorrection, TakesTheMinorAxisUnlessNothingLiesAlongIt) {
-    Vector work;
-    EXPECT_EQ(getCollisionCorrectionVector({3, 1, 0}, {5, 7, 0}, work), Vector(0, 7, 0));
-    EXPECT_EQ(getCollisionCorrectionVector({1, 3, 0}, {5, 7, 0}, work), Vector(5, 0, 0));
-    EXPECT_EQ(getCollisionCorrectionVector({3, 1, 0}, {5, 0, 0}, work), Vector(5, 0, 0));
-    EXPECT_EQ(work, Vector(3, 0, 0));
-}
