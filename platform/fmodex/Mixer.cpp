@@ -23,9 +23,9 @@ Function loopbackFunction(const char* name) {
     return reinterpret_cast<Function>(alcGetProcAddress(nullptr, name));
 }
 
-void submit(ALuint buffer, const Decoder& decoder, const std::vector<std::int16_t>& samples) {
+void submit(ALuint buffer, int sampleRate, const std::vector<std::int16_t>& samples) {
     alBufferData(buffer, AL_FORMAT_STEREO16, samples.data(),
-                 static_cast<ALsizei>(samples.size() * sizeof samples[0]), decoder.sampleRate());
+                 static_cast<ALsizei>(samples.size() * sizeof samples[0]), sampleRate);
 }
 
 /// Keeps what the libraries below say of a missing card off the player's terminal, unless their
@@ -79,6 +79,7 @@ void useLoopback() {
 }
 
 void render(FMOD_SYSTEM* system, std::int16_t* samples, int frames) {
+    system->awaitOutput();
     loopbackFunction<LPALCRENDERSAMPLESSOFT>("alcRenderSamplesSOFT")(system->device, samples,
                                                                      frames);
 }
@@ -101,20 +102,32 @@ FMOD_RESULT FMOD_SYSTEM::start(int maxChannels) {
     channels.resize(static_cast<std::size_t>(maxChannels));
     device = openDevice();
     if (device == nullptr) return FMOD_OK; // silent
-    context = openContext(device, maxChannels);
-    if (context == nullptr || alcMakeContextCurrent(context) == ALC_FALSE) {
-        context = nullptr;
-        return FMOD_OK;
-    }
-    for (Channel& channel : channels) {
-        alGenSources(1, &channel.source);
-        alSourcei(channel.source, AL_DIRECT_CHANNELS_SOFT, AL_TRUE); // left is left, unmixed
-    }
+    // Where no thread is to be had, by who needs it first.
+    opening =
+        std::async(std::launch::async | std::launch::deferred, openContext, device, maxChannels);
     std::atexit(closeOutput); // else the library complains of a device left open
     return FMOD_OK;
 }
 
+void FMOD_SYSTEM::awaitOutput() {
+    if (!opening.valid()) return;
+    context = opening.get();
+    if (context != nullptr && alcMakeContextCurrent(context) == ALC_FALSE) {
+        alcDestroyContext(context);
+        context = nullptr;
+    }
+    for (Channel& channel : channels) {
+        if (context == nullptr) break;
+        alGenSources(1, &channel.source);
+        alSourcei(channel.source, AL_DIRECT_CHANNELS_SOFT, AL_TRUE); // left is left, unmixed
+    }
+    for (FMOD_SOUND* effect : early)
+        submitSamples(*effect);
+    early.clear();
+}
+
 void FMOD_SYSTEM::close() {
+    awaitOutput();
     alcMakeContextCurrent(nullptr);
     alcDestroyContext(context);
     alcCloseDevice(device);
@@ -134,13 +147,23 @@ FMOD_RESULT FMOD_SYSTEM::load(const char* path, FMOD_SOUND** result) {
 
     auto sound = std::make_unique<FMOD_SOUND>();
     sound->length = decoder.lengthMs();
-    if (!isSilent()) {
-        alGenBuffers(1, &sound->buffer);
-        submit(sound->buffer, decoder, samples);
-        if (alGetError() != AL_NO_ERROR) return FMOD_ERR_MEMORY;
-    }
+    sound->samples = std::move(samples);
+    sound->sampleRate = decoder.sampleRate();
+    if (opening.valid())
+        early.push_back(sound.get());
+    else
+        submitSamples(*sound);
     *result = sound.release();
     return FMOD_OK;
+}
+
+/// Without room for them the effect stays silent.
+void FMOD_SYSTEM::submitSamples(FMOD_SOUND& effect) {
+    if (!isSilent()) {
+        alGenBuffers(1, &effect.buffer);
+        submit(effect.buffer, effect.sampleRate, effect.samples);
+    }
+    effect.samples = {};
 }
 
 FMOD_RESULT FMOD_SYSTEM::open(const char* path, FMOD_SOUND** result) {
@@ -170,7 +193,7 @@ FMOD_CHANNEL* FMOD_SYSTEM::handleOf(const Channel& channel) const {
                                            (index + 1));
 }
 
-bool FMOD_SYSTEM::hasEnded(const Channel& channel) const {
+bool FMOD_SYSTEM::hasEnded(const Channel& channel) {
     if (channel.paused || isSilent()) return false;
     ALint state = AL_STOPPED;
     alGetSourcei(channel.source, AL_SOURCE_STATE, &state);
@@ -234,7 +257,7 @@ void FMOD_SYSTEM::queueNextPiece(Channel& channel) {
     if (sound.piece.empty()) return;
     const ALuint buffer = sound.spare.back();
     sound.spare.pop_back();
-    submit(buffer, *sound.decoder, sound.piece);
+    submit(buffer, sound.decoder->sampleRate(), sound.piece);
     alSourceQueueBuffers(channel.source, 1, &buffer);
 }
 
@@ -256,7 +279,7 @@ void FMOD_SYSTEM::pump(Channel& channel) {
 }
 
 void FMOD_SYSTEM::update() {
-    if (isSilent()) return;
+    if (opening.valid() || isSilent()) return; // no stream plays before it is open
     for (Channel& channel : channels)
         if (channel.sound != nullptr && channel.sound->isStream() && !channel.paused) pump(channel);
 }

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdint>
+#include <future>
 #include <memory>
 #include <vector>
 
@@ -17,6 +18,8 @@ struct FMOD_SOUND {
 
     std::unique_ptr<platform::fmodex::Decoder> decoder; ///< of a stream; else null
     ALuint buffer = 0;                                  ///< of an effect
+    std::vector<std::int16_t> samples;                  ///< of an effect, until the output is open
+    int sampleRate = 0;                                 ///< Hz, of those
     std::array<ALuint, queue_length> queue{};           ///< of a stream
     std::vector<ALuint> spare;                          ///< those of `queue` that hold nothing
     std::vector<std::int16_t> piece;                    ///< scratch of a stream
@@ -26,7 +29,8 @@ struct FMOD_SOUND {
     bool isStream() const { return decoder != nullptr; }
 };
 
-/// The channels and the output. Silent, and always successful, without a device.
+/// The channels and the output. Silent, and always successful, without a device. The output opens
+/// in the background, and whatever needs it waits: the library below takes its time for that.
 struct FMOD_SYSTEM {
     FMOD_RESULT start(int maxChannels);
     FMOD_RESULT load(const char* path, FMOD_SOUND** sound);
@@ -37,6 +41,7 @@ struct FMOD_SYSTEM {
     FMOD_RESULT release(FMOD_SOUND* sound);
     void update();
     void close(); ///< at process exit: silent from then on
+    void awaitOutput();
 
     ALCdevice* device = nullptr;
     ALCcontext* context = nullptr;
@@ -50,15 +55,21 @@ private:
         std::uint64_t startedAt = 0;  ///< rising with each start
     };
 
-    bool isSilent() const { return context == nullptr; }
+    bool isSilent() {
+        awaitOutput();
+        return context == nullptr;
+    }
+    void submitSamples(FMOD_SOUND& effect);
     Channel* find(FMOD_CHANNEL* handle);
     FMOD_CHANNEL* handleOf(const Channel& channel) const;
     Channel* freeChannel();
     void stop(Channel& channel);
-    bool hasEnded(const Channel& channel) const;
+    bool hasEnded(const Channel& channel);
     void pump(Channel& channel);
     void queueNextPiece(Channel& channel);
 
+    std::future<ALCcontext*> opening; ///< valid until somebody has waited for it
+    std::vector<FMOD_SOUND*> early;   ///< effects that were loaded meanwhile; the game's
     std::vector<Channel> channels;
     std::uint64_t starts = 0;
 };
