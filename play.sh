@@ -6,7 +6,7 @@ cd "$(dirname "$0")"
 
 if [ ! -x build/release/kov ]; then
     echo "First start: missing Debian packages are installed (as root or through sudo) and the game"
-    echo "is built. That takes about five minutes; later starts take a second."
+    echo "is built. That takes about three minutes; later starts take a second."
 fi
 tools/install_packages.sh build
 [ -f build/release/build.ninja ] || cmake --preset release -DKOV_TESTS=OFF >/dev/null
