@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
 
 using namespace quorva::math;
 
@@ -86,23 +85,6 @@ TEST(Matrix, RotatesAsARightHandDoes) {
     const Quaternion q = m.getQuaternion();
     EXPECT_NEAR(std::fabs(q.w), 0.5, 1e-12);
     EXPECT_NEAR(std::fabs(q.x), 0.5, 1e-12);
-}
-
-TEST(Matrix, TakesRowsAndMultipliesFromTheLeft) {
-    Matrix m(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 0, 0, 0, 1);
-    EXPECT_EQ(m[4], 2);
-    EXPECT_EQ(m[12], 4);
-    EXPECT_EQ(m * Point(1, 0, 0), Point(5, 13, 21));
-    EXPECT_EQ(m * Vector(1, 0, 0), Vector(1, 5, 9));
-    m.transpose();
-    EXPECT_EQ(m[1], 2);
-
-    Matrix shift(1, 0, 0, 7, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1), scale;
-    scale.set(2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 2, 0, 0, 0, 0, 1);
-    EXPECT_EQ(scale * shift * Point(1, 0, 0), Point(16, 0, 0)) << "shifted first";
-    std::ostringstream out;
-    out << shift;
-    EXPECT_EQ(out.str(), "1 0 0 7\n0 1 0 0\n0 0 1 0\n0 0 0 1\n");
 }
 
 TEST(Box, RoundsInEveryCopy) {
