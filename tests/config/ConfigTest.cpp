@@ -1,5 +1,6 @@
 #include "Framework/Config.h"
 #include "Framework/GameInfo.h"
+#include "tests/support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -34,11 +35,6 @@ protected:
         std::ostringstream text;
         text << file.rdbuf();
         return file ? text.str() : "no such file";
-    }
-    static std::string errorsOf(const std::function<void()>& act) {
-        testing::internal::CaptureStderr();
-        act();
-        return testing::internal::GetCapturedStderr();
     }
     static int reasonOf(const std::function<void()>& act) {
         try {

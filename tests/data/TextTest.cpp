@@ -95,12 +95,7 @@ protected:
             run.tick();
         }
     }
-    void TearDown() override {
-        std::remove("s.dat");
-        Marvo::Instance().score = Marvo::Instance().highScore = 0;
-        config::Config::Instance().setDefaults();
-        config::Config::Instance().activateConfig();
-    }
+    void TearDown() override { Marvo::Instance().score = Marvo::Instance().highScore = 0; }
 
     headless::HeadlessGame run;
     MarvoClass& marvo = Marvo::Instance();

@@ -2,19 +2,15 @@
 
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Stuff/GLine.h"
-#include "Framework/Managers/ColourManager.h"
 #include "Framework/Managers/PointManager.h"
 #include "game/ArrowIndicator.h"
 #include "game/BombClear.h"
 #include "game/BombImmune.h"
-#include "game/BombIndicator.h"
 #include "game/Border.h"
 #include "game/GCheveron.h"
-#include "game/GTriangle.h"
 #include "game/PowerUpLines.h"
 #include "game/PupCooldown.h"
 #include "game/PupLine.h"
-#include "game/SquareIndicator.h"
 #include "game/TriangleExplodeLine.h"
 
 using namespace quorva;
@@ -31,13 +27,6 @@ protected:
         for (; !entity.dead && ticks < most; ++ticks)
             entity.process();
         return ticks;
-    }
-    template <class T>
-    static T* newest() {
-        T* found = nullptr;
-        for (const auto& [id, entity] : engine().entities)
-            if (auto* const match = dynamic_cast<T*>(entity)) found = match;
-        return found;
     }
     /// Puts a power-up under the player and lets it be taken.
     template <class T>
@@ -142,17 +131,6 @@ TEST_F(ActorsTest, DiesLiesAndComesBackInvulnerable) {
     EXPECT_TRUE(player->graphics->enabled) << "it ends visible";
 }
 
-TEST_F(ActorsTest, StaysOnTheFieldAndIgnoresInputOnceDead) {
-    body(player).position = math::Point(99, -99, 0);
-    player->process();
-    EXPECT_EQ(body(player).position, math::Point(19.5, -14.5, 0));
-    player->dead = true;
-    messages::PlayerInput input;
-    input.fire = math::Vector(1, 0, 0);
-    publish(input);
-    EXPECT_EQ(countOf<Bullet>(), 0);
-}
-
 TEST_F(ActorsTest, ALineStandsItsTimeAndBlinksAtItsEnd) {
     TrapLine* const line = across(5, -20, 20);
     int toggles = 0, ticks = 0, firstToggle = 0;
@@ -205,48 +183,6 @@ TEST_F(ActorsTest, ABulletEndsAQuarterUnitPastTheEdge) {
     }
 }
 
-TEST_F(ActorsTest, IndicatorsFadeInTheirTime) {
-    SquareIndicator square(primitives::Box(5, -5, -3, 7));
-    EXPECT_EQ(square.centre, math::Point(2, 0, 0));
-    EXPECT_EQ(ticksToDeath(square), 41);
-    graphics::Colour half(1, 1, 1, 0.5F);
-    BombIndicator bomb(math::Point(3, 4, 0), &half);
-    EXPECT_NEAR((bomb.positions[0] - math::Point(3, 4, 0)).length(), 40.0, 1e-9);
-    EXPECT_EQ(ticksToDeath(bomb), 10);
-    // They fly in lengthwise: what remains of the way is straight ahead.
-    EXPECT_NEAR((bomb.positions[7] - math::Point(3, 4, 0)).length(), 20.0, 1e-9);
-}
-
-TEST_F(ActorsTest, ArrowsFlyApartAndComeBack) {
-    ArrowIndicator* const arrow = player->arrows[0];
-    arrow->fire();
-    for (int i = 0; i < 3; ++i)
-        arrow->process();
-    // 0.1 + 0.2 + 0.3, and three growths of 0.3.
-    EXPECT_NEAR(arrow->cheverons[0]->position.y, 0.6, 1e-6);
-    EXPECT_NEAR(arrow->cheverons[0]->scale.x, 1.9, 1e-6);
-    EXPECT_EQ(arrow->cheverons[0]->position.y, static_cast<float>(arrow->cheverons[0]->position.y));
-    arrow->restore();
-    for (int i = 0; i < 50; ++i) {
-        EXPECT_TRUE(arrow->restoring);
-        arrow->process();
-    }
-    EXPECT_FALSE(arrow->restoring);
-    EXPECT_EQ(arrow->cheverons[3]->position, math::zero_point);
-    EXPECT_EQ(arrow->cheverons[3]->scale, math::Vector(1, 1, 1));
-}
-
-TEST_F(ActorsTest, BombsPulseThreeTimesAndGo) {
-    auto* const bomb = engine().createEntity<BombClear>("Bomb", math::Point(5, 5, 0));
-    std::string pulses;
-    for (int tick = 1; !bomb->dead && tick < 500; ++tick) {
-        const int before = countOf<BombIndicator>();
-        bomb->process();
-        if (countOf<BombIndicator>() > before || bomb->dead) pulses += std::to_string(tick) + " ";
-    }
-    EXPECT_EQ(pulses, "50 100 150 200 ");
-}
-
 TEST_F(ActorsTest, ABombMayRunOutUnderAPlayerThatLiesDead) {
     body(player).isActive = true;
     auto* const bomb = engine().createEntity<BombClear>("Bomb", math::Point(0.5, 0, 0));
@@ -262,18 +198,7 @@ TEST_F(ActorsTest, ABombMayRunOutUnderAPlayerThatLiesDead) {
     EXPECT_EQ(player->cooldownPups, 0);
 }
 
-TEST_F(ActorsTest, ABurstGrowsThenSpinsAwayWithItsPowerUp) {
-    for (const bool reverse : {false, true}) {
-        const graphics::Colour colour(1, 1, 1, 1);
-        PowerUpLines burst(math::Point(), &colour, reverse);
-        for (int i = 0; i < 3000; ++i)
-            burst.process();
-        EXPECT_EQ(burst.rays.size(), 100U);
-        EXPECT_GE(burst.rays[0].length, 60.0);
-        burst.cleanUp();
-        EXPECT_EQ(ticksToDeath(burst), 9); // rounding leaves a trace of the eighth
-        EXPECT_EQ(burst.spinSpeed < 0, reverse);
-    }
+TEST_F(ActorsTest, AYoungBurstGoesWithItsPowerUp) {
     auto* const pup = engine().createEntity<PupLine>("Line", math::Point());
     PowerUpLines* const young = pup->lines;
     pup->dead = true;
@@ -310,27 +235,6 @@ TEST_F(ActorsTest, ATriangleTurnsAndCrawlsLikeAnInchworm) {
     const std::string cycle = std::string(16, '2') + std::string(contracted + 1, '0') +
                               std::string(16, '3') + std::string(contracted + 1, '1') + "2";
     EXPECT_EQ(gait.substr(contracted, cycle.size()), cycle);
-}
-
-TEST_F(ActorsTest, AHeldTriangleNeitherTurnsNorWalks) {
-    auto* const triangle =
-        engine().createEntity<Triangle>("Triangle", math::Point(9, 9, 0), 0.0, 1.0);
-    const double angle = triangle->angle;
-    std::string stuck;
-    for (int i = 0; i < 6; ++i) {
-        body(triangle).hitLine = true;
-        triangle->process();
-        stuck += std::to_string(triangle->stuckTicks);
-        EXPECT_FALSE(body(triangle).hitLine);
-        EXPECT_EQ(triangle->graphic->colour1, triangle->stuckColour);
-    }
-    EXPECT_EQ(stuck, "321032");
-    triangle->process();
-    triangle->process();
-    EXPECT_EQ(triangle->angle, angle);
-    EXPECT_EQ(triangle->graphic->colour1, triangle->stuckColour) << "as long as it is held";
-    triangle->process();
-    EXPECT_EQ(triangle->graphic->colour1, triangle->normalColour);
 }
 
 TEST_F(ActorsTest, ATriangleOnThePlayersVeryPlaceCrashesNothing) {

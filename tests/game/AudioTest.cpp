@@ -4,6 +4,7 @@
 #include "Framework/math/MTRand.h"
 #include "platform/headless/SoundRecorder.h"
 #include "platform/headless/VirtualSDL.h"
+#include "tests/support/Errors.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
@@ -28,8 +29,6 @@ protected:
         sound().unreadable.clear();
         boost::filesystem::remove_all("Songs");
         boost::filesystem::create_directory("Songs");
-        settings.setDefaults();
-        settings.activateConfig();
     }
     static void songs(std::initializer_list<const char*> names) {
         for (const char* name : names)
@@ -43,11 +42,6 @@ protected:
     void turn(const char* setting) {
         settings.getConfigValues().setValue(setting, 0);
         settings.activateConfig();
-    }
-    static std::string errorsOf(const std::function<void()>& act) {
-        testing::internal::CaptureStderr();
-        act();
-        return testing::internal::GetCapturedStderr();
     }
 
     config::ConfigClass& settings = config::Config::Instance();

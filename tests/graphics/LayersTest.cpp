@@ -4,9 +4,7 @@
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Renderer.h"
-#include "Framework/Graphics/Stuff/GCircle.h"
 #include "Framework/Graphics/Stuff/GLine.h"
-#include "Framework/Graphics/Stuff/GOutlinedCircle.h"
 #include "Framework/Graphics/Stuff/GSlideBar.h"
 #include "Framework/Graphics/Stuff/GTransparentBox.h"
 #include "Framework/Graphics/Stuff/GWord.h"
@@ -14,6 +12,7 @@
 #include "game/GCheveron.h"
 #include "game/GTriangle.h"
 #include "platform/headless/GLRecorder.h"
+#include "tests/support/Errors.h"
 
 using namespace quorva;
 using namespace quorva::graphics;
@@ -97,20 +96,6 @@ TEST(Shapes, DrawTheirFigures) {
         recordingOf([&] { bar.render(); });
         EXPECT_EQ(glRecorder().callsTo("glTranslatef").back().arguments[0], 4 * (knob - 0.5));
     }
-}
-
-TEST(Shapes, CirclesRestoreTheDepthTestEvenWithoutAPoint) {
-    GCircle circle;
-    circle.resolution = 0;
-    EXPECT_EQ(callsOf(circle, "glVertex2f"), 0U);
-    EXPECT_EQ(glRecorder().callsTo("glEnable").size(), 1U);
-    GOutlinedCircle outline;
-    outline.radius = 2;
-    outline.resolution = 4;
-    EXPECT_EQ(callsOf(outline, "glVertex2f"), 4U);
-    const auto points = glRecorder().callsTo("glVertex2f");
-    EXPECT_EQ(points[0].arguments[0], 2.0);
-    EXPECT_EQ(points[1].arguments[1], 2.0);
 }
 
 TEST(Words, AlignByTheTextLastSet) {
@@ -212,9 +197,7 @@ TEST_F(FieldTest, ARefusedModeFallsBackButKeepsTheSettings) {
     settings.activateConfig();
     headless::sdl().modes.clear();
     headless::sdl().refusedModes = 1;
-    testing::internal::CaptureStderr();
-    publish(messages::ResetVideo());
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+    EXPECT_EQ(errorsOf([] { publish(messages::ResetVideo()); }),
               "Couldn't set the video mode: no such mode\n");
     ASSERT_EQ(headless::sdl().modes.size(), 2U);
     EXPECT_EQ(headless::sdl().modes[1].width, 800);
@@ -252,17 +235,13 @@ TEST(Camera, TakesTheFieldFromTheShapeOfTheScreen) {
         table.intValues[0].value = c.width; // some lie past the range of the settings
         table.intValues[1].value = c.height;
         settings.activateConfig();
-        testing::internal::CaptureStderr();
-        camera.setupProjection();
-        EXPECT_EQ(testing::internal::GetCapturedStderr(), c.errors);
+        EXPECT_EQ(errorsOf([&] { camera.setupProjection(); }), c.errors);
         EXPECT_DOUBLE_EQ(camera.right, c.right) << c.width << 'x' << c.height;
         EXPECT_DOUBLE_EQ(camera.left, -c.right) << c.width << 'x' << c.height;
         EXPECT_DOUBLE_EQ(camera.top, c.top) << c.width << 'x' << c.height;
     }
     EXPECT_EQ(camera.menuTop, 15.0);
     EXPECT_EQ(camera.menuLeft, -11.25);
-    settings.setDefaults();
-    settings.activateConfig();
 }
 
 TEST(Camera, MovesAndComesBackFromTheMenu) {

@@ -1,15 +1,11 @@
 #include "Framework/Graphics/TGA.h"
 
-#include "Framework/Managers/TextureResources.h"
-#include "platform/headless/GLRecorder.h"
-
 #include <gtest/gtest.h>
 
 #include <cstdio>
 #include <fstream>
 
 using quorva::graphics::TGA;
-using namespace quorva::resources;
 
 namespace {
 
@@ -93,21 +89,6 @@ TEST_F(TGATest, UnpacksRunsAndLiteralsAndSurvivesLies) {
     EXPECT_EQ(load(file(h, {0x83, 1, 2}), image), 1);
 }
 
-TEST_F(TGATest, KeepsThePaletteOfMappedImages) {
-    Bytes data(768, 0);
-    data[3] = 30, data[4] = 20, data[5] = 10;
-    for (const int type : {1, 9}) {
-        Bytes pixels = type == 1 ? Bytes{0, 1, 1, 0} : Bytes{0x03, 0, 1, 1, 0};
-        Bytes all = data;
-        all.insert(all.end(), pixels.begin(), pixels.end());
-        EXPECT_EQ(load(file(mappedHeader(type), all), image), 1) << type;
-        EXPECT_EQ(pixelsOf(image, 4), (Bytes{0, 1, 1, 0})) << type;
-        ASSERT_NE(image.getPalette(), nullptr);
-        EXPECT_EQ(image.getPalette()[3], 10);
-        EXPECT_EQ(image.getPalette()[5], 30);
-    }
-}
-
 TEST_F(TGATest, RefusesWithACode) {
     const struct {
         const char* what;
@@ -118,7 +99,6 @@ TEST_F(TGATest, RefusesWithACode) {
         {"exactly long enough", [](Header&) {}, 12, 1},
         {"a byte short", [](Header&) {}, 11, 8},
         {"with an identification", [](Header& h) { h.idLength = 1; }, 12, 8},
-        {"unknown type", [](Header& h) { h.type = 12; }, 12, 64},
         {"a map of 255",
          [](Header& h) {
              h = mappedHeader(1);
@@ -146,29 +126,4 @@ TEST_F(TGATest, RefusesWithACode) {
     EXPECT_EQ(image.load(none), 2);
     EXPECT_EQ(image.getImg(), nullptr);
     EXPECT_EQ(image.getWidth(), 0);
-}
-
-TEST_F(TGATest, TexturesTakeTheirFileFromLinesOfTwoFields) {
-    auto& gl = quorva::headless::glRecorder();
-    const struct {
-        const char* line;
-        bool taken;
-        const char* name;
-        int kind;
-        std::size_t uploads;
-    } cases[] = {{"Stone, default.tga ", true, "Stone", 1, 1},
-                 {"Stone,none.tga", true, "Stone", 1, 0},
-                 {"Stone", false, "", 0, 0},
-                 {"a,b,c,d,e", false, "", 0, 0}};
-    for (const auto& c : cases) {
-        std::string line = c.line, name;
-        TextureObject texture;
-        gl.start();
-        EXPECT_EQ(parseLineAndCreateTexture(line, name, texture), c.taken) << c.line;
-        gl.stop();
-        EXPECT_EQ(name, c.name) << c.line;
-        EXPECT_EQ(texture.kind, c.kind) << c.line;
-        EXPECT_EQ(gl.callsTo("glTexImage2D").size(), c.uploads) << c.line;
-        EXPECT_EQ(texture.name != 0, c.uploads == 1) << c.line;
-    }
 }

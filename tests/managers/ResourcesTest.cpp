@@ -1,6 +1,7 @@
 #include "Framework/Managers/ColourManager.h"
 #include "Framework/Managers/FontManager.h"
 #include "Framework/Managers/PointManager.h"
+#include "tests/support/Errors.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
@@ -143,9 +144,8 @@ TEST(ResourceLines, OfFonts) {
     for (const auto& c : cases) {
         std::string name;
         Font value;
-        testing::internal::CaptureStderr();
-        EXPECT_EQ(parse(c.line, name, value), c.taken) << c.line;
-        EXPECT_EQ(testing::internal::GetCapturedStderr(), c.errors);
+        EXPECT_EQ(errorsOf([&] { EXPECT_EQ(parse(c.line, name, value), c.taken) << c.line; }),
+                  c.errors);
     }
     EXPECT_EQ(resources::makeFont("VeraMono.ttf", "Outline").mode, graphics::FR_OUTLINE);
 }

@@ -115,6 +115,4 @@ TEST(LineWidth, FollowsTheScreenDownToAPixel) {
         config.activateConfig();
         EXPECT_EQ(lineWidthScale(c.width), c.scaled) << c.what;
     }
-    config.setDefaults();
-    config.activateConfig();
 }

@@ -14,6 +14,7 @@
 #include "game/Logo.h"
 #include "game/Marvo.h"
 #include "platform/headless/VirtualSDL.h"
+#include "tests/support/Errors.h"
 
 #include <gtest/gtest.h>
 
@@ -39,12 +40,6 @@ protected:
     ConfigMenu& openConfig() {
         press({SDLK_DOWN, SDLK_RETURN});
         return static_cast<ConfigMenu&>(*main.subMenu);
-    }
-    void TearDown() override {
-        std::remove("game.conf");
-        std::remove("game.conf.bak");
-        config::Config::Instance().setDefaults();
-        config::Config::Instance().activateConfig();
     }
 
     headless::HeadlessGame run;
@@ -196,9 +191,7 @@ TEST_F(MenusTest, TheFileComesBackThroughTheMenuAsItWas) {
 TEST_F(MenusTest, ASecondLevelIsRefused) {
     run.startLevel();
     GameLevel* const level = run.game().level;
-    testing::internal::CaptureStderr();
-    publish(messages::LoadLevel());
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+    EXPECT_EQ(errorsOf([] { publish(messages::LoadLevel()); }),
               "Can't load level. Another level is already open\n");
     EXPECT_EQ(run.game().level, level);
     messages::LoadLevel anew;

@@ -1,6 +1,5 @@
 #include "tests/support/FieldTest.h"
 
-#include "Framework/Config.h"
 #include "game/PupLine.h"
 
 using namespace quorva;
@@ -23,44 +22,7 @@ protected:
     }
 };
 
-struct Hits : MessageInterface<SoundBuletHit> {
-    Hits() { subscribe<SoundBuletHit>(this); }
-    void receiveMessage(const SoundBuletHit*) override { ++count; }
-    int count = 0;
-};
-
 } // namespace
-
-TEST_F(CollisionTest, MovesByOneShareOfTheVelocityASubStep) {
-    auto* const bullet =
-        Engine::Instance().createEntity<Bullet>("Bullet", math::Point(), math::Vector(0.25, 0, 0));
-    physics->doMove();
-    EXPECT_DOUBLE_EQ(body(bullet).position.x, 0.025);
-    body(bullet).velocity = math::Vector(1e-7, 0, 0);
-    physics->doMove();
-    EXPECT_GT(body(bullet).position.x, 0.025) << "the last tiny move is made all the same";
-    EXPECT_EQ(body(bullet).velocity.x, 0.0);
-    body(bullet).isStatic = true;
-    body(bullet).velocity = math::Vector(1, 0, 0);
-    physics->doMove();
-    EXPECT_LT(body(bullet).position.x, 0.026);
-}
-
-TEST_F(CollisionTest, ReadsTheAccuracyWithinItsBounds) {
-    auto& settings = config::Config::Instance();
-    auto& accuracy = settings.getConfigValues().intValues.back();
-    const struct {
-        int setting;
-        int steps;
-    } cases[] = {{0, 1}, {1, 1}, {10, 10}, {1000, 1000}, {5000, 1000}};
-    for (const auto& c : cases) {
-        accuracy.value = c.setting; // past the check of the settings
-        settings.activateConfig();
-        EXPECT_EQ(physics::PhysicsProcessor(math::Vector(0, -6, 0)).stepCount, c.steps);
-    }
-    settings.setDefaults();
-    settings.activateConfig();
-}
 
 TEST_F(CollisionTest, StopsATriangleAtALineAndNothingElse) {
     across(1.0, -5, 5);
@@ -139,7 +101,7 @@ TEST_F(CollisionTest, ATriangleKillsAtThreeCornersAndOnTheRightEdge) {
 }
 
 TEST_F(CollisionTest, ABulletHoldsATriangleAndSoundsOnce) {
-    Hits hits;
+    const Count<SoundBuletHit> hits;
     Triangle* const triangle = layAt(5, 5);
     auto* const bullet =
         Engine::Instance().createEntity<Bullet>("Bullet", math::Point(5, 5, 0), math::Vector());
@@ -170,11 +132,7 @@ TEST_F(CollisionTest, ForgetsWhatTheEngineDeletes) {
 }
 
 TEST_F(CollisionTest, TheLastDeathEndsTheLevelInTheNextPassAndOnlyOnce) {
-    struct Ends : MessageInterface<messages::EndLevel> {
-        Ends() { subscribe<messages::EndLevel>(this); }
-        void receiveMessage(const messages::EndLevel*) override { ++count; }
-        int count = 0;
-    } ends;
+    const Count<messages::EndLevel> ends;
     PlayerDead message;
     publish(message);
     physics->update();

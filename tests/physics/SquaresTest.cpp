@@ -23,16 +23,6 @@ protected:
     }
 };
 
-struct Effects : MessageInterface<SoundBad>, MessageInterface<SoundSquare> {
-    Effects() {
-        subscribe<SoundBad>(this);
-        subscribe<SoundSquare>(this);
-    }
-    void receiveMessage(const SoundBad*) override { ++refused; }
-    void receiveMessage(const SoundSquare*) override { ++squares; }
-    int refused = 0, squares = 0;
-};
-
 } // namespace
 
 TEST_F(SquaresTest, FindsARectangleFourTimesWithItsSidesInOrder) {
@@ -134,7 +124,7 @@ TEST_F(SquaresTest, CatchesByTwoCornersWithinATenth) {
 }
 
 TEST_F(SquaresTest, PaysOnceForAllThatIsInsideAndTakesTheLinesAway) {
-    Effects effects;
+    const Count<SoundSquare> effects;
     threeSides();
     upright(7, -15, 15);
     layAt(0, 0);
@@ -142,7 +132,7 @@ TEST_F(SquaresTest, PaysOnceForAllThatIsInsideAndTakesTheLinesAway) {
     layAt(30, 30);
     physics->process();
     EXPECT_EQ(Marvo::Instance().score, scoreOf(5, -5, -3, 7, 2));
-    EXPECT_EQ(effects.squares, 1);
+    EXPECT_EQ(effects.count, 1);
     EXPECT_TRUE(physics->lines.empty());
     Engine::Instance().cleanupDeadEntities();
     EXPECT_EQ(countOf<Triangle>(), 1);
@@ -171,10 +161,10 @@ TEST_F(SquaresTest, LeavesAnEmptyRectangleStanding) {
 }
 
 TEST_F(SquaresTest, RefusesTheSeventeenthLine) {
-    Effects effects;
+    const Count<SoundBad> refused;
     for (int i = 0; i < 16; ++i)
         EXPECT_NE(across(i, 0, 1), nullptr);
-    EXPECT_EQ(effects.refused, 0);
+    EXPECT_EQ(refused.count, 0);
     EXPECT_EQ(across(16, 0, 1), nullptr);
-    EXPECT_EQ(effects.refused, 1);
+    EXPECT_EQ(refused.count, 1);
 }

@@ -67,6 +67,13 @@ public:
     TrapLine* upright(double x, double y1, double y2) { return stand({x, y1, 0}, {x, y2, 0}); }
 
     template <class T>
+    static T* newest() {
+        T* found = nullptr;
+        for (const auto& [id, entity] : quorva::Engine::Instance().entities)
+            if (auto* const match = dynamic_cast<T*>(entity)) found = match;
+        return found;
+    }
+    template <class T>
     static int countOf() {
         int count = 0;
         for (const auto& [id, entity] : quorva::Engine::Instance().entities)
