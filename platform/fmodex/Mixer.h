@@ -40,8 +40,8 @@ struct FMOD_SYSTEM {
     FMOD_RESULT setPaused(FMOD_CHANNEL* channel, bool paused);
     FMOD_RESULT release(FMOD_SOUND* sound);
     void update();
-    void close(); ///< at process exit: silent from then on
-    void awaitOutput();
+    void close();       ///< at process exit: silent from then on
+    void awaitOutput(); ///< returns once the output is open, or known to be missing
 
     ALCdevice* device = nullptr;
     ALCcontext* context = nullptr;

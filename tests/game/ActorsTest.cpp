@@ -131,6 +131,17 @@ TEST_F(ActorsTest, DiesLiesAndComesBackInvulnerable) {
     EXPECT_TRUE(player->graphics->enabled) << "it ends visible";
 }
 
+TEST_F(ActorsTest, StaysOnTheFieldAndIgnoresInputOnceDead) {
+    body(player).position = math::Point(99, -99, 0);
+    player->process();
+    EXPECT_EQ(body(player).position, math::Point(19.5, -14.5, 0));
+    player->dead = true;
+    messages::PlayerInput input;
+    input.fire = math::Vector(1, 0, 0);
+    publish(input);
+    EXPECT_EQ(countOf<Bullet>(), 0);
+}
+
 TEST_F(ActorsTest, ALineStandsItsTimeAndBlinksAtItsEnd) {
     TrapLine* const line = across(5, -20, 20);
     int toggles = 0, ticks = 0, firstToggle = 0;

@@ -1,5 +1,6 @@
 #include "tests/support/FieldTest.h"
 
+#include "Framework/Config.h"
 #include "game/PupLine.h"
 
 using namespace quorva;
@@ -23,6 +24,20 @@ protected:
 };
 
 } // namespace
+
+TEST_F(CollisionTest, ReadsTheAccuracyWithinItsBounds) {
+    auto& settings = config::Config::Instance();
+    auto& accuracy = settings.getConfigValues().intValues.back();
+    const struct {
+        int setting;
+        int steps;
+    } cases[] = {{0, 1}, {10, 10}, {5000, 1000}};
+    for (const auto& c : cases) {
+        accuracy.value = c.setting; // past the check of the settings
+        settings.activateConfig();
+        EXPECT_EQ(physics::PhysicsProcessor(math::Vector(0, -6, 0)).stepCount, c.steps);
+    }
+}
 
 TEST_F(CollisionTest, StopsATriangleAtALineAndNothingElse) {
     across(1.0, -5, 5);
