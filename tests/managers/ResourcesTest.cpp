@@ -81,6 +81,20 @@ TEST_F(ResourcesTest, ReportsAMissingFileAndStaysOfUse) {
     resources::ResourceManagerManager::Instance().removeResourceManager(&manager);
 }
 
+TEST_F(ResourcesTest, TheirManagerKnowsEachOnce) {
+    resources::ResourceManagerManagerClass all;
+    ResourceManager<Colour, true> one;
+    for (auto* manager : {&one, &one, static_cast<ResourceManager<Colour, true>*>(nullptr)})
+        all.addResourceManager(manager);
+    EXPECT_EQ(all.managers.size(), 1U);
+    all.load("level");
+    EXPECT_EQ(green(one, "New"), 1.0F);
+    all.removeResourceManager(&one);
+    all.removeResourceManager(&one);
+    EXPECT_TRUE(all.managers.empty());
+    resources::ResourceManagerManager::Instance().removeResourceManager(&one);
+}
+
 TEST(ResourceLines, OfColours) {
     const struct {
         const char* line;

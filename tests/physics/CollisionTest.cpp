@@ -25,6 +25,21 @@ protected:
 
 } // namespace
 
+TEST_F(CollisionTest, MovesByOneShareOfTheVelocityASubStep) {
+    auto* const bullet =
+        Engine::Instance().createEntity<Bullet>("Bullet", math::Point(), math::Vector(0.25, 0, 0));
+    physics->doMove();
+    EXPECT_DOUBLE_EQ(body(bullet).position.x, 0.025);
+    body(bullet).velocity = math::Vector(1e-7, 0, 0);
+    physics->doMove();
+    EXPECT_GT(body(bullet).position.x, 0.025) << "the last tiny move is made all the same";
+    EXPECT_EQ(body(bullet).velocity.x, 0.0);
+    body(bullet).isStatic = true;
+    body(bullet).velocity = math::Vector(1, 0, 0);
+    physics->doMove();
+    EXPECT_LT(body(bullet).position.x, 0.026);
+}
+
 TEST_F(CollisionTest, ReadsTheAccuracyWithinItsBounds) {
     auto& settings = config::Config::Instance();
     auto& accuracy = settings.getConfigValues().intValues.back();
@@ -157,4 +172,18 @@ TEST_F(CollisionTest, TheLastDeathEndsTheLevelInTheNextPassAndOnlyOnce) {
     physics->update();
     physics->update();
     EXPECT_EQ(ends.count, 1);
+}
+
+TEST_F(CollisionTest, RunsWhatAControllerAsksFor) {
+    Triangle* const triangle = layAt(5, 5);
+    body(triangle).velocity = math::Vector(1, 1, 0);
+    body(triangle).booleanResult = true;
+    messages::PhysicsController message;
+    message.resetVelocities = message.enable = message.runTests = true;
+    publish(message);
+    EXPECT_EQ(body(triangle).velocity, math::zero_vector);
+    EXPECT_FALSE(body(triangle).booleanResult);
+    EXPECT_TRUE(physics->enabled);
+    physics->doGravity();
+    EXPECT_DOUBLE_EQ(body(triangle).velocity.y, -6.0 / 30.0);
 }
