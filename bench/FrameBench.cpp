@@ -2,7 +2,7 @@
 
 #include "bench/support/Allocations.h"
 #include "bench/support/Furniture.h"
-#include "platform/headless/GLRecorder.h"
+#include "platform/standins/GLRecorder.h"
 
 #include <benchmark/benchmark.h>
 
@@ -13,12 +13,12 @@ void busyFrame(benchmark::State& state) {
     bench::furnishFrame(field);
     field.run.frame();
     const std::uint64_t before = bench::allocations();
-    const std::uint64_t calls = quorva::headless::glRecorder().total;
+    const std::uint64_t calls = quorva::standins::glRecorder().total;
     for (auto _ : state)
         field.run.frame();
     const auto frames = static_cast<double>(state.iterations());
     state.counters["gl_calls"] =
-        static_cast<double>(quorva::headless::glRecorder().total - calls) / frames;
+        static_cast<double>(quorva::standins::glRecorder().total - calls) / frames;
     state.counters["allocations"] = static_cast<double>(bench::allocations() - before) / frames;
 }
 

@@ -1,9 +1,9 @@
-// What a tick costs. The plain loops of bench/support/PlainPhysics stand beside the game's own
+// What a tick costs. The plain loops of tests/support/PlainPhysics stand beside the game's own
 // physics, so that one run gives the ratio.
 
 #include "bench/support/Allocations.h"
 #include "bench/support/Furniture.h"
-#include "bench/support/PlainPhysics.h"
+#include "tests/support/PlainPhysics.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,4 +1,4 @@
-#include "platform/headless/Sandbox.h"
+#include "headless/Sandbox.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 #include "fuzz/Playground.h"
 
-#include "Framework/GameInfo.h"
+#include "game/GameIdentity.h"
 
 #include <boost/filesystem.hpp>
 
@@ -41,11 +41,7 @@ void enterPlayground(bool linkData) {
     for (std::ostream* stream : {&std::cerr, &std::cout})
         stream->setstate(std::ios::failbit);
 
-    quorva::GameInfoClass& info = quorva::GameInfo::Instance();
-    info.name = info.title = "KOV";
-    info.version = "1.0";
-    info.homeDirectory = ".kov";
-    info.configFile = "game.conf";
+    introduceGame();
 }
 
 void write(const char* name, const std::uint8_t* data, std::size_t size) {

@@ -7,12 +7,12 @@
 #include "game/GameBase.h"
 #include "game/GameLevel.h"
 #include "game/Marvo.h"
-#include "platform/headless/HeadlessGame.h"
-#include "platform/headless/VirtualSDL.h"
+#include "headless/HeadlessGame.h"
+#include "platform/standins/VirtualSDL.h"
 
 using namespace quorva;
 using headless::HeadlessGame;
-using headless::sdl;
+using standins::sdl;
 
 namespace {
 
@@ -42,7 +42,7 @@ void furnish(HeadlessGame& run, unsigned int start) {
 void moveStick(unsigned int argument) {
     const auto deflection = static_cast<std::int16_t>((argument & 0xfeU) << 8U);
     sdl().axes[0][argument & 1U] = deflection;
-    headless::pushAxisMotion();
+    standins::pushAxisMotion();
 }
 
 void pushAny(unsigned int type) {
@@ -65,7 +65,7 @@ unsigned int act(HeadlessGame& run, unsigned int what, unsigned int argument) {
         run.key(symbol, false);
         break;
     case 3:
-        headless::pushButton(static_cast<int>(argument % 32), argument < 128);
+        standins::pushButton(static_cast<int>(argument % 32), argument < 128);
         break;
     case 4:
         moveStick(argument);
@@ -74,7 +74,7 @@ unsigned int act(HeadlessGame& run, unsigned int what, unsigned int argument) {
         pushAny(argument);
         break;
     case 6:
-        if (argument == 255) headless::pushQuit();
+        if (argument == 255) standins::pushQuit();
         run.frame();
         break;
     default:

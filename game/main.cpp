@@ -1,7 +1,6 @@
 #include "Framework/Config.h"
-#include "Framework/Constants.h"
-#include "Framework/GameInfo.h"
 #include "game/GameBase.h"
+#include "game/GameIdentity.h"
 
 #include <SDL.h>
 
@@ -10,15 +9,6 @@
 using namespace quorva;
 
 namespace {
-
-void introduceGame() {
-    GameInfoClass& info = GameInfo::Instance();
-    info.name = "KOV";
-    info.title = "KOV";
-    info.version = "1.0";
-    info.homeDirectory = ".kov";
-    info.configFile = STARTING_PATH + "game.conf";
-}
 
 /// Reads every argument, also after a bad one.
 /// @return whether the game is to start

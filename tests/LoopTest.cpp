@@ -2,14 +2,14 @@
 #include "Framework/Engine.h"
 #include "Framework/Game.h"
 #include "Framework/Timer.h"
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
 
 using namespace quorva;
-using headless::sdl;
+using standins::sdl;
 
 namespace {
 

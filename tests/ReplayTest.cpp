@@ -1,6 +1,6 @@
-#include "platform/headless/HeadlessGame.h"
-#include "platform/headless/Recording.h"
-#include "platform/headless/StateHash.h"
+#include "headless/HeadlessGame.h"
+#include "headless/Recording.h"
+#include "headless/StateHash.h"
 
 #include "Framework/Engine.h"
 #include "Framework/math/MTRand.h"

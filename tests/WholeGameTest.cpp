@@ -1,4 +1,4 @@
-#include "platform/headless/HeadlessGame.h"
+#include "headless/HeadlessGame.h"
 
 #include "Framework/Engine.h"
 #include "Framework/menus/MainMenu.h"
@@ -7,7 +7,7 @@
 #include "game/GameOverScreen.h"
 #include "game/Marvo.h"
 #include "game/PlayerCharacter.h"
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 
 #include "bench/support/Furniture.h"
 #include "bench/window/GLTape.h"
-#include "platform/headless/Sandbox.h"
+#include "headless/Sandbox.h"
 
 #include <GL/gl.h>
 #include <SDL.h>

@@ -15,8 +15,8 @@
 #include "game/HelpMenu.h"
 #include "game/Marvo.h"
 #include "game/PUPLineIcon.h"
-#include "platform/headless/HeadlessGame.h"
-#include "platform/headless/VirtualSDL.h"
+#include "headless/HeadlessGame.h"
+#include "platform/standins/VirtualSDL.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "game/Marvo.h"
 #include "game/PlayerCharacter.h"
 #include "platform/fmodex/fmodex.h"
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
@@ -33,7 +33,7 @@ extern "C" const char* __lsan_default_options() { // NOLINT: likewise
 namespace {
 
 namespace fs = boost::filesystem;
-using quorva::headless::sdl;
+using quorva::standins::sdl;
 
 constexpr uid_t nobody = 65534;
 constexpr int stopped_early = 99;
@@ -57,8 +57,8 @@ void turnPage() {
     ++passes;
     for (const auto& row : script) {
         if (row.pass != passes) continue;
-        quorva::headless::pushKey(row.key, true);
-        quorva::headless::pushKey(row.key, false);
+        quorva::standins::pushKey(row.key, true);
+        quorva::standins::pushKey(row.key, false);
     }
     if (passes == death_pass) {
         Marvo::Instance().score = record;
@@ -66,7 +66,7 @@ void turnPage() {
         Marvo::Instance().player->invulnerable = false;
         Marvo::Instance().killPlayer();
     }
-    if (passes == last_pass) quorva::headless::pushQuit();
+    if (passes == last_pass) quorva::standins::pushQuit();
 }
 
 class Faults : public testing::Test {

@@ -2,8 +2,8 @@
 
 #include "Framework/Config.h"
 #include "Framework/math/MTRand.h"
-#include "platform/headless/SoundRecorder.h"
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/SoundRecorder.h"
+#include "platform/standins/VirtualSDL.h"
 #include "tests/support/Errors.h"
 
 #include <boost/filesystem.hpp>
@@ -13,8 +13,8 @@
 #include <set>
 
 using namespace quorva;
-using headless::sdl;
-using headless::sound;
+using standins::sdl;
+using standins::sound;
 
 namespace {
 

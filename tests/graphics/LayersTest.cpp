@@ -11,12 +11,12 @@
 #include "Framework/Managers/FontManager.h"
 #include "game/GCheveron.h"
 #include "game/GTriangle.h"
-#include "platform/headless/GLRecorder.h"
+#include "platform/standins/GLRecorder.h"
 #include "tests/support/Errors.h"
 
 using namespace quorva;
 using namespace quorva::graphics;
-using headless::glRecorder;
+using standins::glRecorder;
 
 namespace {
 
@@ -175,9 +175,9 @@ TEST_F(FieldTest, FramesAreDrawnInOrderOfLayerAndDepth) {
     renderer.update();
     EXPECT_EQ(trace, "abcd");
     renderer.removeEntity(&subject);
-    const std::uint64_t swaps = headless::sdl().swaps;
+    const std::uint64_t swaps = standins::sdl().swaps;
     EXPECT_EQ(recordingOf([&] { renderer.update(); }), "glClear 16640\n");
-    EXPECT_EQ(headless::sdl().swaps, swaps + 1);
+    EXPECT_EQ(standins::sdl().swaps, swaps + 1);
 }
 
 TEST_F(FieldTest, AnOrdinaryFrameLeavesTheMatrixStackAsItWas) {
@@ -195,18 +195,18 @@ TEST_F(FieldTest, ARefusedModeFallsBackButKeepsTheSettings) {
     settings.setScreenHeight(800);
     settings.setFullScreen(true);
     settings.activateConfig();
-    headless::sdl().modes.clear();
-    headless::sdl().refusedModes = 1;
+    standins::sdl().modes.clear();
+    standins::sdl().refusedModes = 1;
     EXPECT_EQ(errorsOf([] { publish(messages::ResetVideo()); }),
               "Couldn't set the video mode: no such mode\n");
-    ASSERT_EQ(headless::sdl().modes.size(), 2U);
-    EXPECT_EQ(headless::sdl().modes[1].width, 800);
-    EXPECT_EQ(headless::sdl().modes[1].depth, 32);
-    EXPECT_EQ(headless::sdl().modes[1].flags, std::uint32_t{SDL_OPENGL | SDL_FULLSCREEN});
+    ASSERT_EQ(standins::sdl().modes.size(), 2U);
+    EXPECT_EQ(standins::sdl().modes[1].width, 800);
+    EXPECT_EQ(standins::sdl().modes[1].depth, 32);
+    EXPECT_EQ(standins::sdl().modes[1].flags, std::uint32_t{SDL_OPENGL | SDL_FULLSCREEN});
     EXPECT_EQ(Camera::Instance().right, 24.0) << "by the configured size";
     settings.setDefaults();
     settings.activateConfig();
-    headless::sdl().refusedModes = 0;
+    standins::sdl().refusedModes = 0;
     publish(messages::ResetVideo());
 }
 

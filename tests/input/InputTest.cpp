@@ -4,7 +4,7 @@
 #include "Framework/input/Joystick.h"
 #include "Framework/input/KeyMapper.h"
 #include "Framework/input/MenuInputHandler.h"
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 #include "tests/support/Errors.h"
 
 #include <gtest/gtest.h>
@@ -15,10 +15,10 @@
 
 using namespace quorva;
 using namespace quorva::input;
-using headless::pushAxisMotion;
-using headless::pushButton;
-using headless::pushKey;
-using headless::sdl;
+using standins::pushAxisMotion;
+using standins::pushButton;
+using standins::pushKey;
+using standins::sdl;
 
 namespace {
 
@@ -147,7 +147,7 @@ TEST_F(InputTest, FiresOnceAPressWhileTheMoveStays) {
 TEST_F(InputTest, AClosedWindowLeavesTheRestOfTheQueue) {
     InputHandler handler;
     handler.dirty[0] = true;
-    headless::pushQuit();
+    standins::pushQuit();
     pushKey(SDLK_RIGHT, true);
     EXPECT_EQ(play(handler), "EndGame; ");
     EXPECT_EQ(play(handler), "1,0; ");

@@ -1,4 +1,4 @@
-#include "platform/headless/HeadlessGame.h"
+#include "headless/HeadlessGame.h"
 
 #include "Framework/Config.h"
 #include "Framework/Engine.h"
@@ -13,7 +13,7 @@
 #include "game/HelpMenu.h"
 #include "game/Logo.h"
 #include "game/Marvo.h"
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 #include "tests/support/Errors.h"
 
 #include <gtest/gtest.h>
@@ -144,11 +144,11 @@ TEST_F(MenusTest, ConfigurationStepsTogglesAndHolds) {
 TEST_F(MenusTest, SavingWritesActivatesAndRebuildsTheVideo) {
     ConfigMenu& menu = openConfig();
     menu.setNewResolutionStuff(11);
-    headless::sdl().modes.clear();
+    standins::sdl().modes.clear();
     press({SDLK_UP, SDLK_UP, SDLK_RETURN});
     EXPECT_EQ(config::Config::Instance().getScreenWidth(), 1280);
-    ASSERT_EQ(headless::sdl().modes.size(), 1U);
-    EXPECT_EQ(headless::sdl().modes[0].height, 800);
+    ASSERT_EQ(standins::sdl().modes.size(), 1U);
+    EXPECT_EQ(standins::sdl().modes[0].height, 800);
     EXPECT_TRUE(std::ifstream("game.conf"));
     EXPECT_EQ(main.background->box.right, 24.0) << "the backdrop fits the new shape";
     EXPECT_TRUE(main.shown);

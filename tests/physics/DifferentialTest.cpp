@@ -1,10 +1,10 @@
 // The physics must come to the same as its plain loops, to the last bit, on whatever field.
 
-#include "bench/support/PlainPhysics.h"
 #include "tests/support/FieldTest.h"
+#include "tests/support/PlainPhysics.h"
 
 #include "game/PupLine.h"
-#include "platform/headless/StateHash.h"
+#include "headless/StateHash.h"
 
 #include <limits>
 #include <random>

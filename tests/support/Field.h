@@ -10,8 +10,8 @@
 #include "game/PlayerCharacter.h"
 #include "game/TrapLine.h"
 #include "game/Triangle.h"
-#include "platform/headless/HeadlessGame.h"
-#include "platform/headless/VirtualSDL.h"
+#include "headless/HeadlessGame.h"
+#include "platform/standins/VirtualSDL.h"
 
 /// A running level whose field is furnished by hand: nothing hunts, and the player is untouchable.
 class Field {

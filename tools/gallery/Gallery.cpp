@@ -11,7 +11,7 @@
 #include "Framework/Messages.h"
 #include "game/GameBase.h"
 #include "game/Marvo.h"
-#include "platform/headless/HeadlessGame.h"
+#include "headless/HeadlessGame.h"
 #include "tools/gallery/Picture.h"
 #include "tools/gallery/Player.h"
 #include "tools/gallery/Scene.h"

@@ -8,7 +8,7 @@
 #include "game/PlayerCharacter.h"
 #include "game/PowerUp.h"
 #include "game/Triangle.h"
-#include "platform/headless/HeadlessGame.h"
+#include "headless/HeadlessGame.h"
 
 #include <SDL.h>
 

@@ -5,7 +5,7 @@
 #include "Framework/menus/MainMenu.h"
 #include "game/GameLevel.h"
 #include "game/PlayerCharacter.h"
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 
 #include <unistd.h>
 
@@ -14,7 +14,7 @@
 namespace soak {
 
 using namespace quorva;
-using headless::pushKey;
+using standins::pushKey;
 
 const char* const moment_names[moment_count] = {
     "main menu",      "configuration",        "help",
@@ -140,7 +140,7 @@ void Closer::happens(Moment m) {
 void Closer::close() {
     closing = true;
     if (way == by_escape_and_window || way == by_exit) press(SDLK_ESCAPE);
-    if (way != by_exit) headless::pushQuit();
+    if (way != by_exit) standins::pushQuit();
     if (way != by_window_and_keys) return;
     const int keys[] = {SDLK_ESCAPE, SDLK_RETURN, SDLK_p, SDLK_d};
     for (int i = 0; i < 4; ++i)

@@ -2,7 +2,7 @@
 
 #include "Framework/MessageInterface.h"
 #include "Framework/Messages.h"
-#include "platform/headless/Bot.h"
+#include "headless/Bot.h"
 
 #include <cstdint>
 #include <random>

@@ -13,7 +13,7 @@
 #include "Framework/input/KeyMapper.h"
 #include "game/FModSystem.h"
 #include "game/Marvo.h"
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 #include "tools/soak/Closer.h"
 
 #include <fcntl.h>
@@ -27,7 +27,7 @@
 #include <iterator>
 #include <map>
 
-int kov_main(int argc, char* argv[]); // the game's own main
+int gameMain(int argc, char* argv[]); // the game's own main
 
 namespace soak {
 
@@ -75,14 +75,14 @@ void touchServices(std::mt19937& random) {
     std::mt19937 random(seed);
     touchServices(random);
     static Closer* const closer = new Closer(moment, way, seed); // not to end before the program
-    headless::sdl().ticks = seed;
-    headless::sdl().onSwap = [] {
-        headless::sdl().ticks += Timer::Instance().getProcessRate();
+    standins::sdl().ticks = seed;
+    standins::sdl().onSwap = [] {
+        standins::sdl().ticks += Timer::Instance().getProcessRate();
         closer->pass();
     };
     static char name[] = "kov";
     char* arguments[] = {name, nullptr};
-    std::exit(kov_main(1, arguments));
+    std::exit(gameMain(1, arguments));
 }
 
 std::string reportText() {

@@ -6,9 +6,9 @@
 #include "Framework/physics/PhysicsProcessor.h"
 #include "game/GameBase.h"
 #include "game/Marvo.h"
-#include "platform/headless/SoundRecorder.h"
-#include "platform/headless/StateHash.h"
-#include "platform/headless/VirtualSDL.h"
+#include "headless/StateHash.h"
+#include "platform/standins/SoundRecorder.h"
+#include "platform/standins/VirtualSDL.h"
 #include "tools/soak/Memory.h"
 
 #include <algorithm>
@@ -90,8 +90,8 @@ void Soak::noteEndOfGame() {
     ticksSinceEnd = 0;
     totalScore += Marvo::Instance().score;
     bestScore = std::max<std::uint64_t>(bestScore, Marvo::Instance().score);
-    headless::sdl().modes.clear(); // the stand-in's own diary
-    headless::sdl().filesOpened.clear();
+    standins::sdl().modes.clear(); // the stand-in's own diary
+    standins::sdl().filesOpened.clear();
 }
 
 /// In the main menu, and the engine has had the time to delete what is dead.
@@ -108,7 +108,7 @@ void Soak::checkFloor() {
     if (!game.physicsProcessor->entities.empty() || !game.physicsProcessor->lines.empty())
         fault("the physics still knows something");
     if (Engine::Instance().components.size() != 3) fault("wrong components in the menu");
-    if (headless::sound().openStreams != 0) fault("a song is still open");
+    if (standins::sound().openStreams != 0) fault("a song is still open");
 }
 
 void Soak::checkHeap() {

@@ -2,8 +2,8 @@
 
 #include "Framework/MessageInterface.h"
 #include "Framework/Messages.h"
-#include "platform/headless/Bot.h"
-#include "platform/headless/HeadlessGame.h"
+#include "headless/Bot.h"
+#include "headless/HeadlessGame.h"
 
 #include <chrono>
 #include <cstdint>

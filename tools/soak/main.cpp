@@ -3,7 +3,7 @@
 //   kov_soak --closings N [--seed S]      starts and closes the program N times
 // Exit code 0 if nothing was found, 1 if something was.
 
-#include "platform/headless/Sandbox.h"
+#include "headless/Sandbox.h"
 #include "tools/soak/Closings.h"
 #include "tools/soak/Soak.h"
 

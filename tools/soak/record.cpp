@@ -1,11 +1,11 @@
 // Records the games that the tests replay anew: for a change that is meant to alter play.
 //   kov_record FOLDER
 
-#include "platform/headless/Bot.h"
-#include "platform/headless/HeadlessGame.h"
-#include "platform/headless/Recording.h"
-#include "platform/headless/Sandbox.h"
-#include "platform/headless/StateHash.h"
+#include "headless/Bot.h"
+#include "headless/HeadlessGame.h"
+#include "headless/Recording.h"
+#include "headless/Sandbox.h"
+#include "headless/StateHash.h"
 
 #include "game/Marvo.h"
 

@@ -1,12 +1,8 @@
-#include "Framework/Graphics/ColourPolicy.h"
-#include "Framework/Graphics/Draw.h"
 #include "Framework/Graphics/MoveRotatePolicy.h"
 
-namespace quorva::graphics {
+#include "Framework/Graphics/Draw.h"
 
-void ColourPolicy::applyColour1() const {
-    if (colour1 != nullptr) draw::setColour(*colour1);
-}
+namespace quorva::graphics {
 
 void MoveRotatePolicy::applyPlace() const {
     draw::translate(position);

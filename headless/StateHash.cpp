@@ -1,4 +1,4 @@
-#include "platform/headless/StateHash.h"
+#include "headless/StateHash.h"
 
 #include "Framework/Engine.h"
 #include "Framework/Graphics/GraphicObject.h"

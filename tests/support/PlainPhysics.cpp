@@ -1,4 +1,4 @@
-#include "bench/support/PlainPhysics.h"
+#include "tests/support/PlainPhysics.h"
 
 #include "Framework/Entity.h"
 #include "Framework/Messages.h"

@@ -1,4 +1,4 @@
-#include "platform/headless/Bot.h"
+#include "headless/Bot.h"
 
 #include "Framework/Engine.h"
 #include "Framework/Graphics/Camera.h"
@@ -10,7 +10,7 @@
 #include "game/PlayerCharacter.h"
 #include "game/PowerUp.h"
 #include "game/Triangle.h"
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 
 #include <algorithm>
 #include <cmath>
@@ -323,7 +323,7 @@ void Bot::press(int symbol) {
 }
 
 void Bot::send(int symbol, bool down) {
-    pushKey(symbol, down);
+    standins::pushKey(symbol, down);
     if (onKey) onKey(symbol, down);
 }
 

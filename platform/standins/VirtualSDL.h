@@ -12,7 +12,7 @@
 // A stand-in for SDL at link time: virtual time, scripted events, scripted joysticks and a window
 // that is only written down. With it the real game runs without a display, as fast as it can.
 
-namespace quorva::headless {
+namespace quorva::standins {
 
 struct VideoMode {
     int width, height, depth;
@@ -42,4 +42,4 @@ void pushButton(int button, bool down);
 void pushAxisMotion(); ///< says that an axis has moved; `axes` says where it stands
 void pushQuit();
 
-} // namespace quorva::headless
+} // namespace quorva::standins

@@ -1,6 +1,6 @@
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 
-namespace quorva::headless {
+namespace quorva::standins {
 
 VirtualSDL& sdl() {
     static auto* const state = new VirtualSDL; // outlives every singleton
@@ -38,9 +38,9 @@ void pushQuit() {
     pushEvent(SDL_QUIT);
 }
 
-} // namespace quorva::headless
+} // namespace quorva::standins
 
-using quorva::headless::sdl;
+using quorva::standins::sdl;
 
 extern "C" {
 

@@ -1,9 +1,9 @@
 // The window and the joysticks of the stand-in for SDL. Apart from clock and events, so that a
 // program can have those with a real window.
 
-#include "platform/headless/VirtualSDL.h"
+#include "platform/standins/VirtualSDL.h"
 
-using quorva::headless::sdl;
+using quorva::standins::sdl;
 
 struct _SDL_Joystick {
     int index;

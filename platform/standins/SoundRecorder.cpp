@@ -1,4 +1,4 @@
-#include "platform/headless/SoundRecorder.h"
+#include "platform/standins/SoundRecorder.h"
 
 #include "platform/fmodex/fmodex.h"
 
@@ -18,7 +18,7 @@ struct FMOD_CHANNEL {
     std::string path; ///< of what it plays
 };
 
-namespace quorva::headless {
+namespace quorva::standins {
 
 std::string SoundRecorder::take() {
     std::string text;
@@ -71,9 +71,9 @@ std::string nameOf(const FMOD_CHANNEL* channel) {
 
 } // namespace
 
-} // namespace quorva::headless
+} // namespace quorva::standins
 
-using namespace quorva::headless;
+using namespace quorva::standins;
 
 FMOD_RESULT FMOD_System_Create(FMOD_SYSTEM** system) {
     static FMOD_SYSTEM the_system;

@@ -1,21 +1,20 @@
-#include "platform/headless/HeadlessGame.h"
+#include "headless/HeadlessGame.h"
 
 #include "Framework/Config.h"
-#include "Framework/Constants.h"
 #include "Framework/Engine.h"
-#include "Framework/GameInfo.h"
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Managers/PointManager.h"
 #include "Framework/Timer.h"
 #include "Framework/math/MTRand.h"
 #include "game/BombIndicator.h"
 #include "game/GameBase.h"
+#include "game/GameIdentity.h"
 #include "game/Marvo.h"
 #include "game/PowerUpLines.h"
 #include "game/SquareIndicator.h"
 #include "game/Triangle.h"
-#include "platform/headless/StateHash.h"
-#include "platform/headless/VirtualSDL.h"
+#include "headless/StateHash.h"
+#include "platform/standins/VirtualSDL.h"
 
 namespace quorva::headless {
 
@@ -30,20 +29,12 @@ void forgetLastRun() {
     Engine::Instance().nextId = 1;
 }
 
-void introduceGame() {
-    GameInfoClass& info = GameInfo::Instance();
-    info.name = info.title = "KOV";
-    info.version = "1.0";
-    info.homeDirectory = ".kov";
-    info.configFile = STARTING_PATH + "game.conf";
-}
-
 } // namespace
 
 HeadlessGame::HeadlessGame(std::uint32_t startTicks, unsigned short width, unsigned short height)
     : engine(Engine::Instance()) {
-    sdl().ticks = startTicks;
-    sdl().events.clear();
+    standins::sdl().ticks = startTicks;
+    standins::sdl().events.clear();
     introduceGame();
     forgetLastRun();
     config::ConfigClass& settings = config::Config::Instance();
@@ -75,7 +66,7 @@ void HeadlessGame::frame() {
 
 void HeadlessGame::process() {
     TimerClass& timer = Timer::Instance();
-    sdl().ticks += timer.getProcessRate();
+    standins::sdl().ticks += timer.getProcessRate();
     if (timer.paused) return;
     engine.process();
     timer.calculateLastBlip();
@@ -92,7 +83,7 @@ void HeadlessGame::ticks(unsigned int count) {
 }
 
 void HeadlessGame::key(int symbol, bool down) {
-    pushKey(symbol, down);
+    standins::pushKey(symbol, down);
 }
 
 void HeadlessGame::press(int symbol) {

@@ -1,10 +1,10 @@
 #include <GL/glew.h>
 
-#include "platform/headless/GLRecorder.h"
+#include "platform/standins/GLRecorder.h"
 
 #include <sstream>
 
-namespace quorva::headless {
+namespace quorva::standins {
 
 void GLRecorder::start() {
     calls.clear();
@@ -34,7 +34,7 @@ GLRecorder& glRecorder() {
     return recorder;
 }
 
-} // namespace quorva::headless
+} // namespace quorva::standins
 
 namespace {
 
@@ -42,7 +42,7 @@ constexpr GLint largest_texture = 2048; // pixels; the library of the fonts asks
 
 template <class... Arguments>
 void record(const char* name, Arguments... arguments) {
-    auto& recorder = quorva::headless::glRecorder();
+    auto& recorder = quorva::standins::glRecorder();
     ++recorder.total;
     if (!recorder.recording) return;
     recorder.calls.push_back({name, {static_cast<double>(arguments)...}, sizeof...(arguments)});

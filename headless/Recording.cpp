@@ -1,7 +1,7 @@
-#include "platform/headless/Recording.h"
+#include "headless/Recording.h"
 
-#include "platform/headless/HeadlessGame.h"
-#include "platform/headless/StateHash.h"
+#include "headless/HeadlessGame.h"
+#include "headless/StateHash.h"
 
 #include <fstream>
 #include <iterator>

@@ -1,6 +1,6 @@
-#include "platform/headless/Sandbox.h"
+#include "headless/Sandbox.h"
 
-#include "Framework/GameInfo.h"
+#include "game/GameIdentity.h"
 
 #include <unistd.h>
 
@@ -15,10 +15,8 @@ Sandbox::Sandbox(const fs::path& source)
         fs::create_directory_symlink(fs::absolute(source) / name, folder / name);
     fs::create_directory(folder / "Songs");
     fs::current_path(folder);
-    // Before a resource manager looks for its file.
-    GameInfoClass& info = GameInfo::Instance();
-    info.homeDirectory = ".kov";
-    info.configFile = "game.conf";
+    // Before a resource manager looks for its file, whose ending it takes from there.
+    introduceGame();
 }
 
 Sandbox::~Sandbox() {

@@ -8,7 +8,7 @@
 // A stand-in for OpenGL at link time: a program that links it draws without a window, and can
 // look at the calls that a frame has sent.
 
-namespace quorva::headless {
+namespace quorva::standins {
 
 struct GLCall {
     const char* name;
@@ -34,4 +34,4 @@ public:
 
 GLRecorder& glRecorder();
 
-} // namespace quorva::headless
+} // namespace quorva::standins

@@ -5,7 +5,7 @@
 
 // A stand-in for the sound layer at link time: nothing is heard, every call is written down.
 
-namespace quorva::headless {
+namespace quorva::standins {
 
 struct SoundRecorder {
     std::vector<std::string> calls; ///< such as "play Sounds/hit.wav", while recording
@@ -20,4 +20,4 @@ struct SoundRecorder {
 
 SoundRecorder& sound();
 
-} // namespace quorva::headless
+} // namespace quorva::standins
