@@ -1,0 +1,257 @@
+#!/usr/bin/env python3
+"""Do the tests notice small faults? Puts them into a copy of the tree, one at a time.
+
+    tools/mutants.py --seed S --count N [FOLDER...]
+
+draws N places from the seed, each line of code as likely as any other, in the folders (Framework,
+game and platform/fmodex unless named), and makes one fault at each: a comparison turned, a constant
+changed, a statement left out, two arguments swapped, a sign. For every fault the copy is built and
+the whole suite run, up to the first test that fails. Printed is each fault that all tests pass, and
+last "N mutants, K survive, M do not build". A fault that leaves the programs the same to the byte is
+none: another is drawn for it. Some survivors change nothing that can be seen; a reader has to say
+which.
+"""
+
+import argparse
+import hashlib
+import os
+import random
+import re
+import resource
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent
+DEFAULT_FOLDERS = ["Framework", "game", "platform/fmodex"]
+TEST_PROGRAMS = ["tests/kov_tests", "tests/kov_fault_tests", "tests/kov_sound_tests"]
+MEMORY_LIMIT = 4 << 30  # bytes a test process may map: a fault may ask for all there is
+SLACK_SECONDS = 60  # on top of three times what the suite takes without a fault
+
+NUMBER = re.compile(r"(?<![\w.])(\d+\.\d*|\.\d+|\d+)(?:[eE][+-]?\d+)?(?=[uUlLfF]*\b|[^\w.]|$)")
+SWAPS = {  # operators, with their blanks so that templates and pointers are left alone
+    " < ": [" <= ", " > "], " <= ": [" < ", " >= "], " > ": [" >= ", " < "], " >= ": [" > ", " <= "],
+    " == ": [" != "], " != ": [" == "], " && ": [" || "], " || ": [" && "],
+    " + ": [" - "], " - ": [" + "], " += ": [" -= "], " -= ": [" += "], " * ": [" / "], " / ": [" * "],
+}
+NOT_A_STATEMENT = re.compile(
+    r"^(return|break|continue|using|typedef|class|struct|enum|friend|public|private|protected|case|"
+    r"default|namespace|template|virtual|extern|static_assert|goto|else|#)\b")
+DECLARATION = re.compile(r"^(?!delete\b)[\w:<>,*&\s]*[\w>*&]\s+[*&]*\w+\s*(=|;|\{|\(|\[)")
+PARAMETER = re.compile(r"^\s*(const\s+)?[\w:<>*&]+\s*[*&\s]\s*\w+\s*(=.*)?$")
+ORDERLESS = {"max", "min", "swap", "fuzzyEqual"}  # their arguments may change places
+
+
+class Fault:
+    def __init__(self, path, line, before, after):
+        self.path, self.line, self.before, self.after = path, line, before, after
+
+    def __str__(self):
+        return f"{self.path}:{self.line}: {self.before.strip()}  ->  {self.after.strip() or '(left out)'}"
+
+
+def blank_comments_and_strings(text):
+    """The text at the same length, with comments, strings and characters blanked out."""
+    pattern = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'', re.S)
+    return pattern.sub(lambda found: re.sub(r"[^\n]", " ", found.group()), text)
+
+
+def closing(code, opening):
+    """Where the bracket at `opening` closes, and the commas between at its own level; None if not
+    on this line."""
+    depth, commas = 0, []
+    for at in range(opening, len(code)):
+        if code[at] in "([{":
+            depth += 1
+        elif code[at] in ")]}":
+            depth -= 1
+            if depth == 0:
+                return at, commas
+        elif code[at] == "," and depth == 1:
+            commas.append(at)
+    return None
+
+
+def swapped_arguments(line, code):
+    for call in re.finditer(r"(\w+)\(", code):
+        found = closing(code, call.end() - 1)
+        if not found or not found[1] or call.group(1) in ORDERLESS:
+            continue
+        end, commas = found
+        bounds = [call.end() - 1, *commas, end]
+        for a, b, c in zip(bounds, bounds[1:], bounds[2:]):
+            first, second = line[a + 1:b].strip(), line[b + 1:c].strip()
+            if first != second and not PARAMETER.match(first) and not PARAMETER.match(second):
+                yield line[:a + 1] + second + ", " + first + line[c:]
+
+
+def changed_constants(line, code):
+    for number in NUMBER.finditer(code):
+        text = number.group(1)
+        others = [str(int(text) + 1)] if text.isdigit() else [repr(float(text) * 1.25 + 0.125)]
+        if text.isdigit() and int(text) > 0:
+            others.append(str(int(text) - 1))
+        for other in others:
+            yield line[:number.start(1)] + other + line[number.end(1):]
+    for word, other in (("true", "false"), ("false", "true")):
+        for found in re.finditer(rf"\b{word}\b", code):
+            yield line[:found.start()] + other + line[found.end():]
+
+
+def turned_operators(line, code):
+    for operator, others in SWAPS.items():
+        at = code.find(operator)
+        while at >= 0:
+            for other in others:
+                yield line[:at] + other + line[at + len(operator):]
+            at = code.find(operator, at + 1)
+    for sign in re.finditer(r"(?<=[(,=] )-(?=[\w(.])|(?<=\()-(?=[\w(.])|(?<=return )-(?=[\w(.])", code):
+        yield line[:sign.start()] + line[sign.end():]
+
+
+def left_out(line, code, before):
+    statement = code.strip()
+    starts_here = before.strip()[-1:] in ("", ";", "{", "}", ":", ")") and not before.strip().startswith("#")
+    if (starts_here and statement.endswith(";") and re.search(r"[=(]|\+\+|--|^delete\b", statement)
+            and not NOT_A_STATEMENT.match(statement) and not DECLARATION.match(statement)
+            and statement.count("(") == statement.count(")")):
+        yield re.sub(r"\S.*", ";", line)  # an empty one, as it may be all that an `if` has
+
+
+def faults_of(path, number, lines, codes):
+    line, code = lines[number], codes[number]
+    if code.lstrip().startswith(("#", "static_assert", "using", "namespace")):
+        return []
+    before = next((codes[i] for i in range(number - 1, -1, -1) if codes[i].strip()), "")
+    kinds = [list(turned_operators(line, code)), list(changed_constants(line, code)),
+             list(left_out(line, code, before)), list(swapped_arguments(line, code))]
+    return [[Fault(path, number + 1, line, after) for after in kind] for kind in kinds if kind]
+
+
+class Draw:
+    """Faults without end, each line with any code as likely as any other."""
+
+    def __init__(self, root, folders, seed):
+        self.random, self.places, self.drawn = random.Random(seed), [], set()
+        for folder in folders:
+            for path in sorted((root / folder).rglob("*")):
+                if path.suffix not in (".cpp", ".h"):
+                    continue
+                text = path.read_text()
+                lines, codes = text.split("\n"), blank_comments_and_strings(text).split("\n")
+                relative = path.relative_to(root)
+                self.places += [(relative, n, lines, codes) for n in range(len(lines)) if codes[n].strip()]
+        if not self.places:
+            sys.exit("mutants.py: there is no C++ in these folders")
+
+    def next(self):
+        for _ in range(100000):
+            kinds = faults_of(*self.random.choice(self.places))
+            if not kinds:
+                continue
+            fault = self.random.choice(self.random.choice(kinds))
+            key = (str(fault.path), fault.line, fault.after)
+            if key not in self.drawn:
+                self.drawn.add(key)
+                return fault
+        sys.exit("mutants.py: there are not so many different faults in these folders")
+
+
+class Copy:
+    """A copy of the tree with a build of its own, in which the faults are made."""
+
+    def __init__(self, folder):
+        self.folder, self.build = folder, folder / "build" / "mutants"
+        for name in subprocess.check_output(["git", "ls-files", "-z"], cwd=ROOT, text=True).split("\0"):
+            if name and (ROOT / name).exists():
+                (folder / name).parent.mkdir(parents=True, exist_ok=True)
+                shutil.copy2(ROOT / name, folder / name)
+        self.must(["cmake", "-G", "Ninja", "-B", str(self.build), "-S", str(folder), "-DKOV_TESTS=ON"])
+        self.must(["cmake", "--build", str(self.build)])
+        self.limit = None
+        self.programs = self.digest()
+        started = time.monotonic()
+        if self.failing_test() is not None:
+            sys.exit("mutants.py: the tests fail without any fault")
+        self.limit = 3 * (time.monotonic() - started) + SLACK_SECONDS
+
+    def must(self, command):
+        if self.run(command) != 0:
+            sys.exit("mutants.py: this fails without any fault: " + " ".join(command))
+
+    def run(self, command, limit=None, tests=False):
+        """The exit code; None if it took too long, which ends all that it has started."""
+        def own_group():
+            os.setsid()
+            if tests:
+                resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
+        process = subprocess.Popen(command, cwd=self.build if self.build.exists() else self.folder,
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                   stdin=subprocess.DEVNULL, preexec_fn=own_group)
+        try:
+            return process.wait(limit)
+        except subprocess.TimeoutExpired:
+            return None
+        finally:
+            try:
+                os.killpg(process.pid, 9)
+            except ProcessLookupError:
+                pass
+            process.wait()
+
+    def failing_test(self):
+        """What failed first, None if all tests pass. The largest program runs in one process
+        first, which is quicker than a process a test and sees most faults."""
+        if self.run([self.build / TEST_PROGRAMS[0], "--gtest_fail_fast"], self.limit, True) != 0:
+            return TEST_PROGRAMS[0]
+        suite = ["ctest", "--stop-on-failure", "-j", str(os.cpu_count())]
+        return None if self.run(suite, self.limit, True) == 0 else "ctest"
+
+    def digest(self):
+        programs = [self.build / name for name in TEST_PROGRAMS] + [self.build / "kov"]
+        return [hashlib.sha256(program.read_bytes()).digest() for program in programs]
+
+    def try_out(self, fault):
+        """"survives", "dies", "does not build" or "changes nothing"."""
+        path = self.folder / fault.path
+        original = path.read_text()
+        lines = original.split("\n")
+        lines[fault.line - 1] = fault.after
+        path.write_text("\n".join(lines))
+        try:
+            if self.run(["cmake", "--build", str(self.build)], 900) != 0:
+                return "does not build"
+            if self.digest() == self.programs:
+                return "changes nothing"
+            return "survives" if self.failing_test() is None else "dies"
+        finally:
+            path.write_text(original)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
+    parser.add_argument("--seed", type=int, required=True)
+    parser.add_argument("--count", type=int, required=True, metavar="N")
+    parser.add_argument("--verbose", action="store_true", help="also print the faults that are found")
+    parser.add_argument("folders", nargs="*", default=DEFAULT_FOLDERS, metavar="FOLDER")
+    arguments = parser.parse_args()
+    draw = Draw(ROOT, arguments.folders, arguments.seed)
+    ends = {"survives": 0, "dies": 0, "does not build": 0}
+    with tempfile.TemporaryDirectory(prefix="kov-mutants-") as folder:
+        copy = Copy(Path(folder))
+        while sum(ends.values()) < arguments.count:
+            fault = draw.next()
+            end = copy.try_out(fault)
+            if end in ends:
+                ends[end] += 1
+            if end == "survives" or arguments.verbose:
+                print(f"{end}: {fault}", flush=True)
+    print(f"{sum(ends.values())} mutants, {ends['survives']} survive, "
+          f"{ends['does not build']} do not build")
+
+
+if __name__ == "__main__":
+    main()
