@@ -2,6 +2,7 @@
 
 #include <FTGL/ftgl.h>
 
+#include <cstdlib>
 #include <iostream>
 
 namespace quorva::graphics {
@@ -55,11 +56,12 @@ Font::Font(FontRenderModeE mode_, const std::string& path) : mode(mode_) {
 
 void Font::loadFont(const std::string& path) {
     if (loaded) return;
-    if (isKnown(mode))
-        font.reset(modes[mode].make(path.c_str()));
-    else
+    if (!isKnown(mode)) {
         std::cerr << "Unknown font type for: " << path << '\n';
-    if (font->Error() != 0) { // a null font is a programming fault: the pointer asserts
+        std::abort(); // a programming fault, also where assertions are left out
+    }
+    font.reset(modes[mode].make(path.c_str()));
+    if (font->Error() != 0) {
         std::cerr << "Couldn't load font: " << path << '\n';
         loaded = false;
         return;

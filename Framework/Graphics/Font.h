@@ -11,7 +11,7 @@ class FTFont;
 namespace quorva::graphics {
 
 /// How a font is drawn; each has an FTGL class of its own.
-enum FontRenderModeE { FR_POLYGON, FR_BITMAP, FR_PIXMAP, FR_OUTLINE, FR_TEXTURE };
+enum FontRenderModeE : int { FR_POLYGON, FR_BITMAP, FR_PIXMAP, FR_OUTLINE, FR_TEXTURE };
 
 /// Exact comparison with "Polygon", "Bitmap", "Pixmap", "Outline", "Texture". Anything else is
 /// reported on standard error and gives FR_POLYGON.

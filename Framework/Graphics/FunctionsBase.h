@@ -5,7 +5,7 @@
 namespace quorva::graphics {
 
 /// What the vertices between begin and end make up.
-enum ShapeEnum {
+enum ShapeEnum : int {
     SHAPE_TRIANGLES = 0,
     SHAPE_TRIANGLE_STRIP = 1,
     SHAPE_TRIANGLE_FAN = 2,
@@ -19,11 +19,12 @@ enum ShapeEnum {
     SHAPE_NONE = 11,
 };
 
-/// Only the first has an effect in GL.
-enum BlendModeEnum { BLEND_STANDARD = 0 };
+/// How a colour is mixed with what it is drawn over. Only the first has an effect in GL; any
+/// other number is stored and handed back.
+enum BlendModeEnum : int { BLEND_STANDARD = 0 };
 
 /// How geometry goes to GL. There is one way; both values select it.
-enum RenderMode { RENDER_IMMEDIATE = 0, RENDER_OTHER = 1 };
+enum RenderMode : int { RENDER_IMMEDIATE = 0, RENDER_OTHER = 1 };
 
 /// A way of sending geometry and state to GL.
 class FunctionsBase {

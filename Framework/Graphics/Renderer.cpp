@@ -22,7 +22,7 @@ namespace quorva::graphics {
 namespace {
 
 constexpr std::size_t usual_renderables = 500; ///< room without an allocation
-constexpr float background_grey = 0.105882F;   ///< very dark, neutral
+constexpr float background_grey = 0.105882F;   ///< very dark; red, green and blue alike
 constexpr int fallback_width = 800, fallback_height = 600, fallback_depth = 32;
 
 bool trySetVideoMode(int width, int height, int depth, Uint32 flags) {
@@ -39,7 +39,7 @@ void openVideoMode() {
         !trySetVideoMode(fallback_width, fallback_height, fallback_depth, flags))
         std::exit(-1);
     if (config.getFullScreen()) SDL_ShowCursor(SDL_DISABLE);
-    // After the mode, where it has no effect on this one: the context has SDL's defaults.
+    // Deliberately after SDL_SetVideoMode: too late for this context, which keeps SDL's defaults.
     SDL_GL_SetAttribute(SDL_GL_DOUBLEBUFFER, 1);
 }
 
@@ -56,6 +56,15 @@ void setupState() {
     draw::enableCulling();
     draw::setBlendMode(BLEND_STANDARD);
     draw::renderSmooth();
+}
+
+/// An insertion sort: stable, so that things of equal layer and depth keep the order in which
+/// they arrived; in place; and quick, as only what has arrived since the last frame moves.
+void sortInPlace(std::vector<RenderableThing*>& things) {
+    const RenderObjectSort less;
+    for (auto thing = things.begin(); thing != things.end(); ++thing)
+        if (thing != things.begin() && less(*thing, *(thing - 1)))
+            std::rotate(std::upper_bound(things.begin(), thing, *thing, less), thing, thing + 1);
 }
 
 void setupWindow() {
@@ -89,7 +98,7 @@ void Renderer::setupVideo() {
 }
 
 void Renderer::update() {
-    std::sort(renderables.begin(), renderables.end(), RenderObjectSort());
+    sortInPlace(renderables);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     for (RenderableThing* thing : renderables)
         thing->render();

@@ -14,7 +14,7 @@ namespace quorva::graphics {
 
 class RenderableThing;
 
-/// Drawing order: by layer, then by depth. Equal ones come in any order.
+/// Drawing order: by layer, then by depth, both ascending.
 struct RenderObjectSort {
     bool operator()(const RenderableThing* a, const RenderableThing* b) const;
 };

@@ -72,6 +72,7 @@ unsigned int loadTGA(std::string path) {
     glBindTexture(GL_TEXTURE_2D, name);
     const bool opaque = image.getBPP() == 24;
     if (!opaque && image.getBPP() != 32) return 0;
+    glPixelStorei(GL_UNPACK_ALIGNMENT, 1); // rows follow one another without padding
     glTexImage2D(GL_TEXTURE_2D, 0, opaque ? 3 : 4, image.getWidth(), image.getHeight(), 0,
                  opaque ? GL_RGB : GL_RGBA, GL_UNSIGNED_BYTE, image.getImg());
     for (const GLenum filter : {GL_TEXTURE_MIN_FILTER, GL_TEXTURE_MAG_FILTER})

@@ -48,6 +48,18 @@ void record(const char* name, Arguments... arguments) {
     recorder.calls.push_back({name, {static_cast<double>(arguments)...}, sizeof...(arguments)});
 }
 
+/// The pixels without the padding that GL takes to be behind each row.
+std::vector<unsigned char> unpack(const GLvoid* pixels, GLsizei w, GLsizei h, GLenum format) {
+    const std::size_t row = static_cast<std::size_t>(w) * (format == GL_RGB ? 3 : 4);
+    const std::size_t alignment = quorva::standins::glRecorder().unpackAlignment;
+    const std::size_t stride = (row + alignment - 1) / alignment * alignment;
+    std::vector<unsigned char> image;
+    const auto* const first = static_cast<const unsigned char*>(pixels);
+    for (GLsizei y = 0; y < h; ++y)
+        image.insert(image.end(), first + y * stride, first + y * stride + row);
+    return image;
+}
+
 /// Names of lists and textures, never given twice.
 GLuint nextNames(GLsizei count) {
     static GLuint next = 1;
@@ -167,8 +179,14 @@ void GLAPIENTRY glBindTexture(GLenum target, GLuint name) {
     record("glBindTexture", target, name);
 }
 void GLAPIENTRY glTexImage2D(GLenum target, GLint level, GLint internal, GLsizei w, GLsizei h,
-                             GLint border, GLenum format, GLenum type, const GLvoid*) {
+                             GLint border, GLenum format, GLenum type, const GLvoid* pixels) {
     record("glTexImage2D", target, level, internal, w, h, border, format, type);
+    if (format == GL_RGB || format == GL_RGBA)
+        quorva::standins::glRecorder().image = unpack(pixels, w, h, format);
+}
+void GLAPIENTRY glPixelStorei(GLenum name, GLint value) {
+    record("glPixelStorei", name, value);
+    if (name == GL_UNPACK_ALIGNMENT) quorva::standins::glRecorder().unpackAlignment = value;
 }
 void GLAPIENTRY glTexParameteri(GLenum target, GLenum name, GLint value) {
     record("glTexParameteri", target, name, value);

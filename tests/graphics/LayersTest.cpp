@@ -2,8 +2,10 @@
 
 #include "Framework/Config.h"
 #include "Framework/Graphics/Camera.h"
+#include "Framework/Graphics/Draw.h"
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Renderer.h"
+#include "Framework/Graphics/Stuff/GGrid.h"
 #include "Framework/Graphics/Stuff/GLine.h"
 #include "Framework/Graphics/Stuff/GSlideBar.h"
 #include "Framework/Graphics/Stuff/GTransparentBox.h"
@@ -13,6 +15,8 @@
 #include "game/GTriangle.h"
 #include "platform/standins/GLRecorder.h"
 #include "tests/support/Errors.h"
+
+#include <csignal>
 
 using namespace quorva;
 using namespace quorva::graphics;
@@ -75,6 +79,13 @@ TEST(Shapes, DrawTheirFigures) {
     box.box = primitives::Box(4, -2, -1, 3);
     EXPECT_EQ(recordingOf([&] { box.render(); }),
               head + "glDisable 2929\n" + quad + "glEnable 2929\n");
+
+    GGrid grid;
+    grid.divisions = 0;
+    grid.box = box.box;
+    EXPECT_EQ(recordingOf([&] { grid.render(); }),
+              head + "glBegin 1\nglVertex2f -1 -2\nglVertex2f -1 4\nglVertex2f -1 -2\n"
+                     "glVertex2f 3 -2\nglEnd\n");
 
     GTriangle triangle;
     EXPECT_EQ(callsOf(triangle, "glVertex3f"), 3U);
@@ -178,6 +189,36 @@ TEST_F(FieldTest, FramesAreDrawnInOrderOfLayerAndDepth) {
     const std::uint64_t swaps = standins::sdl().swaps;
     EXPECT_EQ(recordingOf([&] { renderer.update(); }), "glClear 16640\n");
     EXPECT_EQ(standins::sdl().swaps, swaps + 1);
+}
+
+TEST_F(FieldTest, TwoFramesOfOneStateAreTheSame) {
+    for (int i = 0; i < 50; ++i)
+        layAt(i, i);
+    run.frame(); // the fonts make their lists
+    run.press(SDLK_p);
+    run.frame();
+    const std::string first = recordingOf([&] { run.frame(); });
+    EXPECT_EQ(recordingOf([&] { run.frame(); }), first);
+    EXPECT_GT(run.game().renderer->renderables.size(), 50U);
+}
+
+TEST(BlendModes, AnyNumberIsKeptButOnlyTheFirstReachesGL) {
+    GLFunctions& functions = draw::i_fun;
+    for (const int number : {0, 1, 7}) {
+        const auto mode = static_cast<BlendModeEnum>(number);
+        recordingOf([&] { functions.setBlendMode(mode); });
+        EXPECT_EQ(glRecorder().calls.size(), number == 0 ? 1U : 0U);
+        functions.saveBlendMode();
+        functions.setBlendMode(BLEND_STANDARD);
+        EXPECT_EQ(recordingOf([&] { functions.restoreBlendMode(); }), "");
+        EXPECT_EQ(functions.currentBlendMode, mode);
+    }
+}
+
+TEST(Words, AFontOfAnUnknownModeEndsTheProcess) {
+    Font font(static_cast<FontRenderModeE>(5));
+    EXPECT_EXIT(font.loadFont("fonts/KovText.ttf"), testing::KilledBySignal(SIGABRT),
+                "^Unknown font type for: fonts/KovText.ttf\n$");
 }
 
 TEST_F(FieldTest, AnOrdinaryFrameLeavesTheMatrixStackAsItWas) {

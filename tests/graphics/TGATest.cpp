@@ -1,15 +1,20 @@
 #include "Framework/Graphics/TGA.h"
 
+#include "Framework/Managers/TextureResources.h"
+#include "platform/standins/GLRecorder.h"
+
+#include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 
-#include <cstdio>
 #include <fstream>
 
-using quorva::graphics::TGA;
+using namespace quorva;
+using graphics::TGA;
+using standins::glRecorder;
 
 namespace {
 
-constexpr const char* path = "image.tga";
+constexpr const char* path = "textures/image.tga";
 using Bytes = std::vector<int>;
 
 /// A header with the fields that matter here; 2 by 2 pixels unless told otherwise.
@@ -28,11 +33,14 @@ Bytes file(const Header& h, const Bytes& data) {
     return bytes;
 }
 
-int load(const Bytes& bytes, TGA& image) {
+void write(const Bytes& bytes) {
     std::ofstream out(path, std::ios::binary);
     for (const int byte : bytes)
         out.put(static_cast<char>(byte));
-    out.close();
+}
+
+int load(const Bytes& bytes, TGA& image) {
+    write(bytes);
     std::string name = path;
     return image.load(name);
 }
@@ -53,25 +61,74 @@ Header mappedHeader(int type) {
 
 class TGATest : public testing::Test {
 protected:
-    void TearDown() override { std::remove(path); }
+    void SetUp() override {
+        boost::filesystem::rename("textures", "shipped"); // a link, to what is read only
+        boost::filesystem::create_directory("textures");
+    }
+    void TearDown() override {
+        boost::filesystem::remove_all("textures");
+        boost::filesystem::rename("shipped", "textures");
+    }
     TGA image{"none.tga"};
 };
 
-const Bytes four = {3, 2, 1, 6, 5, 4, 9, 8, 7, 12, 11, 10}; // blue, green, red
-
 } // namespace
 
-TEST_F(TGATest, TurnsPixelsToRedFirstAndTopDownOnlyIfFlaggedBottomUp) {
-    EXPECT_EQ(load(file({}, four), image), 1);
-    EXPECT_EQ(pixelsOf(image, 12), (Bytes{1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}));
-    Header h;
-    h.descriptor = 0;
-    EXPECT_EQ(load(file(h, four), image), 1);
-    EXPECT_EQ(pixelsOf(image, 12), (Bytes{7, 8, 9, 10, 11, 12, 1, 2, 3, 4, 5, 6}));
-    h.bits = 32;
-    h.width = h.height = 1;
-    EXPECT_EQ(load(file(h, {3, 2, 1, 200}), image), 1);
-    EXPECT_EQ(pixelsOf(image, 4), (Bytes{1, 2, 3, 200})) << "alpha stays";
+TEST_F(TGATest, ReachesGLRedFirstAndTurnedUnlessFlagged) {
+    for (const int type : {2, 10})
+        for (const int bits : {24, 32})
+            for (const int descriptor : {0, 0x20}) {
+                const auto add = [bits](Bytes& to, int i, bool redFirst) {
+                    const int red = 10 * i, blue = 10 * i + 2;
+                    to.insert(to.end(), {redFirst ? red : blue, 10 * i + 1, redFirst ? blue : red});
+                    if (bits == 32) to.push_back(200 + i);
+                };
+                Bytes data, rows[2]; // the first row of the file is of one colour
+                for (int i = 0; i < 6; ++i) {
+                    const int colour = i < 3 ? 0 : i;
+                    if (type == 10 && i % 3 == 0) data.push_back(i == 0 ? 0x82 : 0x02);
+                    if (type == 2 || i == 0 || i > 2) add(data, colour, false);
+                    add(rows[i / 3], colour, true);
+                }
+                if (descriptor == 0) std::swap(rows[0], rows[1]);
+                rows[0].insert(rows[0].end(), rows[1].begin(), rows[1].end());
+                Header h;
+                h.type = type;
+                h.bits = bits;
+                h.width = 3; // rows of nine bytes: no multiple of four
+                h.descriptor = descriptor;
+                write(file(h, data));
+                std::string line = "Name, image.tga ", name;
+                resources::TextureObject texture;
+                glRecorder().start();
+                EXPECT_TRUE(resources::parseLineAndCreateTexture(line, name, texture));
+                glRecorder().stop();
+                EXPECT_EQ(name + " " + texture.file, "Name image.tga");
+                EXPECT_EQ(texture.name, glRecorder().callsTo("glBindTexture")[0].arguments[1]);
+                EXPECT_EQ(Bytes(glRecorder().image.begin(), glRecorder().image.end()), rows[0])
+                    << "type " << type << ", bits " << bits << ", descriptor " << descriptor;
+                EXPECT_NE(glRecorder().text().find(bits == 24
+                                                       ? "glTexImage2D 3553 0 3 3 2 0 6407 5121\n"
+                                                       : "glTexImage2D 3553 0 4 3 2 0 6408 5121\n"),
+                          std::string::npos);
+            }
+}
+
+TEST_F(TGATest, KeepsAPaletteRedFirstButMakesNoTextureOfIt) {
+    Bytes map;
+    for (int i = 0; i < 256; ++i)
+        map.insert(map.end(), {i, 7, 255 - i}); // blue, green, red
+    for (const int type : {1, 9}) {
+        Bytes data = map;
+        data.insert(data.end(), type == 1 ? std::initializer_list<int>{5, 5, 5, 6}
+                                          : std::initializer_list<int>{0x82, 5, 0x00, 6});
+        EXPECT_EQ(load(file(mappedHeader(type), data), image), 1);
+        EXPECT_EQ(pixelsOf(image, 4), (Bytes{5, 5, 5, 6}));
+        for (int i = 0; i < 256; ++i)
+            EXPECT_EQ(Bytes(image.getPalette() + 3 * i, image.getPalette() + 3 * i + 3),
+                      (Bytes{255 - i, 7, i}));
+        EXPECT_EQ(resources::loadTGA(path), 0U);
+    }
 }
 
 TEST_F(TGATest, UnpacksRunsAndLiteralsAndSurvivesLies) {

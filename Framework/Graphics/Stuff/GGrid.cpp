@@ -2,10 +2,13 @@
 
 #include "Framework/Graphics/Stuff/GGrid.h"
 
+#include <algorithm>
+
 void GGrid::render() {
     begin();
-    const double stepX = (box.right - box.left) / divisions;
-    const double stepY = (box.top - box.bottom) / divisions;
+    const int parts = std::max<int>(divisions, 1); // undivided it is one line each way: no step
+    const double stepX = (box.right - box.left) / parts;
+    const double stepY = (box.top - box.bottom) / parts;
     glBegin(GL_LINES);
     for (unsigned int i = 0; i <= divisions; ++i) {
         const float x = static_cast<float>(box.left + i * stepX);
