@@ -17,7 +17,7 @@ public:
     void setupProjection();
     void setupFrustum(); ///< the clip planes, which stay those of the identity
 
-    /// Whether the sphere is in front of the clip planes.
+    /// Whether the sphere is in front of the clip planes. Nothing in the game asks.
     bool objectInFrustum(math::Point& point, float radius) const;
 
     /// Between the two the view is the home position, without turn. Calls don't nest.
@@ -26,11 +26,12 @@ public:
 
     void resetCamera(); ///< home, without turn
 
-    // Each by an amount in world units or degrees; without one by the matching speed.
+    // For debugging: each by an amount in world units or degrees, without one by the matching
+    // speed, and at once. Only the menus move the camera in the game.
     void zoomIn() { zoomIn(zoomSpeed); }
     void zoomIn(float amount); ///< not past the home position
     void zoomOut() { zoomOut(zoomSpeed); }
-    void zoomOut(float amount);
+    void zoomOut(float amount); ///< without limit
     void moveUp() { moveUp(moveSpeed); }
     void moveUp(float amount);
     void moveDown() { moveDown(moveSpeed); }
@@ -52,23 +53,23 @@ public:
     void rotateZNeg() { rotateZNeg(rotateSpeed); }
     void rotateZNeg(float amount);
 
-    math::Point homePosition;
-    math::Point position;
-    math::Vector rotation; ///< degrees about x, y, z
-    math::Point savedPosition;
+    math::Point homePosition;  ///< 100 world units in front of the field
+    math::Point position;      ///< translation of the projection
+    math::Vector rotation;     ///< degrees about x, y, z
+    math::Point savedPosition; ///< menuModeBegin keeps these two
     math::Vector savedRotation;
     double menuTop = 0.0, menuBottom = 0.0, menuLeft = 0.0, menuRight = 0.0; ///< reference screen
     double top = 0.0, bottom = 0.0, left = 0.0, right = 0.0; ///< the visible world, world units
-    float aspectCorrection = 1.0F;
-    float zoomSpeed = 10.0F;
+    float aspectCorrection = 1.0F;                           ///< nothing reads it
+    float zoomSpeed = 10.0F;                                 ///< world units, as the next
     float moveSpeed = 1.0F;
-    float rotateSpeed = 4.5F; ///< degrees
-    math::Matrix modelMatrix;
-    boost::array<float, 16> projectionMatrix{};
-    boost::array<boost::array<float, 4>, 4> frustum{};
-    bool orthographic = true;
+    float rotateSpeed = 4.5F;                          ///< degrees
+    math::Matrix modelMatrix;                          ///< stays the identity
+    boost::array<float, 16> projectionMatrix{};        ///< as GL gave it; nothing reads it
+    boost::array<boost::array<float, 4>, 4> frustum{}; ///< planes ax + by + cz + d
+    bool orthographic = true;                          ///< the game never leaves it
     bool orthographicBeforeMenu = true;
-    double perspectiveScaleZ = 0.0;
+    double perspectiveScaleZ = 0.0; ///< factor of z when not orthographic
 
 private:
     void chooseExtents();

@@ -16,6 +16,7 @@ math::Point onCircle(double r, unsigned int i, unsigned int n) {
     return {r * std::cos(angle), r * std::sin(angle), 0.0};
 }
 
+/// In the plane of z = cz.
 void plotCircle(ShapeEnum shape, double cx, double cy, double cz, double r, unsigned int n) {
     begin(shape);
     for (unsigned int i = 0; i < n; ++i) {

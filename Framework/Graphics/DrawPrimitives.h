@@ -2,8 +2,9 @@
 
 #include "Framework/Graphics/Colour.h"
 
-/// Ready-made figures, in world units and immediate mode. A circle is `n` points, from +x
-/// counter-clockwise; n = 0 draws an empty one. Coordinates are of the centre.
+/// Ready-made figures, in world units, with the state of GL as it is. A circle is `n` points, from
+/// +x counter-clockwise; n = 0 draws an empty one. Coordinates are of the centre, without them it
+/// is the origin; a colour stays in force afterwards. The game draws circles alone.
 namespace quorva::graphics::draw::primitives {
 
 void filledCircle(double cx, double cy, double cz, double r, unsigned int n);
@@ -17,6 +18,7 @@ void circle(double r, unsigned int n);
 void circle(const Colour& colour, double cx, double cy, double cz, double r, unsigned int n);
 void circle(const Colour& colour, double r, unsigned int n);
 
+// Filled, then the line over it.
 void outlinedCircle(const Colour& fill, const Colour& line, double r, unsigned int n);
 void outlinedCircle(const Colour& fill, const Colour& line, double cx, double cy, double cz,
                     double r, unsigned int n);
@@ -26,6 +28,7 @@ void filledDonut(double inner, double outer, unsigned int n);
 void filledDonut(const Colour& fill, const Colour& line, double inner, double outer,
                  unsigned int n);
 
+/// Lines from the centre to each point of the circle.
 void circleSpokes(double cx, double cy, double cz, double r, unsigned int n);
 
 /// A circle that faces along y.

@@ -10,7 +10,8 @@ class FTFont;
 
 namespace quorva::graphics {
 
-/// How a font is drawn; each has an FTGL class of its own.
+/// How the glyphs are drawn: as filled polygons, as pixels that no scale reaches (black and white,
+/// or with greys), as outlines, or as textures. Each has an FTGL class of its own.
 enum FontRenderModeE : int { FR_POLYGON, FR_BITMAP, FR_PIXMAP, FR_OUTLINE, FR_TEXTURE };
 
 /// Exact comparison with "Polygon", "Bitmap", "Pixmap", "Outline", "Texture". Anything else is
@@ -22,11 +23,11 @@ std::string getStringFromFontRenderMode(FontRenderModeE mode);
 /// A font at a size of about one world unit. Copies share the one FTGL object.
 class Font {
 public:
-    explicit Font(FontRenderModeE mode = FR_POLYGON);
-    Font(FontRenderModeE mode, const std::string& path);
+    explicit Font(FontRenderModeE mode = FR_POLYGON);    ///< empty
+    Font(FontRenderModeE mode, const std::string& path); ///< loaded, for better or worse
 
-    /// Loads the file once. One that can't be read as a font is reported on standard error: the
-    /// font then draws nothing. A mode outside the enumeration ends the process.
+    /// Loads the file once. A file that can't be read as a font is reported on standard error,
+    /// and the font then draws nothing. A mode outside the enumeration ends the process.
     void loadFont(const std::string& path);
 
     /// Extents of `text` in world units, (0, 0) being its origin; without a font two by two

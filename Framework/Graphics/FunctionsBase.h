@@ -16,7 +16,7 @@ enum ShapeEnum : int {
     SHAPE_LINE_STRIP = 7,
     SHAPE_POINTS = 8,
     SHAPE_POLYGON = 9,
-    SHAPE_NONE = 11,
+    SHAPE_NONE = 11, ///< outside of begin and end; 10 is no shape
 };
 
 /// How a colour is mixed with what it is drawn over. Only the first has an effect in GL; any
@@ -26,7 +26,8 @@ enum BlendModeEnum : int { BLEND_STANDARD = 0 };
 /// How geometry goes to GL. There is one way; both values select it.
 enum RenderMode : int { RENDER_IMMEDIATE = 0, RENDER_OTHER = 1 };
 
-/// A way of sending geometry and state to GL.
+/// A way of sending geometry and state to GL: what the functions of `draw` forward to, one each,
+/// and where their meaning is told. Lengths in world units.
 class FunctionsBase {
 public:
     virtual ~FunctionsBase() = default;

@@ -125,7 +125,7 @@ void GLFunctions::saveBlendMode() {
 }
 
 void GLFunctions::setBlendMode(BlendModeEnum mode) {
-    currentBlendMode = mode;
+    currentBlendMode = mode; // also a number that GL has no function for
     if (mode == BLEND_STANDARD) glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
 }
 

@@ -10,11 +10,12 @@ namespace quorva::graphics {
 /// polygon mode, and what has no mapping is passed on unchanged.
 unsigned int getGLShape(ShapeEnum shape);
 
-/// The state of GL. Shapes and vertices are left to a derived class.
+/// The state of GL, set call by call and never asked for: what the is... functions give is what
+/// was set last. Shapes and vertices are left to a derived class.
 class GLFunctions : public FunctionsBase {
 public:
-    /// Smooth in every respect, as recorded. The one object is made before there is a GL
-    /// context, so that GL itself learns of it only when the video mode is set up.
+    /// Records that everything is smooth. GL itself doesn't learn of it: the one object is made
+    /// before main, without a context. The set-up of the video mode brings both together.
     GLFunctions();
 
     void startFrame() override {}
@@ -49,10 +50,10 @@ public:
     bool isSmoothShading() override { return smoothShadingOn; }
 
     bool smoothLinesOn = true;
-    bool smoothShapesOn = true;
+    bool smoothShapesOn = true; ///< of polygons, whose edges the game leaves rough
     bool smoothShadingOn = true;
-    std::stack<BlendModeEnum> blendModeStack;
-    BlendModeEnum currentBlendMode = BLEND_STANDARD;
+    std::stack<BlendModeEnum> blendModeStack;        ///< holds the first mode from the start
+    BlendModeEnum currentBlendMode = BLEND_STANDARD; ///< as set or restored last
 };
 
 } // namespace quorva::graphics

@@ -6,8 +6,9 @@
 
 namespace quorva::graphics {
 
-/// The look of an entity: its layers. Everything that is ever to be drawn must be there, and
-/// active, when the entity is registered: the renderer takes the layers over at that moment.
+/// The look of an entity: its layers. All layers that are ever to be drawn must be there, and
+/// active, when the entity is registered: the renderer notes them at that moment. Shapes may be
+/// added to them later.
 class GraphicObject {
 public:
     GraphicObject() = default;
@@ -31,8 +32,8 @@ public:
     /// Writes `enabled` and makes all layers match it.
     void setEnabled(bool on);
 
-    std::vector<RenderableThing*> things; ///< owned
-    bool enabled = true;
+    std::vector<RenderableThing*> things; ///< owned; an index stays that of its layer
+    bool enabled = true;                  ///< as setEnabled left it, for those who toggle
 };
 
 } // namespace quorva::graphics

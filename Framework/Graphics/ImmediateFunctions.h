@@ -4,7 +4,8 @@
 
 namespace quorva::graphics {
 
-/// Immediate mode: a call a vertex.
+/// Immediate mode: one call of GL for every vertex, which is quick enough for some hundred lines
+/// and keeps nothing in GL that a new video mode would lose.
 class ImmediateFunctions : public GLFunctions {
 public:
     void beginShape(ShapeEnum shape) override;

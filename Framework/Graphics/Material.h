@@ -10,7 +10,8 @@ constexpr Colour default_material_diffuse(0.8F, 0.8F, 0.8F, 1.0F);
 constexpr Colour default_material_specular(0.0F, 0.0F, 0.0F, 1.0F);
 constexpr Colour default_material_emission(0.0F, 0.0F, 0.0F, 1.0F);
 
-/// How a lit surface would look. The game has no lighting.
+/// How a lit surface would look. It completes the drawing layer: the game has no lighting, and
+/// fills a material from resource lines only.
 class Material {
 public:
     // Resources, not owned. Each counts only while its flag is set.
@@ -31,6 +32,6 @@ void useMaterialDiffuse(const Material& material);
 void useMaterialSpecular(const Material& material);
 void useMaterialEmissive(const Material& material);
 void useMaterial(const Material& material); ///< ambient, specular, diffuse, emissive
-void useMaterial(const Material* material);
+void useMaterial(const Material* material); ///< the same; not null
 
 } // namespace quorva::graphics

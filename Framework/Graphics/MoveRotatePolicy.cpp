@@ -5,6 +5,7 @@
 namespace quorva::graphics {
 
 void MoveRotatePolicy::applyPlace() const {
+    // GL applies the last one first: scaled, then turned, then moved.
     draw::translate(position);
     draw::rotate(rotation);
     draw::scale(scale);

@@ -4,6 +4,7 @@
 
 namespace quorva::graphics {
 
+/// Common base of what can move a shape.
 class MovementPolicyBase {
 protected:
     ~MovementPolicyBase() = default;
@@ -12,10 +13,11 @@ protected:
 /// Where a shape stands inside its layer.
 class MoveRotatePolicy : public MovementPolicyBase {
 public:
-    math::Quaternion rotation; ///< all zero: not turned
-    math::Point position;      ///< world units
-    math::Vector scale{1.0, 1.0, 1.0};
+    math::Quaternion rotation;         ///< all zero: not turned
+    math::Point position;              ///< world units
+    math::Vector scale{1.0, 1.0, 1.0}; ///< factors along the axes
 
+    /// The same factor along all axes.
     void setScale(double factor) { scale = math::Vector(factor, factor, factor); }
 
 protected:

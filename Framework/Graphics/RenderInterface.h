@@ -7,8 +7,10 @@ class RenderInterface {
 public:
     virtual ~RenderInterface() = default;
 
+    /// Draws at the current matrix. May leave colour, line width and other state changed.
     virtual void render() = 0;
 
+    // From the next frame on.
     void activate() { active = true; }
     void deactivate() { active = false; }
 

@@ -22,6 +22,7 @@ void RenderableThing::render() {
     if (!active) return;
     if (!isMenuLayer()) return renderPlaced();
 
+    // Twice a new projection for each such layer: there are few of them.
     CameraClass& camera = Camera::Instance();
     camera.menuModeBegin();
     draw::disableDepthTest();

@@ -25,6 +25,7 @@ constexpr std::size_t usual_renderables = 500; ///< room without an allocation
 constexpr float background_grey = 0.105882F;   ///< very dark; red, green and blue alike
 constexpr int fallback_width = 800, fallback_height = 600, fallback_depth = 32;
 
+/// @return false, with a line on standard error, if there is no such mode
 bool trySetVideoMode(int width, int height, int depth, Uint32 flags) {
     if (SDL_SetVideoMode(width, height, depth, flags) != nullptr) return true;
     std::cerr << "Couldn't set the video mode: " << SDL_GetError() << '\n';
@@ -38,6 +39,7 @@ void openVideoMode() {
                          flags) &&
         !trySetVideoMode(fallback_width, fallback_height, fallback_depth, flags))
         std::exit(-1);
+    // Nothing shows it again: it stays hidden in a window after full screen.
     if (config.getFullScreen()) SDL_ShowCursor(SDL_DISABLE);
     // Deliberately after SDL_SetVideoMode: too late for this context, which keeps SDL's defaults.
     SDL_GL_SetAttribute(SDL_GL_DOUBLEBUFFER, 1);
@@ -70,6 +72,7 @@ void sortInPlace(std::vector<RenderableThing*>& things) {
 void setupWindow() {
     const char* const title = GameInfo::Instance().title.c_str();
     SDL_WM_SetCaption(title, title);
+    // A missing icon is a null surface, which SDL takes.
     SDL_Surface* const icon = SDL_LoadBMP_RW(SDL_RWFromFile("data/kov.ico", "rb"), 1);
     SDL_WM_SetIcon(icon, nullptr);
     SDL_FreeSurface(icon);
@@ -81,6 +84,7 @@ bool RenderObjectSort::operator()(const RenderableThing* a, const RenderableThin
     return a->layer != b->layer ? a->layer < b->layer : a->depth < b->depth;
 }
 
+// Once in a run: a later video mode keeps caption and icon.
 Renderer::Renderer(physics::PhysicsProcessor* physics_) : physics(physics_) {
     subscribe<messages::ResetVideo>(this);
     renderables.reserve(usual_renderables);
@@ -122,6 +126,7 @@ void Renderer::removeAllEntities() {
 
 void Renderer::receiveMessage(const messages::ResetVideo*) {
     setupVideo();
+    // The context is a new one: what fonts had made in the old one has gone with it.
     resources::ResourceManagerManager::Instance().load(resources::system_scope);
 }
 

@@ -10,6 +10,7 @@ namespace quorva::graphics {
 /// pushes nor pops the matrix: its layer does that.
 class Shape : public RenderInterface, public ColourPolicy, public MoveRotatePolicy {
 protected:
+    /// The first line of every render().
     void begin() const {
         applyColour1();
         applyPlace();

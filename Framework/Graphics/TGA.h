@@ -24,21 +24,24 @@ public:
     explicit TGA(std::string path);
     virtual ~TGA() = default;
 
-    virtual int getBPP() const { return static_cast<int>(bitsPerPixel); }
+    // Pixels follow one another, rows too: without padding. Valid until the next load.
+    virtual int getBPP() const { return static_cast<int>(bitsPerPixel); } ///< bits a pixel
     virtual int getWidth() const { return width; }
     virtual int getHeight() const { return height; }
     virtual const unsigned char* getImg() const { return bytesOf(image); }
     virtual const unsigned char* getPalette() const { return bytesOf(palette); } ///< 256 RGB
 
-    int load(std::string& path); ///< @return a Result, as the steps below
+    /// Reads the file in place of what was there.
+    /// @return a Result, as the steps below
+    int load(std::string& path);
 
     // The steps of load, in its order.
     int readHeader();
     int loadRawData();
     int loadTgaRLEData();
     int loadTgaPalette();
-    void BGRtoRGB();
-    void flipImg(); ///< top row for bottom row
+    void BGRtoRGB(); ///< alpha stays
+    void flipImg();  ///< top row for bottom row
 
 private:
     using Bytes = std::vector<unsigned char>;
@@ -51,9 +54,10 @@ private:
     void forget();
     bool hasColourMap() const;
     std::size_t pixelSize() const { return bitsPerPixel / 8; }
-    std::size_t dataOffset() const; ///< of the pixels in the file
-    unsigned char at(std::size_t offset) const;
-    int word(std::size_t offset) const;
+    // Of the file, by its offsets.
+    std::size_t dataOffset() const;             ///< where the pixels begin
+    unsigned char at(std::size_t offset) const; ///< 0 past the end
+    int word(std::size_t offset) const;         ///< two bytes, the low one first
 
     std::int16_t width = 0; ///< pixels
     std::int16_t height = 0;

@@ -13,7 +13,7 @@ public:
     primitives::Box box; ///< world units, relative to `position`
 
 protected:
-    void plot() const;
+    void plot() const; ///< the vertices alone
 };
 
 } // namespace quorva::graphics

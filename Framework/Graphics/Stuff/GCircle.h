@@ -2,7 +2,7 @@
 
 #include "Framework/Graphics/Shape.h"
 
-/// A filled circle about the origin.
+/// A filled circle about the origin, drawn without depth test, which is on afterwards.
 class GCircle : public quorva::graphics::Shape {
 public:
     void render() override;

@@ -10,6 +10,6 @@ class GGrid : public quorva::graphics::Shape {
 public:
     void render() override;
 
-    std::uint16_t divisions = 1;
+    std::uint16_t divisions = 1; ///< parts, one more line than these each way
     quorva::primitives::Box box; ///< world units, relative to `position`
 };

@@ -2,7 +2,7 @@
 
 #include "Framework/Graphics/Shape.h"
 
-/// A line.
+/// A straight line, as thick on a large screen as on a small one.
 class GLine : public quorva::graphics::Shape {
 public:
     void render() override;

@@ -2,7 +2,7 @@
 
 #include "Framework/Graphics/Shape.h"
 
-/// A circle about the origin.
+/// A circle about the origin, drawn without depth test, which is on afterwards.
 class GOutlinedCircle : public quorva::graphics::Shape {
 public:
     void render() override;

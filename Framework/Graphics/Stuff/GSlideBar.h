@@ -2,7 +2,8 @@
 
 #include "Framework/Graphics/Shape.h"
 
-/// A track with a knob on it that stands for a value.
+/// A track with a knob on it that stands for a value. The knob is three times as high as the track,
+/// and square.
 class GSlideBar : public quorva::graphics::Shape {
 public:
     void render() override;

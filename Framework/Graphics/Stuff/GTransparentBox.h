@@ -4,7 +4,8 @@
 
 namespace quorva::graphics {
 
-/// A filled rectangle drawn without depth test; how much shows through is its colour's alpha.
+/// A filled rectangle drawn without depth test, which is on afterwards. How much shows through is
+/// its colour's alpha.
 class GTransparentBox : public GBox {
 public:
     void render() override;
