@@ -11,6 +11,8 @@
 
 #include <cstdio>
 #include <fstream>
+#include <iterator>
+#include <map>
 #include <sstream>
 
 using namespace quorva;
@@ -245,6 +247,50 @@ TEST_F(InputTest, BindsByFile) {
     EXPECT_EQ(keys.getButton("Left", 0)->jsButton, no_button);
     std::remove("bind1.conf");
     EXPECT_EQ(errorsOf([&] { keys.readBindFiles(); }), "Can't read bind1.conf\n");
+}
+
+TEST_F(InputTest, TheShippedFileGivesEachKeyAndButtonItsOwnAlone) {
+    keys.keys.clear();
+    for (const char* action : {"Up", "Down", "Left", "Right", "Fire Up", "Fire Down", "Fire Left",
+                               "Fire Right", "Game Pause", "Menu Select", "Menu Escape"})
+        keys.addMappableKey(action, unknown_key, no_button, 0);
+    std::ifstream shipped(KOV_SOURCE_DIR "/packaging/bind1.conf");
+    EXPECT_EQ(bind({std::istreambuf_iterator<char>(shipped), {}}), "");
+    struct Own {
+        std::string inMenus, inGames;
+    };
+    std::map<int, Own> buttons = {
+        {0, {"select; ", "0,0 fire 0,-1; "}}, // South
+        {1, {"", "0,0 fire 1,0; "}},          // East; in menus it is the number that keys match
+        {2, {"", "0,0 fire -1,0; "}},         // West
+        {3, {"", "0,0 fire 0,1; "}},          // North
+        {6, {"escape; ", "EndLevel; "}},      // Back
+        {7, {"", "0,0 pause; "}},             // Start
+    };
+    std::map<int, Own> symbols = {
+        {SDLK_RETURN, {"select; ", ""}},   {SDLK_ESCAPE, {"escape; ", "EndLevel; "}},
+        {SDLK_UP, {"up; ", "0,1; "}},      {SDLK_DOWN, {"down; ", "0,-1; "}},
+        {SDLK_LEFT, {"left; ", "-1,0; "}}, {SDLK_RIGHT, {"right; ", "1,0; "}},
+        {SDLK_w, {"", "0,0 fire 0,1; "}},  {SDLK_s, {"", "0,0 fire 0,-1; "}},
+        {SDLK_a, {"", "0,0 fire -1,0; "}}, {SDLK_d, {"", "0,0 fire 1,0; "}},
+        {SDLK_p, {"", "0,0 pause; "}},
+    };
+    for (int i = SDLK_0; i <= SDLK_9; ++i) // a digit only says which it is
+        symbols[i].inMenus =
+            symbols[i - SDLK_0 + SDLK_KP0].inMenus = {static_cast<char>(i), ';', ' '};
+
+    const auto expectOwn = [&](auto push, int i, const Own& own) {
+        MenuInputHandler menu;
+        InputHandler game;
+        push(i, true);
+        EXPECT_EQ(play(menu), own.inMenus) << i;
+        push(i, true);
+        EXPECT_EQ(play(game), own.inGames) << i;
+    };
+    for (int i = 0; i < 16; ++i)
+        expectOwn(pushButton, i, buttons[i]);
+    for (int i = 0; i < SDLK_LAST; ++i)
+        expectOwn(pushKey, i, symbols[i]);
 }
 
 TEST_F(InputTest, JoysticksThatDoNotOpenAreLeftOut) {
