@@ -35,4 +35,5 @@ save_pictures wide "$gallery"
 save_pictures narrow "$gallery/800x600"
 mogrify -resize 50% -dither None -colors 64 -format gif film/*.ppm
 gifsicle -O3 --delay 6 --loopcount --colors 64 --lossy=30 film/*.gif -o "$gallery/play.gif"
+"$gallery/../../tools/manual_pictures.py"
 du -sh "$gallery"

@@ -15,7 +15,7 @@ for group in "$@"; do
     fuzz) packages="$packages clang libclang-rt-14-dev" ;;
     demo) packages="$packages xvfb xdotool imagemagick" ;;
     package) packages="$packages dpkg-dev file" ;;
-    gallery) packages="$packages xvfb xauth imagemagick optipng gifsicle" ;;
+    gallery) packages="$packages xvfb xauth imagemagick optipng gifsicle python3" ;;
     assets) packages="$packages python3-fonttools python3-shapely" ;;
     *) echo "install_packages.sh: no such group: $group" >&2; exit 2 ;;
     esac
