@@ -59,8 +59,8 @@ bool onOneSide(double a, double b, double bound) {
 bool LinesInterect(const Point& a1, const Point& a2, const Point& b1, const Point& b2) {
     const bool horizontal = a1.y == a2.y;
     const double k = horizontal ? a1.y : a1.x;
-    // The cheap refusals stand before the division; the odd case of an edge without a slope
-    // against a vertical line, which is met by its height, is let through to it.
+    // Cheap refusals come before the division. The odd case has to get past them: an edge without
+    // a slope meets a vertical line by its height, wherever it lies.
     if (horizontal && onOneSide(b1.y, b2.y, k)) return false;
     const bool aside = !horizontal && onOneSide(b1.x, b2.x, k);
     if (aside && !math::fuzzyEqual(b1.y, k)) return false;

@@ -15,12 +15,12 @@ const PairList::Pairs& PairList::get() const {
 void PairList::make() const {
     made = true;
     std::vector<Entity*> firsts, seconds;
-    for (const auto& [entity, shape] : partakers) {
+    for (const auto& [entity, shape] : participants) {
         if (shape == first) firsts.push_back(entity);
         if (shape == second) seconds.push_back(entity);
     }
     std::size_t firstsPassed = 0, secondsPassed = 0;
-    for (const auto& [entity, shape] : partakers) {
+    for (const auto& [entity, shape] : participants) {
         if (shape == first)
             for (std::size_t i = secondsPassed; i < seconds.size(); ++i)
                 pairs.emplace_back(entity, seconds[i]);

@@ -13,26 +13,26 @@ class Entity;
 namespace quorva::physics {
 
 /// A body that takes part in a tick's tests, with its shape at that moment. Not owned.
-using Partaker = std::pair<Entity*, ShapeType>;
+using Participant = std::pair<Entity*, ShapeType>;
 
-/// The pairs that one kind of collision test looks at: every partaker of one shape with every
-/// one of the other, in the order in which two nested loops come upon them, the inner one from
-/// the outer one's place on. A body is paired with itself too, if the shapes are the same.
+/// The pairs of one kind of collision test: each participant of the first shape with each of the
+/// second, in the order of two nested loops, the inner starting at the outer's index. If the
+/// shapes are the same, a body is paired with itself too.
 ///
-/// The pairs are made when somebody first asks for them: half of the lists have no test that
-/// ever asks, and that of the triangles among themselves would grow with their square.
+/// The pairs are made on first use: half of the lists are never tested, and the list of triangles
+/// with triangles would grow with the square of their number.
 class PairList {
 public:
     using Pair = std::pair<Entity*, Entity*>; ///< of the first shape, of the second
     using Pairs = std::vector<Pair>;
 
-    /// @param partakers in order of arrival; must outlive the list
-    PairList(const std::vector<Partaker>& partakers_, ShapeType first_, ShapeType second_)
-        : partakers(partakers_), first(first_), second(second_) {}
+    /// @param participants in order of arrival; must outlive the list
+    PairList(const std::vector<Participant>& participants_, ShapeType first_, ShapeType second_)
+        : participants(participants_), first(first_), second(second_) {}
     PairList(const PairList&) = delete;
     PairList& operator=(const PairList&) = delete;
 
-    void forget(); ///< the partakers have changed
+    void forget(); ///< to be called when the participants change
 
     Pairs::const_iterator begin() const { return get().begin(); }
     Pairs::const_iterator end() const { return get().end(); }
@@ -42,7 +42,7 @@ private:
     const Pairs& get() const;
     void make() const;
 
-    const std::vector<Partaker>& partakers;
+    const std::vector<Participant>& participants;
     ShapeType first, second;
     mutable bool made = false;
     mutable Pairs pairs;

@@ -2,7 +2,7 @@
 
 #include "Framework/math/Quaternion.h"
 #include "Framework/physics/AABB.h"
-#include "Framework/physics/Reach.h"
+#include "Framework/physics/NearbyObstacles.h"
 
 #include <array>
 #include <cstdint>
@@ -14,10 +14,10 @@ namespace quorva {
 
 class Entity;
 
-/// One trap line that an object knows of.
+/// An entry in a body's list of the standing trap lines.
 struct TriLine {
     TrapLine* line = nullptr; ///< not owned; the physics takes the entry out before its end
-    math::Point reserved;
+    math::Point reserved;     ///< stays zero
 
     bool operator==(const TriLine& other) const { return line == other.line; }
 };
@@ -44,13 +44,13 @@ public:
     math::Quaternion rotation;
     math::Vector velocity; ///< world units per tick; each sub-step applies its share
 
-    bool collided = false; ///< touched in this sub-step; each sub-step clears it
-    bool collidable;       ///< paired for tests, if active too
-    bool isStatic;         ///< neither moved nor pulled
-    bool hasGravity;
-    bool isActive; ///< paired for tests, if collidable too
-    bool booleanResult = false;
-    std::uint32_t stepResult = 0; ///< each sub-step clears it
+    bool collided = false;        ///< touched in this sub-step; each sub-step clears it
+    bool collidable;              ///< paired for tests, if active too
+    bool isStatic;                ///< neither moved nor pulled
+    bool hasGravity;              ///< set by most actors, though nothing pulls
+    bool isActive;                ///< paired for tests, if collidable too
+    bool booleanResult = false;   ///< cleared on request; nothing sets or reads it
+    std::uint32_t stepResult = 0; ///< each sub-step clears it; nothing else sets or reads it
 
     /// Partner of the last overlap of boxes, not owned. The player clears it after reading it,
     /// the physics when the partner goes.
@@ -61,9 +61,9 @@ public:
     std::array<math::Point, 3> vertices{}; ///< of a triangle, relative to `position`
     std::vector<TriLine> lines;            ///< the standing trap lines, oldest first
 
-    bool hitLine = false; ///< a line refused a move, or a bullet touched; the triangle clears it
-    bool hitBox = false;  ///< overlaps a box; the player clears it
-    Reach reach;          ///< of a triangle: what it can meet in this tick; the physics keeps it
+    bool hitLine = false;   ///< a line refused a move, or a bullet touched; the triangle clears it
+    bool hitBox = false;    ///< overlaps a box; the player clears it
+    NearbyObstacles nearby; ///< of a triangle, for this tick; the physics keeps it up to date
     std::uint32_t pickupCount = 0; ///< the player writes 3 at each pick-up; nothing reads it
 };
 

@@ -22,7 +22,7 @@ namespace {
 constexpr double standing_speed = 0.000001;
 
 bool isStanding(const math::Vector& velocity) {
-    // The root is taken only where it can matter.
+    // Saves the square root for all but the slowest bodies.
     return velocity.dot(velocity) < 10.0 * standing_speed * standing_speed &&
            velocity.length() < standing_speed;
 }
@@ -39,7 +39,7 @@ bool isPlayer(const Entity* e) {
     return dynamic_cast<const PlayerCharacter*>(e) != nullptr;
 }
 
-/// Tests the box's corners against the triangle, and marks both at each hit.
+/// How many of the box's corners are inside the triangle; if any is, both get `collided`.
 unsigned int countBoxCornersInside(PhysicsObject& box, PhysicsObject& triangle, const Corners& c) {
     const double x = box.position.x, y = box.position.y;
     const double hw = box.boxes.front().halfWidth, hh = box.boxes.front().halfHeight;
@@ -86,12 +86,12 @@ void PhysicsProcessor::addEntity(Entity* e) {
     entities.push_back(e);
     if (e->physics->type != shape_triangle) return;
     for (TrapLine* line : lines)
-        e->physics->lines.push_back({line, {}}); // it joins late
+        e->physics->lines.push_back({line, {}}); // the lines that stood before it came
 }
 
 void PhysicsProcessor::removeEntity(Entity* e) {
     entities.erase(std::remove(entities.begin(), entities.end(), e), entities.end());
-    // The engine is about to delete it: nobody may keep its address.
+    // The engine is about to delete it: no pointer to it may stay.
     for (Entity* other : entities)
         if (other->physics->collidedWith == e) other->physics->collidedWith = nullptr;
     const auto gone = std::find(lines.begin(), lines.end(), e);
@@ -104,7 +104,7 @@ void PhysicsProcessor::removeEntity(Entity* e) {
 }
 
 void PhysicsProcessor::forgetLine(TrapLine* line) {
-    ++epochs.lines;
+    linesChanged();
     for (Entity* e : entities) {
         auto& known = e->physics->lines;
         known.erase(std::remove(known.begin(), known.end(), TriLine{line, {}}), known.end());
@@ -113,7 +113,7 @@ void PhysicsProcessor::forgetLine(TrapLine* line) {
 
 void PhysicsProcessor::removeAllEntities() {
     entities.clear();
-    partakers.clear();
+    participants.clear();
     forgetPairs();
 }
 
@@ -132,7 +132,7 @@ void PhysicsProcessor::update() {
 void PhysicsProcessor::process() {
     makeCollisionTests(); // the pairs stay fixed for the whole tick
     inTick = true;
-    ++epochs.lines; // they have grown since the last tick
+    linesChanged(); // they have grown since the last tick
     for (std::uint16_t step = 0; step < stepCount; ++step) {
         preSimulate();
         doMove();
@@ -151,7 +151,7 @@ void PhysicsProcessor::receiveMessage(const messages::EndLevel*) {
     lines.clear();
     searchedLines.clear();
     outerBounds.clear();
-    gameOverPending = false; // this end is the one that it waited for: the next game goes on
+    gameOverPending = false; // or the next game would end in its first pass
 }
 
 void PhysicsProcessor::receiveMessage(const messages::PhysicsController* m) {
@@ -171,7 +171,7 @@ void PhysicsProcessor::receiveMessage(const PhysicsLineMessage* m) {
         "Bullet Line", m->position, m->bullet, Marvo::Instance().getPlayerLineLength(),
         m->horizontal);
     lines.push_back(line);
-    ++epochs.lines;
+    linesChanged();
     for (Entity* e : entities)
         e->physics->lines.push_back({line, {}});
 }
@@ -201,11 +201,11 @@ void PhysicsProcessor::makeCollisionTests() {
     const auto takesPart = [](const PhysicsObject& body) {
         return body.collidable && body.isActive && !(body.type == shape_box && body.boxes.empty());
     };
-    formerPartakers.swap(partakers);
-    partakers.clear();
+    formerParticipants.swap(participants);
+    participants.clear();
     for (Entity* e : entities)
-        if (takesPart(*e->physics)) partakers.emplace_back(e, e->physics->type);
-    if (partakers != formerPartakers) forgetPairs(); // the same bodies give the same pairs
+        if (takesPart(*e->physics)) participants.emplace_back(e, e->physics->type);
+    if (participants != formerParticipants) forgetPairs(); // the same bodies give the same pairs
 }
 
 void PhysicsProcessor::preSimulate() {
@@ -233,7 +233,7 @@ void PhysicsProcessor::doMove() {
 bool PhysicsProcessor::testLineTriangle(Entity* e) const {
     PhysicsObject& body = *e->physics;
     if (body.type != shape_triangle) return false;
-    if (inTick) return body.reach.isStopped(body, epochs);
+    if (inTick) return body.nearby.isStopped(body, epochs);
     const Corners corners = worldCorners(body);
     return std::any_of(body.lines.begin(), body.lines.end(), [&corners](const TriLine& known) {
         return isInTheWay(*known.line, corners);

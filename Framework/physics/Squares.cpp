@@ -1,4 +1,5 @@
-// The rule that makes the game: four standing lines that enclose a rectangle around triangles.
+// The rule at the heart of the game: four standing lines that enclose a rectangle catch the
+// triangles in it.
 
 #include "Framework/physics/PhysicsProcessor.h"
 
@@ -18,7 +19,7 @@ namespace {
 /// pressed against its fence is caught.
 constexpr double inside_tolerance = 0.1;
 
-/// What a line covers along its own direction.
+/// The extent of a line along its own direction.
 struct Span {
     double min, max;
 
@@ -33,7 +34,7 @@ Span alongY(const TrapLine& line) {
     return {line.start.y, line.end.y};
 }
 
-/// Two horizontal lines that can be the top and the bottom of a rectangle.
+/// Two horizontal lines, candidates for the top and the bottom of a rectangle.
 struct Rails {
     TrapLine* top;
     TrapLine* bottom;
@@ -57,12 +58,13 @@ struct Rails {
     }
 };
 
-SquareBounds boundsOf(const PhysicsProcessor::Square& square) {
-    return {square[0]->start.y + inside_tolerance, square[3]->start.y - inside_tolerance,
-            square[1]->start.x - inside_tolerance, square[2]->start.x + inside_tolerance};
+/// Of the rectangle, widened by the tolerance.
+Bounds boundsOf(const PhysicsProcessor::Square& square) {
+    return {square[1]->start.x - inside_tolerance, square[2]->start.x + inside_tolerance,
+            square[3]->start.y - inside_tolerance, square[0]->start.y + inside_tolerance};
 }
 
-int cornersInside(const SquareBounds& bounds, const PhysicsObject& body) {
+int cornersInside(const Bounds& bounds, const PhysicsObject& body) {
     int count = 0;
     for (const math::Point& vertex : body.vertices)
         count += bounds.hold(body.position.x + vertex.x, body.position.y + vertex.y) ? 1 : 0;
@@ -71,7 +73,7 @@ int cornersInside(const SquareBounds& bounds, const PhysicsObject& body) {
 
 } // namespace
 
-bool PhysicsProcessor::linesHaveChanged() {
+bool PhysicsProcessor::linesDifferFromLastSearch() {
     formerLines.swap(searchedLines);
     searchedLines.clear();
     for (const TrapLine* line : lines)
@@ -80,14 +82,14 @@ bool PhysicsProcessor::linesHaveChanged() {
     const auto same = [](const SearchedLine& a, const SearchedLine& b) {
         return a.line == b.line && a.startX == b.startX && a.startY == b.startY &&
                a.endX == b.endX && a.endY == b.endY && a.horizontal == b.horizontal &&
-               a.solid == b.solid; // not-a-number differs from itself, so it is searched anew
+               a.solid == b.solid; // not-a-number differs from itself: searched each time
     };
     return !std::equal(searchedLines.begin(), searchedLines.end(), formerLines.begin(),
                        formerLines.end(), same);
 }
 
 void PhysicsProcessor::constructSquares() {
-    if (!linesHaveChanged()) return;
+    if (!linesDifferFromLastSearch()) return;
     squares.clear();
     horizontalLines.clear();
     verticalLines.clear();
@@ -101,7 +103,7 @@ void PhysicsProcessor::constructSquares() {
 }
 
 void PhysicsProcessor::addSquaresBetween(TrapLine* a, TrapLine* b) {
-    // A line whose end has not been written yet fails here.
+    // Fails for a newborn line too, whose end is zero until its first update.
     if (a->start.y != a->end.y || b->start.y != b->end.y) return;
     const Rails rails(a, b);
     if (!rails.areValid()) return;
@@ -115,17 +117,17 @@ void PhysicsProcessor::addSquaresBetween(TrapLine* a, TrapLine* b) {
     }
 }
 
-/// What a rectangle's outer neighbour holds, it holds twice over: only the outermost bounds tell
-/// whether any triangle is held at all. Their number stays small where that of the rectangles
-/// grows with the fourth power of the lines'.
+/// Whatever is inside a rectangle is inside any that encloses it, so the outermost alone decide
+/// whether anything is caught. They stay few, while the number of rectangles grows with the
+/// fourth power of the number of lines.
 void PhysicsProcessor::findOuterBounds() {
     ++epochs.rectangles;
     outerBounds.clear();
     for (const Square& square : squares) {
-        const SquareBounds bounds = boundsOf(square);
-        const auto covers = [&bounds](const SquareBounds& outer) { return outer.covers(bounds); };
+        const Bounds bounds = boundsOf(square);
+        const auto covers = [&bounds](const Bounds& outer) { return outer.cover(bounds); };
         if (std::any_of(outerBounds.begin(), outerBounds.end(), covers)) continue;
-        const auto covered = [&bounds](const SquareBounds& inner) { return bounds.covers(inner); };
+        const auto covered = [&bounds](const Bounds& inner) { return bounds.cover(inner); };
         outerBounds.erase(std::remove_if(outerBounds.begin(), outerBounds.end(), covered),
                           outerBounds.end());
         outerBounds.push_back(bounds);
@@ -136,8 +138,8 @@ bool PhysicsProcessor::holdsAnyTriangle() const {
     return std::any_of(entities.begin(), entities.end(), [this](const Entity* e) {
         PhysicsObject& body = *e->physics;
         if (body.type != shape_triangle) return false;
-        if (inTick && !body.reach.isNearAny(outerBounds, body, epochs)) return false;
-        return std::any_of(outerBounds.begin(), outerBounds.end(), [&body](const SquareBounds& b) {
+        if (inTick && !body.nearby.isNearAny(outerBounds, body, epochs)) return false;
+        return std::any_of(outerBounds.begin(), outerBounds.end(), [&body](const Bounds& b) {
             return cornersInside(b, body) >= caught_corners;
         });
     });
@@ -154,13 +156,13 @@ void PhysicsProcessor::testBoxes() {
 }
 
 unsigned short PhysicsProcessor::catchTriangles(const Square& square) {
-    const SquareBounds bounds = boundsOf(square);
+    const Bounds bounds = boundsOf(square);
     unsigned short count = 0;
     for (Entity* e : entities) {
         if (e->physics->type != shape_triangle ||
             cornersInside(bounds, *e->physics) < caught_corners)
             continue;
-        e->dead = true; // also if it is dead already: it then pays twice
+        e->dead = true; // even if it was dead already: it then pays twice
         ++count;
     }
     return count;

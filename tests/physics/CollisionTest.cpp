@@ -66,7 +66,7 @@ TEST_F(CollisionTest, StopsATriangleAtALineAndNothingElse) {
     EXPECT_EQ(body(triangle).velocity.y, 1.0) << "and tried again";
     EXPECT_DOUBLE_EQ(body(bullet).position.y, 1.05);
 
-    // One that comes later knows the lines that stand, and forgets one that ends.
+    // A triangle that comes later knows the standing lines, and forgets a line that ends.
     Triangle* const late = layAt(3, 0.95);
     EXPECT_EQ(body(late).lines.size(), 1U);
     physics->lines.front()->fakeKill(false);

@@ -1,4 +1,4 @@
-// The physics must come to the same as its plain loops, to the last bit, on whatever field.
+// On any field, the physics must give the same result as its plain loops, to the last bit.
 
 #include "tests/support/FieldTest.h"
 #include "tests/support/PlainPhysics.h"
@@ -34,7 +34,7 @@ void addSquares(std::ostream& out, const std::vector<PhysicsProcessor::Square>& 
     out << '\n';
 }
 
-/// Everything else that a tick can change, an object a line.
+/// Everything else that a tick can change, one line for each object.
 void addObjects(std::ostream& out, const Field& field) {
     for (const headless::StatePart& part : headless::stateParts(field.run.game()))
         out << headless::describe(part) << " state " << part.hash << '\n';
@@ -129,7 +129,7 @@ private:
     bool numbersFail = false;
 };
 
-/// One goes and one comes: as many bodies as before, but others.
+/// As many bodies as before, but not the same.
 void swapOneTriangle(Field& field) {
     for (Entity* e : field.physics->entities) {
         auto* const triangle = dynamic_cast<Triangle*>(e);
@@ -142,7 +142,7 @@ void swapOneTriangle(Field& field) {
     Engine::Instance().cleanupDeadEntities();
 }
 
-/// Some ticks of the field of this seed, by one way or the other.
+/// Some ticks of this seed's field, by the plain loops or by the physics.
 std::string playedOut(unsigned int seed, bool plain) {
     Field field;
     FieldMaker(field, seed).make();

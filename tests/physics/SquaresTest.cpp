@@ -6,12 +6,12 @@ namespace {
 
 class SquaresTest : public FieldTest {
 protected:
-    /// Rectangles that the present lines make; each is seen from four roles.
+    /// How many rectangles the present lines make, each counted four times.
     std::size_t search() {
         physics->constructSquares();
         return physics->squares.size();
     }
-    /// The usual three sides, and what is under test as the right one.
+    /// All sides but the right one.
     void threeSides() {
         across(5, -20, 20);
         across(-5, -20, 20);

@@ -1,4 +1,4 @@
-#include "Framework/physics/Reach.h"
+#include "Framework/physics/NearbyObstacles.h"
 
 #include "Framework/math/Fuzzy.h"
 #include "Framework/physics/Geometry.h"
@@ -28,7 +28,7 @@ public:
     /// Whether the line can be in the triangle's way.
     bool mayMeet(const TrapLine& line) const { return !known || mayTouch(line); }
     /// Whether the rectangle can hold the triangle.
-    bool mayBeHeldBy(const SquareBounds& rectangle) const;
+    bool mayBeHeldBy(const Bounds& rectangle) const;
 
 private:
     bool mayHaveLevelEdge(const PhysicsObject& body) const;
@@ -84,11 +84,10 @@ bool Extents::mayTouch(const TrapLine& line) const {
     return !(x < all.bottom - margin || x > all.top + margin);
 }
 
-bool Extents::mayBeHeldBy(const SquareBounds& rectangle) const {
+bool Extents::mayBeHeldBy(const Bounds& rectangle) const {
     if (!known) return true;
     return std::count_if(corners.begin(), corners.end(), [&rectangle](const Bounds& corner) {
-               return corner.right >= rectangle.left && corner.left <= rectangle.right &&
-                      corner.bottom <= rectangle.top && corner.top >= rectangle.bottom;
+               return corner.meet(rectangle);
            }) >= caught_corners;
 }
 
@@ -110,14 +109,9 @@ bool isInTheWay(const TrapLine& line, const Corners& c) {
            LinesInterect(line.start, line.end, c[1], c[2]);
 }
 
-bool Reach::covers(const math::Point& position) const {
-    return position.x >= region.left && position.x <= region.right && position.y >= region.bottom &&
-           position.y <= region.top;
-}
-
-void Reach::follow(const PhysicsObject& body, const Epochs& now) {
-    if (linesEpoch == now.lines && covers(body.position)) return;
+void NearbyObstacles::refresh(const PhysicsObject& body, const Epochs& now) {
     const math::Point& at = body.position;
+    if (linesEpoch == now.lines && region.hold(at.x, at.y)) return;
     const double dx = std::fabs(body.velocity.x), dy = std::fabs(body.velocity.y);
     region = {at.x - dx, at.x + dx, at.y - dy, at.y + dy};
     linesEpoch = now.lines;
@@ -129,8 +123,8 @@ void Reach::follow(const PhysicsObject& body, const Epochs& now) {
         if (extents.mayMeet(*line.line)) lines.push_back(line.line);
 }
 
-bool Reach::isStopped(const PhysicsObject& body, const Epochs& now) {
-    follow(body, now);
+bool NearbyObstacles::isStopped(const PhysicsObject& body, const Epochs& now) {
+    refresh(body, now);
     if (lines.empty()) return false;
     if (tested && testedAt.x == body.position.x && testedAt.y == body.position.y) return stopped;
     const Corners at = worldCorners(body);
@@ -141,9 +135,9 @@ bool Reach::isStopped(const PhysicsObject& body, const Epochs& now) {
     return stopped;
 }
 
-bool Reach::isNearAny(const std::vector<SquareBounds>& rectangles, const PhysicsObject& body,
-                      const Epochs& now) {
-    follow(body, now);
+bool NearbyObstacles::isNearAny(const std::vector<Bounds>& rectangles, const PhysicsObject& body,
+                                const Epochs& now) {
+    refresh(body, now);
     if (rectanglesEpoch == now.rectangles) return nearRectangle;
     rectanglesEpoch = now.rectangles;
     const Extents extents(body, region);

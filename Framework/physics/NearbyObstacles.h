@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Framework/math/Vector.h"
+#include "Framework/physics/Bounds.h"
 
 #include <boost/container/small_vector.hpp>
 
@@ -25,57 +26,39 @@ Corners worldCorners(const PhysicsObject& body);
 /// Whether the line meets an edge of the triangle.
 bool isInTheWay(const TrapLine& line, const Corners& corners);
 
-/// A closed rectangle with its tolerance, in world units.
-struct SquareBounds {
-    double top, bottom, left, right;
-
-    bool hold(double x, double y) const {
-        return x >= left && x <= right && y <= top && y >= bottom;
-    }
-    bool covers(const SquareBounds& other) const {
-        return top >= other.top && bottom <= other.bottom && left <= other.left &&
-               right >= other.right;
-    }
-};
-
-/// In world units.
-struct Bounds {
-    double left, right, bottom, top;
-};
-
 /// The trap lines and rectangles that a triangle can meet while it stays within a small region,
 /// as wide as one tick's move to either side. A tick has up to 1000 sub-steps: each then tests
 /// those few instead of all. They are looked up again when the triangle leaves the region or an
 /// epoch has passed, so a wrong guess of the region costs time and never a result.
-class Reach {
+class NearbyObstacles {
 public:
-    /// Counters that go on when the lines, or the rectangles, have changed.
+    /// What has been looked up holds for one epoch only. Each counter is incremented whenever
+    /// the lines, or the rectangles, change.
     struct Epochs {
         std::uint32_t lines = 0;
         std::uint32_t rectangles = 0;
     };
 
     /// Whether one of `body.lines` is in the way of the triangle where it is now. A triangle that
-    /// has not moved since it was last asked gets the same answer.
+    /// has not moved since the last call gets the same answer.
     bool isStopped(const PhysicsObject& body, const Epochs& now);
 
     /// False if none of the rectangles can hold the triangle.
-    bool isNearAny(const std::vector<SquareBounds>& rectangles, const PhysicsObject& body,
+    bool isNearAny(const std::vector<Bounds>& rectangles, const PhysicsObject& body,
                    const Epochs& now);
 
 private:
-    void follow(const PhysicsObject& body, const Epochs& now);
-    bool covers(const math::Point& position) const;
+    void refresh(const PhysicsObject& body, const Epochs& now);
 
-    // Few bytes, and those of every sub-step together: a thousand triangles should stay near the
-    // processor.
+    // Kept small, and what every sub-step reads kept together, so that a thousand triangles stay
+    // in cache.
     Bounds region{1.0, -1.0, 1.0, -1.0};               ///< of positions; holds none at first
     std::uint32_t linesEpoch = 0, rectanglesEpoch = 0; ///< of `lines`, of `nearRectangle`
     bool nearRectangle = false;
     bool tested = false; ///< against `lines`, at testedAt, with the answer `stopped`
     bool stopped = false;
     math::Point testedAt;
-    boost::container::small_vector<const TrapLine*, 4> lines; ///< those that can be met
+    boost::container::small_vector<const TrapLine*, 4> lines; ///< the ones within reach
 };
 
 } // namespace quorva::physics
