@@ -11,7 +11,7 @@ public:
     MTRand_int32();
 
     void seed(unsigned long value);                     ///< the low 32 bits count
-    void seed(const unsigned long* key, int keyLength); ///< at least one word, else no effect
+    void seed(const unsigned long* key, int keyLength); ///< in words; no effect below 1 or for null
 
     /// Next word, uniform on [0, 2^32). Never fails.
     unsigned long operator()();

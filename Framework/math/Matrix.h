@@ -27,8 +27,8 @@ public:
     void transpose();
     double determinant() const;
 
-    /// Angles about x, y and z in degrees, each above -180 and up to 180 (not-a-number stays).
-    Vector getEulerXYZ() const;
+    // Of the rotation part.
+    Vector getEulerXYZ() const; ///< degrees about x, y, z, each in (-180, 180] or not-a-number
     Quaternion getQuaternion() const;
 
     double& operator[](std::size_t index) { return m[index]; }
@@ -43,7 +43,7 @@ Point operator*(const Matrix& a, const Point& p);   ///< no division by the four
 Vector operator*(const Matrix& a, const Vector& v); ///< without the translation
 std::ostream& operator<<(std::ostream& out, const Matrix& a);
 
-/// Scales `in` by 1 over its determinant into `out`. Deliberately no more than that.
+/// Deliberately no inverse: `out` becomes `in` times 1 over its determinant. Nothing calls it.
 /// @return false, with `out` left alone, if the determinant is fuzzyZero
 bool inverse(Matrix& out, const Matrix& in);
 bool fastInverse(Matrix& out, const Matrix& in); ///< the same as inverse

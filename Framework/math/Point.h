@@ -17,6 +17,11 @@ public:
     inline Point& operator=(const Vector& v);
 
     inline Point& operator+=(const Vector& v);
+
+    // As of the vector from the origin.
+    inline double dot(const Vector& v) const;
+    inline double length() const;
+    inline void normalise();
 };
 
 } // namespace quorva::math

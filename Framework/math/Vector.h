@@ -29,7 +29,7 @@ public:
     double dot(const Vector& v) const { return x * v.x + y * v.y + z * v.z; }
     double length() const { return std::sqrt(dot(*this)); }
 
-    /// Scales to length 1. A zero vector becomes not-a-number: nothing is checked.
+    /// Scales to length 1. Deliberately without a check: a zero vector becomes not-a-number.
     void normalise() {
         const double scale = 1.0 / length();
         x *= scale;
@@ -48,6 +48,18 @@ inline Point& Point::operator+=(const Vector& v) {
     y += v.y;
     z += v.z;
     return *this;
+}
+
+inline double Point::dot(const Vector& v) const {
+    return Vector(*this).dot(v);
+}
+inline double Point::length() const {
+    return Vector(*this).length();
+}
+inline void Point::normalise() {
+    Vector v(*this);
+    v.normalise();
+    *this = v;
 }
 
 inline Vector operator+(const Vector& a, const Vector& b) {

@@ -8,6 +8,20 @@
 
 using namespace quorva::math;
 
+TEST(PointAndVector, MeasureAndNormaliseAlike) {
+    const auto check = [](auto p) {
+        EXPECT_EQ(p.dot({1, 10, 100}), 632.0);
+        EXPECT_EQ(p.length(), 7.0);
+        p.normalise();
+        EXPECT_EQ(p, decltype(p)(2.0 / 7, 3.0 / 7, 6.0 / 7));
+        p = decltype(p)();
+        p.normalise();
+        EXPECT_TRUE(std::isnan(p.x)) << "unchecked";
+    };
+    check(Point(2, 3, 6));
+    check(Vector(2, 3, 6));
+}
+
 TEST(MTRand, GivesThePublishedWords) {
     MTRand_int32 random;
     random.seed(5489UL);
