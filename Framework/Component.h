@@ -15,9 +15,9 @@ public:
     virtual void update() = 0;  ///< every pass of the main loop, paused or not
     virtual void process() = 0; ///< every tick
 
-    virtual void addEntity(Entity*) {}
-    virtual void removeEntity(Entity*) {}
-    virtual void removeAllEntities() {}
+    virtual void addEntity(Entity*) {}    ///< it has come, or stood when this was activated
+    virtual void removeEntity(Entity*) {} ///< the engine deletes it next
+    virtual void removeAllEntities() {}   ///< this is no longer active
 };
 
 } // namespace quorva

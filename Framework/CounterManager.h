@@ -9,16 +9,16 @@
 
 namespace quorva {
 
-/// The stopwatches by name. An unknown name is none to be started or asked: it has no effect,
-/// and reads as not-a-number or 0.
+/// Stopwatches by name, for developers. Unknown names are ignored, and read as not-a-number or 0.
 class CounterManagerClass {
 public:
-    TimeCounter* addNewCounter(const std::string& name); ///< or the one of that name
+    /// The counter of that name, made if there is none. The manager owns it.
+    TimeCounter* addNewCounter(const std::string& name);
 
     void start(const std::string& name);
     void end(const std::string& name);
-    double getMean(const std::string& name) const;           ///< ms
-    std::uint32_t getElapsed(const std::string& name) const; ///< ms
+    double getMean(const std::string& name) const;           ///< of the durations kept, ms
+    std::uint32_t getElapsed(const std::string& name) const; ///< the last duration, ms
 
 private:
     TimeCounter* find(const std::string& name) const;

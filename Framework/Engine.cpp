@@ -8,8 +8,8 @@ namespace quorva {
 
 namespace {
 
-/// Live entities end with the process: their destructors would reach for services that have
-/// gone. Held here they stay reachable, so that a leak checker can tell them from leaks.
+/// Live entities are left to the end of the process: their destructors would reach for services
+/// that are gone. Held here they stay reachable, and so are no leaks to a leak checker.
 void keepUntilProcessEnds(EngineClass::Entities entities) {
     static std::vector<EngineClass::Entities>* const kept = new std::vector<EngineClass::Entities>;
     kept->push_back(std::move(entities));
@@ -51,7 +51,7 @@ void EngineClass::addComponent(Component* c) {
     if (c == nullptr || isActive(c)) return;
     components.push_back(c);
     for (const auto& [id, entity] : entities)
-        c->addEntity(entity); // it joins late
+        c->addEntity(entity);
 }
 
 void EngineClass::delComponent(Component* c) {
@@ -72,7 +72,7 @@ void EngineClass::update() {
 }
 
 void EngineClass::runEntities(void (Entity::*beat)()) {
-    // One that is born in the sweep has the highest id, so the sweep still comes to it.
+    // An entity born during the sweep has the highest id, so the sweep still comes to it.
     for (const auto& [id, entity] : entities)
         (entity->*beat)();
 }

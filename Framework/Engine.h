@@ -23,29 +23,30 @@ public:
     EngineClass(const EngineClass&) = delete;
     EngineClass& operator=(const EngineClass&) = delete;
 
-    /// Takes `e` over and shows it to the active components. The caller writes the id into `e`
-    /// afterwards, so that the components see it with id 0.
-    /// @return its id, from 1 on; 0 for null; an entity that has an id already is left alone
+    /// Takes ownership of `e` and announces it to the active components, which see it with id 0:
+    /// the caller writes the returned id into it afterwards.
+    /// @return its id, from 1 on; 0, without effect, for null or an entity that has an id already
     unsigned long addEntity(Entity* e);
 
-    /// Makes an entity and registers it. `name` is for the reader of the call alone.
+    /// Makes an entity and registers it. `name` is dropped: it is for the reader of the call.
     template <class T, class... Args>
     T* createEntity(const std::string& name, Args... args);
 
-    /// The registered entity with this id; null if there is none, or none any more.
+    /// The registered entity with this id; null if there is none (any more).
     Entity* getEntity(unsigned long id) const;
 
-    /// Null, or a component that is active already: no effect. It sees all present entities.
+    /// Appends `c` to the active components and announces every present entity to it. No effect
+    /// for null or an active component.
     void addComponent(Component* c);
-    /// Null, or a component that is not active: no effect.
+    /// Takes `c` out. No effect for null or a component that isn't active.
     void delComponent(Component* c);
 
-    void process(); ///< one tick: deletion of the dead, entities, components
-    void update();  ///< one pass of the main loop: entities, components
-    void cleanupDeadEntities();
+    void process();             ///< one tick: deletion of the dead, entities, components
+    void update();              ///< one pass of the main loop: entities, components
+    void cleanupDeadEntities(); ///< deletes those flagged dead, by rising id
 
-    /// True while the engine goes, at process exit: nothing new may be made then, since the
-    /// services that it would need have gone already.
+    /// True while the engine is being destroyed at exit: create nothing then, as the services
+    /// that it would need may be gone.
     bool isClosing() const { return closing; }
 
     using Entities = std::map<unsigned long, Entity*>;

@@ -27,9 +27,9 @@ public:
                           subscribers.end());
     }
 
-    /// One that subscribes during the delivery is not called in it.
+    /// A subscriber that joins during the delivery is not called in it.
     void publish(const T* message) {
-        // By position: a handler may subscribe others, and the list then may move in memory.
+        // By position: a handler may subscribe others, and so move the list in memory.
         const std::size_t bound = subscribers.size();
         for (std::size_t i = 0; i < bound && i < subscribers.size(); ++i)
             subscribers[i]->receiveMessage(message);

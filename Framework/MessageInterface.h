@@ -2,14 +2,14 @@
 
 namespace quorva {
 
-/// A subscriber of messages of type T. Its owner's constructor subscribes; the end of its life
-/// unsubscribes, so that no bus ever holds a gone subscriber.
+/// A subscriber to messages of type T. Deriving does not subscribe: the derived constructor does.
+/// The destructor unsubscribes, so that no bus ever holds a deleted subscriber.
 template <class T>
 class MessageInterface {
 public:
     virtual ~MessageInterface();
 
-    /// @param message valid during the call only; an empty one is not to be read
+    /// @param message valid during the call only. Messages without fields may arrive as null.
     virtual void receiveMessage(const T* message) = 0;
 };
 
