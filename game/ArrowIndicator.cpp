@@ -15,7 +15,7 @@ constexpr double default_speeds[] = {0.1, 0.075, 0.05, 0.025};
 constexpr double default_scales[] = {0.3, 0.25, 0.2, 0.15};
 constexpr std::uint16_t restore_duration = 50; // ticks
 
-/// Moves a chevron along the arrow and scales it. Both are kept in single precision.
+/// Moves a chevron along the arrow and scales it, both through single precision.
 void drift(GCheveron& chevron, double distance, double growth) {
     chevron.position.y = static_cast<float>(chevron.position.y + distance);
     chevron.position.z = 0.0;

@@ -26,8 +26,8 @@ public:
     void receiveMessage(const quorva::messages::EndLevel*) override { dead = true; }
 
     void showUpTo(unsigned int n); ///< shows the nearest n chevrons, 0 to 4
-    void fire();                   ///< starts the flying apart, from where the player is now
-    void restore();                ///< starts the flying back
+    void fire();                   ///< they start to fly apart, from where the player is now
+    void restore();                ///< they start to fly back, which takes 50 ticks
 
     const quorva::math::Point* follow; ///< not owned
     double angle;
@@ -36,10 +36,11 @@ public:
     double offset;
     bool firing = false;
     bool restoring = false;
-    quorva::math::Point firedFrom;                                        ///< where the player died
-    boost::array<double, chevron_count> outward = {{0.0, 0.0, 0.0, 0.0}}; ///< speed when firing
-    boost::array<double, chevron_count> inward = {{0.0, 0.0, 0.0, 0.0}};  ///< when restoring
-    std::uint16_t restoreTicks = 0;
+    quorva::math::Point firedFrom; ///< where the player died
+    // Speed of each chevron, world units per tick.
+    boost::array<double, chevron_count> outward = {{0.0, 0.0, 0.0, 0.0}}; ///< while firing
+    boost::array<double, chevron_count> inward = {{0.0, 0.0, 0.0, 0.0}};  ///< while restoring
+    std::uint16_t restoreTicks = 0;                                       ///< left of it
 
 private:
     void flyApart();

@@ -14,9 +14,9 @@ constexpr std::uint16_t max_pulses = 3;
 
 } // namespace
 
-Bomb::Bomb(const math::Point& position, const char* colourName)
-    : PowerUp(position), ticks(pulse_interval),
-      colour(&ColourManager::Instance().getV(colourName)) {
+Bomb::Bomb(const math::Point& position, const char* colourName, const char* indicatorName_)
+    : PowerUp(position), ticks(pulse_interval), colour(&ColourManager::Instance().getV(colourName)),
+      indicatorName(indicatorName_) {
     build(position, *colour);
 }
 
@@ -26,6 +26,6 @@ void Bomb::process() {
         dead = true;
         return;
     }
-    Engine::Instance().createEntity<BombIndicator>("Bomb Indicator", physics->position, colour);
+    Engine::Instance().createEntity<BombIndicator>(indicatorName, physics->position, colour);
     ticks = pulse_interval;
 }

@@ -2,4 +2,5 @@
 
 using namespace quorva;
 
-BombClear::BombClear(const math::Point& position) : Bomb(position, "Clear Bomb Line Colour") {}
+BombClear::BombClear(const math::Point& position)
+    : Bomb(position, "Clear Bomb Line Colour", "Clear Bomb Indicator") {}

@@ -2,7 +2,7 @@
 
 #include "game/Bomb.h"
 
-/// All triangles die.
+/// Kills all triangles.
 class BombClear : public Bomb {
 public:
     explicit BombClear(const quorva::math::Point& position);

@@ -2,4 +2,5 @@
 
 using namespace quorva;
 
-BombImmune::BombImmune(const math::Point& position) : Bomb(position, "Immune Bomb Line Colour") {}
+BombImmune::BombImmune(const math::Point& position)
+    : Bomb(position, "Immune Bomb Line Colour", "Immune Bomb Indicator") {}

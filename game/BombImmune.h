@@ -2,7 +2,7 @@
 
 #include "game/Bomb.h"
 
-/// A spell of invulnerability.
+/// Makes the player invulnerable for a while.
 class BombImmune : public Bomb {
 public:
     explicit BombImmune(const quorva::math::Point& position);

@@ -15,7 +15,7 @@ bool BombIndicator::seeded = false;
 BombIndicator::BombIndicator(const math::Point& position, const graphics::Colour* colour_)
     : ConvergingLines(seeded, line_count, *colour_, fade_step) {
     for (std::size_t i = 0; i < line_count; ++i) {
-        positions[i] = aim(i) + math::Vector(position); // the circle is about the origin
+        positions[i] = aim(i) + math::Vector(position); // `centre` stays at the origin
         addLine(i, half_length);
     }
 }

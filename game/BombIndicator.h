@@ -8,5 +8,5 @@ public:
     /// @param colour copied
     BombIndicator(const quorva::math::Point& position, const quorva::graphics::Colour* colour);
 
-    static bool seeded; ///< the first of the run has seeded the random stream
+    static bool seeded; ///< the first indicator of this kind has seeded the random stream
 };

@@ -15,7 +15,7 @@ constexpr double inset = 0.1;         // of the segments from the edge, world un
 constexpr double width_share = 0.1;   // line width, by the field's width
 constexpr double margin_share = 0.25; // reach of the radar, by the field's width
 
-/// Segment at `value` along a side from `low` to `high`; what is outside counts to the last one.
+/// The segment at `value` along a side from `low` to `high`; beyond its ends, the first or last.
 unsigned int segmentAt(double value, double low, double high) {
     if (value < low) return 0;
     const double index = (value - low) / (high - low) * Border::segment_count;
@@ -25,17 +25,8 @@ unsigned int segmentAt(double value, double low, double high) {
 
 } // namespace
 
-/// The edges of the view, each through single precision.
-struct Border::Field {
-    double left, right, top, bottom;
-
-    Field() {
-        const auto& camera = graphics::Camera::Instance();
-        left = static_cast<float>(camera.left);
-        right = static_cast<float>(camera.right);
-        top = static_cast<float>(camera.top);
-        bottom = static_cast<float>(camera.bottom);
-    }
+struct Border::Field : primitives::Box {
+    Field() : Box(graphics::Camera::Instance().getViewBox()) {}
     bool holds(const math::Point& p) const {
         return p.x > left && p.x < right && p.y > bottom && p.y < top;
     }

@@ -9,8 +9,8 @@
 
 class GLine;
 
-/// The radar: the edge of the field in short segments, each of which lights up the brighter the
-/// nearer something stands behind it, outside.
+/// The radar: the edge of the field in short segments, which light up as things come near from
+/// outside, the brighter the nearer.
 class Border : public quorva::Entity, public quorva::MessageInterface<quorva::messages::EndLevel> {
 public:
     static constexpr unsigned int segment_count = 12; ///< of a side
@@ -29,7 +29,7 @@ public:
     Segments<quorva::graphics::Colour> colours; ///< one for each segment: its alpha is its light
 
 private:
-    struct Field;
+    struct Field; ///< the view box, and where things are by it
 
     void addSegments(Side side, const quorva::math::Point& first, const quorva::math::Vector& along,
                      float lineWidth);

@@ -45,12 +45,10 @@ void Bullet::fakeKill() {
 }
 
 bool Bullet::hasLeftField() const {
-    const auto& camera = graphics::Camera::Instance();
+    const primitives::Box field = graphics::Camera::Instance().getViewBox();
     const math::Point& p = physics->position;
-    return p.x - field_margin > static_cast<float>(camera.right) ||
-           p.x + field_margin < static_cast<float>(camera.left) ||
-           p.y - field_margin > static_cast<float>(camera.top) ||
-           p.y + field_margin < static_cast<float>(camera.bottom);
+    return p.x - field_margin > field.right || p.x + field_margin < field.left ||
+           p.y - field_margin > field.top || p.y + field_margin < field.bottom;
 }
 
 void Bullet::noticeHit() {

@@ -11,33 +11,33 @@
 
 class GLine;
 
-/// An effect that tells the player what has just happened: lines fly in, lengthwise like spears,
-/// from a circle around a point, and fade out together.
+/// An effect that shows the player where something has happened: lines fly in, lengthwise like
+/// spears, from a circle around a point, and fade out together.
 class ConvergingLines : public quorva::Entity,
                         public quorva::MessageInterface<quorva::messages::EndLevel> {
 public:
-    void process() override; ///< moves and fades; dead once nothing can be seen
+    void process() override; ///< moves and fades the lines; dead once they are invisible
     void update() override {}
     void receiveMessage(const quorva::messages::EndLevel*) override { dead = true; }
 
     std::vector<GLine*> lines;                       ///< the graphics own them
     quorva::math::Point centre;                      ///< of the circle
-    std::vector<quorva::math::Quaternion> rotations; ///< one per line, as the following
+    std::vector<quorva::math::Quaternion> rotations; ///< one per line, as in the next three
     std::vector<double> angles;                      ///< degrees
     std::vector<quorva::math::Point> positions;
     std::vector<quorva::math::Vector> velocities; ///< world units per tick
     quorva::graphics::Colour colour;              ///< own copy: all lines fade together
 
 protected:
-    /// @param seeded   whether the first of the class has seeded the random stream
+    /// @param seeded   of the derived class: its first object seeds the random stream and sets this
     /// @param fadeStep alpha per tick
     ConvergingLines(bool& seeded, std::size_t count, const quorva::graphics::Colour& colour,
                     float fadeStep);
 
-    /// Draws the angle of line `i` and sets its turn and velocity.
+    /// Draws a random angle for line `i` and sets its turn and velocity by it.
     /// @return its start on the circle
     quorva::math::Point aim(std::size_t i);
-    /// A layer of its own for line `i`.
+    /// Makes line `i`, in a layer of its own, which follows positions[i] and rotations[i].
     /// @param halfLength world units
     void addLine(std::size_t i, double halfLength);
 

@@ -8,5 +8,5 @@ public:
     void render() override;
 
     quorva::math::Point tip, left, right; ///< world units, relative to `position`
-    float lineWidth = 1.0F;               ///< pixels, whatever the screen
+    float lineWidth = 1.0F;               ///< pixels, not scaled with the screen
 };

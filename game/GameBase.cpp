@@ -19,7 +19,7 @@ using namespace quorva;
 
 namespace {
 
-const math::Vector gravity(0.0, -6.0, 0.0); // nothing falls, as the physics stands
+const math::Vector gravity(0.0, -6.0, 0.0); // without effect: the physics never applies it
 
 /// Every action with its default key and joystick button, in the order of registration.
 const struct {
@@ -107,7 +107,7 @@ bool GameBase::loadLevel() {
 
 void GameBase::unLoadLevel() {
     publish(StopSong());
-    audio->stopSong();
+    audio->stopSong(); // deliberate: a second time, and without a level too
     if (level == nullptr) return;
     level->dead = true;
     level = nullptr;
@@ -116,7 +116,8 @@ void GameBase::unLoadLevel() {
     engine.addComponent(menuInputHandler);
     engine.delComponent(physicsProcessor);
     renderer->physics = nullptr;
-    Timer::Instance().unPauseGame(); // paused or not: the next game resets the clock
+    // Also if it isn't paused: the sum that this spoils is reset by the next game.
+    Timer::Instance().unPauseGame();
 }
 
 void GameBase::receiveMessage(const messages::EndLevel*) {

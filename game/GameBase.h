@@ -23,8 +23,8 @@ class PhysicsProcessor;
 }
 } // namespace quorva
 
-/// The one game object that `main` makes: it owns the components and decides which are active,
-/// and so switches between menu and level. It holds no rules of play.
+/// The one game object that `main` makes. It owns the components and, by choosing the active ones,
+/// switches between menu and level. It holds no rules of play.
 class GameBase : public quorva::Game,
                  public quorva::MessageInterface<quorva::messages::EndLevel>,
                  public quorva::MessageInterface<quorva::messages::LoadLevel>,
@@ -46,21 +46,22 @@ public:
     void receiveMessage(const quorva::messages::EndGame*) override;
     void receiveMessage(const PlayerDead* m) override;
 
-    void setDefaultKeyMapping(); ///< the actions' defaults, then the bind file
+    void setDefaultKeyMapping(); ///< the default keys of all actions, then the bind file
 
     GameLevel* level = nullptr; ///< null in the menu; the engine owns it
-    bool menuUp = true;
+    bool menuUp = true;         ///< MenuLoad sets it again; nothing clears or reads it
     quorva::menus::MainMenu* mainMenu = nullptr; ///< for the whole run; the engine owns it
-    // The components, owned. They outlive every level: a level ends inside their own sweep.
+    // The components, owned. Never freed with a level, which ends within a sweep over them.
     quorva::graphics::Renderer* renderer;
     quorva::input::InputHandler* inputHandler;
     quorva::input::MenuInputHandler* menuInputHandler;
     quorva::physics::PhysicsProcessor* physicsProcessor;
     FModMP3Input* audio;
-    bool gameOverPending = false; ///< the level that ends next was lost
+    bool gameOverPending = false; ///< the last life is lost: the next EndLevel shows the verdict
 
 private:
     void startGame();
     bool loadLevel(); ///< @return false, with a line on standard error, if it threw
-    void unLoadLevel();
+    void
+    unLoadLevel(); ///< stops the music; a running level is flagged dead, the menu gets the keys
 };

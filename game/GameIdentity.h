@@ -1,4 +1,4 @@
 #pragma once
 
-/// Fills GameInfo with this game's name, version and files. Comes before all else that runs.
+/// Fills GameInfo with this game's name, version and files. To be called before anything else.
 void introduceGame();

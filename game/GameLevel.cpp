@@ -28,7 +28,7 @@ namespace {
 
 math::MTRand_int32 Rand;
 
-/// A fresh draw in [0, 1). Two draws never share an expression: their order is the game.
+/// A fresh draw in [0, 1). No expression holds two draws, as their order is part of the game.
 double draw() {
     return math::randomFraction(Rand);
 }
@@ -36,16 +36,16 @@ double draw() {
 constexpr double first_spawn_base = 0.995, highest_threshold = 0.995;
 constexpr double spawn_bonus_step = 0.001;
 constexpr double death_spawn_step = 0.00025, death_size_step = 0.025;
-constexpr std::uint16_t longest_spawn_gap = 50;         // ticks
-constexpr std::uint32_t difficulty_interval = 650;      // ticks
-constexpr std::uint16_t bomb_interval = 499;            // ticks; one above it drops a bomb
-constexpr std::uint16_t power_up_interval = 15;         // triangles; one above it drops a power-up
+constexpr std::uint16_t longest_spawn_gap = 51;    // ticks without a triangle
+constexpr std::uint32_t difficulty_interval = 650; // ticks
+constexpr std::uint16_t bomb_interval = 500;       // ticks
+constexpr std::uint16_t triangles_per_power_up = 16;
 constexpr double drop_width = 35.0, drop_height = 25.0; // world units about the origin
 constexpr double spawn_distance = 5.0;                  // world units outside the view
 constexpr double fastest = 10.0;
 constexpr double smallest = 0.45, largest = 2.25;
 
-constexpr double word_depth = 0.1F; // single precision, widened
+constexpr double word_depth = 0.1F; // deliberately not the double 0.1
 constexpr double display_height = 14.0, icon_height = 14.25, pause_scale = 1.5;
 
 math::Point dropPoint() {
@@ -63,7 +63,7 @@ GameLevel::GameLevel() : spawnBase(first_spawn_base) {
     Marvo::Instance().reset();
     Marvo::Instance().player = player;
     getGraphics()->getBaseLayer()->layer = graphics::layer_world;
-    Rand.seed(Timer::Instance().getTicks()); // this is why games differ
+    Rand.seed(Timer::Instance().getTicks()); // so that no two games are alike
     createDisplay();
     createPauseOverlay();
     spawnTriangle();
@@ -105,9 +105,8 @@ void GameLevel::createDisplay() {
 void GameLevel::createPauseOverlay() {
     const unsigned short layer = getGraphics()->createNewLayer();
     graphics->things[layer]->layer = graphics::layer_menu_text;
-    const auto& camera = graphics::Camera::Instance();
     pauseBox = getGraphics()->createGraphic<graphics::GBox>(layer);
-    pauseBox->box = primitives::Box(camera.top, camera.bottom, camera.left, camera.right);
+    pauseBox->box = graphics::Camera::Instance().getViewBox();
     pauseBox->setColour1(&ColourManager::Instance().getV("Pause BG"));
     pauseBox->deactivate();
     pauseWord = addWord(layer, "Paused!", 0.0, 0.0, graphics::ALIGN_CENTRE, pause_scale);
@@ -129,7 +128,7 @@ void GameLevel::spawnByChance() {
         spawnTriangle();
     else
         ++ticksSinceSpawn;
-    if (ticksSinceSpawn > longest_spawn_gap) spawnTriangle();
+    if (ticksSinceSpawn >= longest_spawn_gap) spawnTriangle();
 }
 
 void GameLevel::raiseDifficulty() {
@@ -140,7 +139,7 @@ void GameLevel::raiseDifficulty() {
 }
 
 void GameLevel::dropBomb() {
-    if (++ticksSinceBomb <= bomb_interval) return;
+    if (++ticksSinceBomb < bomb_interval) return;
     ticksSinceBomb = 0;
     const math::Point place = dropPoint();
     if (draw() >= 0.5)
@@ -150,7 +149,7 @@ void GameLevel::dropBomb() {
 }
 
 void GameLevel::dropPowerUp() {
-    if (trianglesSincePowerUp <= power_up_interval) return;
+    if (trianglesSincePowerUp < triangles_per_power_up) return;
     const bool longerLines = draw() < 0.5;
     const math::Point place = dropPoint();
     if (longerLines)
@@ -161,11 +160,13 @@ void GameLevel::dropPowerUp() {
 }
 
 void GameLevel::refreshDisplay() {
-    // Straight into the text: a word stays where its start text stood, and grows to the right.
+    // Deliberately not by setWord, which would measure the text: a word stays where its start text
+    // stood, and grows to the right.
     const MarvoClass& marvo = Marvo::Instance();
     const auto show = [](graphics::GWord* word, const char* before, const auto& number,
                          const char* after = "") {
-        word->word.assign(before).append(std::to_string(number)).append(after); // in its old room
+        // Reuses the string's capacity.
+        word->word.assign(before).append(std::to_string(number)).append(after);
     };
     show(scoreWord, "", marvo.score);
     show(livesWord, "1UP!     ", marvo.lives, "   lives");
@@ -175,9 +176,7 @@ void GameLevel::refreshDisplay() {
 }
 
 math::Point GameLevel::spawnPoint() const {
-    const auto& camera = graphics::Camera::Instance();
-    const double left = static_cast<float>(camera.left), right = static_cast<float>(camera.right);
-    const double top = static_cast<float>(camera.top), bottom = static_cast<float>(camera.bottom);
+    const primitives::Box view = graphics::Camera::Instance().getViewBox();
     const auto beyond = [](double edge, double sign) {
         return edge + sign * spawn_distance + sign * spawn_distance * draw();
     };
@@ -185,17 +184,17 @@ math::Point GameLevel::spawnPoint() const {
     const double side = draw();
     math::Point p;
     if (side < 0.25) { // above
-        p.x = along(right);
-        p.y = beyond(top, 1.0);
+        p.x = along(view.right);
+        p.y = beyond(view.top, 1.0);
     } else if (side < 0.5) { // below
-        p.x = along(right);
-        p.y = beyond(bottom, -1.0);
+        p.x = along(view.right);
+        p.y = beyond(view.bottom, -1.0);
     } else if (side < 0.75) { // left
-        p.x = beyond(left, -1.0);
-        p.y = along(top);
+        p.x = beyond(view.left, -1.0);
+        p.y = along(view.top);
     } else { // right
-        p.x = beyond(right, 1.0);
-        p.y = along(top);
+        p.x = beyond(view.right, 1.0);
+        p.y = along(view.top);
     }
     return p;
 }
@@ -209,7 +208,7 @@ double GameLevel::spawnSpeed() const {
 
 double GameLevel::spawnSize() const {
     double size = levelNumber / 15.0 + 1.0 + 2.0 * (draw() - 0.5) - deathSizePenalty;
-    if (size < smallest) size += 1.0; // once: a very small one stays small
+    if (size < smallest) size += 1.0; // only once: a very small triangle stays small
     if (size > largest) size = largest - 0.25 * draw();
     return size;
 }

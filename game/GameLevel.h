@@ -17,8 +17,8 @@ class GWord;
 } // namespace quorva::graphics
 
 /// One whole game: makes the player and the border, spawns enemies and power-ups on a rising
-/// curve, keeps the display, toggles the pause. What it calls a level number is a step of
-/// difficulty, raised by time; nothing advances to a next level.
+/// curve, keeps the display up to date, toggles the pause. There is no next level: the level
+/// number is a step of difficulty, which time raises.
 class GameLevel : public quorva::Entity,
                   public quorva::MessageInterface<PlayerDead>,
                   public quorva::MessageInterface<quorva::messages::PlayerInput> {
@@ -30,14 +30,15 @@ public:
     void receiveMessage(const PlayerDead*) override; ///< each death eases the game a little
     void receiveMessage(const quorva::messages::PlayerInput* m) override; ///< toggles the pause
 
-    void spawnTriangle(); ///< 5 to 10 units outside the view, at a side by chance
+    void spawnTriangle(); ///< 5 to 10 world units outside the view, on a random side
 
     PlayerCharacter* player = nullptr; ///< the engine owns it
     quorva::math::Point position;      ///< where the player starts
-    double spawnBase;                  ///< base of the spawn threshold
-    double spawnBonus = 0.0;           ///< grows by each step of difficulty
-    std::uint32_t tickCount = 0;       ///< of this game
-    std::uint16_t levelNumber = 0;     ///< step of difficulty
+    // A draw above spawnBase - spawnBonus + deathSpawnPenalty spawns a triangle.
+    double spawnBase;
+    double spawnBonus = 0.0;       ///< grows by each step of difficulty
+    std::uint32_t tickCount = 0;   ///< of this game
+    std::uint16_t levelNumber = 0; ///< step of difficulty
     quorva::graphics::GWord *scoreWord, *livesWord, *nextLifeWord; ///< the graphics own all these
     std::uint16_t trianglesSincePowerUp = 0;
     std::uint16_t ticksSinceBomb = 0;
@@ -45,7 +46,7 @@ public:
     CDLineIcon* cooldownIcon;
     quorva::graphics::GWord *linePupWord, *cooldownPupWord;
     double deathSpawnPenalty = 0.0; ///< grows by each death
-    double deathSizePenalty = 0.0;
+    double deathSizePenalty = 0.0;  ///< the same; taken from the size of a triangle
     std::uint16_t ticksSinceSpawn = 0;
     quorva::graphics::GWord* pauseWord;
     quorva::graphics::GBox* pauseBox;

@@ -32,9 +32,9 @@ std::uint32_t toScore(long double sum, std::uint32_t unchanged) {
 
 MarvoClass::MarvoClass() {
     reset();
-    const auto& camera = graphics::Camera::Instance();
-    const float width = static_cast<float>(camera.right) - static_cast<float>(camera.left);
-    const float height = static_cast<float>(camera.top) - static_cast<float>(camera.bottom);
+    const primitives::Box field = graphics::Camera::Instance().getViewBox();
+    const auto width = static_cast<float>(field.right - field.left);
+    const auto height = static_cast<float>(field.top - field.bottom);
     fieldArea = static_cast<double>(width) * height;
 
     std::ifstream file = utility::openForReading(high_score_file);

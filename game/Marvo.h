@@ -7,14 +7,14 @@
 
 class PlayerCharacter;
 
-/// The running state of a game: lives, score, extra lives, and the high score with its file
-/// s.dat. The physics reports its kills here.
+/// The score-keeper: lives, score and extra lives of the running game, and the high score with
+/// its file s.dat. The physics reports kills here.
 class MarvoClass {
 public:
     MarvoClass(); ///< reads the high score; 0 if there is no file
 
     void reset();   ///< a new game; the high score stays
-    void process(); ///< every tick: at most one extra life
+    void process(); ///< every tick, by the player: at most one extra life
 
     unsigned long getNextLife() const; ///< the score that the next life needs to pass
 
@@ -26,18 +26,18 @@ public:
     /// A triangle has touched the player. Nothing happens while it is invulnerable.
     void killPlayer();
 
-    /// A rectangle has caught `count` triangles: scores, shows and sounds it. With the share a
-    /// of the field's area it is worth (1 - a)^4 * 1000 * 2 * count points.
+    /// A rectangle has caught `count` triangles: adds its score, makes its indicator and sound. If
+    /// it covers the share a of the field, it is worth (1 - a)^4 * 1000 * 2 * count points.
     void killTriangles(const quorva::primitives::Box& box, unsigned short count);
 
-    /// Raises the high score to the score and writes it, if it is a record. A tie is none, and
-    /// a file that can't be written is passed over.
+    /// If the score is above the high score, raises that and writes it. A file that can't be
+    /// written is ignored.
     void saveHighScore();
 
     std::int16_t lives;                ///< spare ones; below 0 the game is over
     std::uint32_t score;               ///< keeps its last value after a game
     PlayerCharacter* player = nullptr; ///< the engine owns it; gone once its level has ended
-    double fieldArea;                  ///< of the playfield at first use, square world units
+    double fieldArea;                  ///< square world units; fixed at first use
     std::uint16_t nextLife;            ///< number of the next extra life
     std::uint32_t highScore = 0;
 };

@@ -19,7 +19,7 @@ using namespace quorva;
 
 namespace {
 
-// World units per tick. Nothing normalises a diagonal.
+// World units per tick. Deliberately not normalised: a diagonal move is faster.
 const math::Vector right_movement(0.25, 0.0, 0.0);
 const math::Vector left_movement(-0.25, 0.0, 0.0);
 const math::Vector up_movement(0.0, 0.25, 0.0);
@@ -41,24 +41,24 @@ constexpr std::uint16_t invulnerable_duration = 100;
 constexpr std::uint16_t blink_interval = 5;
 constexpr std::uint16_t death_duration = 100;
 constexpr std::uint16_t arrows_return = 50; // left of the death
-constexpr std::uint16_t first_line_length = 200, line_length_step = 25, line_length_bound = 249;
+constexpr std::uint16_t first_line_length = 200, line_length_step = 25, longest_line = 250;
 constexpr std::uint16_t first_cooldown = 20, shortest_cooldown = 5;
 constexpr std::uint16_t pickup_pause = 2;
 constexpr std::uint32_t pickup_count = 3;
 
-/// What belongs to a gun, by Gun.
+/// By Gun: its direction of fire and the index of its arrow.
 const struct {
     const math::Vector& direction;
     unsigned int arrow;
 } guns[] = {{fire_right, 3}, {fire_left, 1}, {fire_up, 0}, {fire_down, 2}};
 
-/// Chevrons to show while this share of the cooldown is left.
+/// How many chevrons to show while this share of the cooldown is left.
 unsigned int recovery(double share) {
     if (share > 0.99) return 0;
     return share >= 0.75 ? 1 : share >= 0.5 ? 2 : share >= 0.25 ? 3 : 4;
 }
 
-/// Keeps x within the field's edges; also out of a third dimension.
+/// Keeps x within the field; a coordinate that had to be put back resets z too.
 void clampTo(double& x, double& z, double low, double high) {
     if (x + field_margin > high)
         x = high - field_margin;
@@ -89,7 +89,7 @@ void PlayerCharacter::setupPhysics(const math::Point& position) {
         physics = new physics::PhysicsObject(position, true, false, true, true);
         physics->boxes.emplace_back(half_extent, half_extent);
     }
-    PointManager::Instance().getV("Player Location"); // there from now on
+    PointManager::Instance().getV("Player Location"); // makes it
 }
 
 void PlayerCharacter::setupGraphics() {
@@ -134,25 +134,27 @@ void PlayerCharacter::receiveMessage(const messages::PlayerInput* m) {
 
 void PlayerCharacter::fire(Gun gun) {
     if (fireTimers[gun] != 0) return;
-    fireBullet(guns[gun].direction);
+    shoot(gun, guns[gun].direction);
     fireTimers[gun] = cooldown;
     arrows[guns[gun].arrow]->showUpTo(0);
 }
 
 void PlayerCharacter::fireBullet(const math::Vector& direction) {
     if (deathTicks != 0) return;
-    for (const auto& gun : guns) {
-        if (!(direction == gun.direction)) continue;
-        const math::Point position = physics->position;
-        auto* const bullet = Engine::Instance().createEntity<Bullet>("Bullet", position, direction);
-        PhysicsLineMessage line;
-        line.position = position - gun.direction * line_start_distance;
-        line.bullet = bullet;
-        line.horizontal = gun.direction.x != 0.0;
-        publish(line);
-        publish(SoundBullet());
-        return;
-    }
+    for (const Gun gun : {gun_right, gun_left, gun_up, gun_down})
+        if (direction == guns[gun].direction) return shoot(gun, direction);
+}
+
+void PlayerCharacter::shoot(Gun gun, const math::Vector& velocity) {
+    const math::Vector& direction = guns[gun].direction;
+    const math::Point position = physics->position;
+    auto* const bullet = Engine::Instance().createEntity<Bullet>("Bullet", position, velocity);
+    PhysicsLineMessage line;
+    line.position = position - direction * line_start_distance;
+    line.bullet = bullet;
+    line.horizontal = direction.x != 0.0;
+    publish(line);
+    publish(SoundBullet());
 }
 
 void PlayerCharacter::process() {
@@ -236,14 +238,14 @@ void PlayerCharacter::pickUp() {
 bool PlayerCharacter::take(Entity* powerUp) {
     if (dynamic_cast<PupLine*>(powerUp) != nullptr) {
         ++linePups;
-        if (lineLength <= line_length_bound) lineLength += line_length_step;
+        if (lineLength < longest_line) lineLength += line_length_step;
         publish(SoundPup());
     } else if (dynamic_cast<PupCooldown*>(powerUp) != nullptr) {
         ++cooldownPups;
         if (cooldown > shortest_cooldown) --cooldown;
         publish(SoundPup());
     } else if (dynamic_cast<BombClear*>(powerUp) != nullptr) {
-        ++cooldownPups; // bombs count here: a plain rule of the game
+        ++cooldownPups; // deliberate: bombs count here
         publish(KillAllTriangles());
         publish(SoundClearBomb());
     } else if (dynamic_cast<BombImmune*>(powerUp) != nullptr) {

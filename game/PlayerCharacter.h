@@ -14,7 +14,8 @@ class Colour;
 }
 
 /// The one entity that the person at the keys drives: a small cube with four independent guns.
-/// It holds what power-ups improve, and runs the sequence of death and invulnerability.
+/// It holds the figures that power-ups improve, and runs the sequence of a death: a spell at the
+/// centre, deaf to input, then a spell of invulnerability.
 class PlayerCharacter : public quorva::Entity,
                         public quorva::MessageInterface<quorva::messages::PlayerInput>,
                         public quorva::MessageInterface<quorva::messages::EndLevel>,
@@ -35,19 +36,20 @@ public:
     void setupProperties() {}
     void setupGraphics();
 
-    /// Fires a bullet, with its line. Only the four axis directions do anything.
+    /// Fires a bullet, with its line, whatever the cooldown. Ignores all but the guns' directions,
+    /// of length 1, and any call while the player lies dead.
     void fireBullet(const quorva::math::Vector& direction);
 
     GCube* cube = nullptr;                            ///< the graphics own it
     const quorva::graphics::Colour* colour = nullptr; ///< resource, not owned
     bool moveUp = false, moveDown = false, moveLeft = false, moveRight = false;
-    bool invulnerable = true; ///< cannot be killed
-    std::uint16_t invulnerableTicks;
-    std::uint16_t blinkTicks;
-    std::uint16_t lineLength; ///< ticks that a finished line stands
-    std::uint16_t cooldown;   ///< ticks between two shots in one direction
-    boost::array<std::uint16_t, gun_count> fireTimers = {{0, 0, 0, 0}}; ///< ticks, by Gun
-    /// The power-up taken last; not owned, and soon deleted: nothing reads it.
+    bool invulnerable = true;        ///< cannot be killed
+    std::uint16_t invulnerableTicks; ///< left of it
+    std::uint16_t blinkTicks;        ///< until the next toggle of visibility
+    std::uint16_t lineLength;        ///< ticks that a finished line stands
+    std::uint16_t cooldown;          ///< ticks between two shots in one direction
+    boost::array<std::uint16_t, gun_count> fireTimers = {{0, 0, 0, 0}}; ///< ticks left, by Gun
+    /// The power-up taken last. Not owned and soon deleted; nothing reads it.
     quorva::Entity* lastPickup = nullptr;
     std::uint16_t pickupLock = 0;            ///< ticks during which nothing can be taken
     std::uint16_t deathTicks = 0;            ///< left of the death sequence
@@ -56,7 +58,8 @@ public:
     std::uint16_t cooldownPups = 0;          ///< cooldown power-ups and bombs taken
 
 private:
-    void fire(Gun gun);
+    void fire(Gun gun); ///< if it has cooled down
+    void shoot(Gun gun, const quorva::math::Vector& velocity);
     void lieDead();
     void steer();
     void wearOff();

@@ -10,7 +10,7 @@ namespace quorva::graphics {
 class Colour;
 }
 
-/// Something that lies on the field to be touched by the player, who carries out its effect.
+/// A thing on the field for the player to touch. PlayerCharacter::take carries out its effect.
 class PowerUp : public quorva::Entity, public quorva::MessageInterface<quorva::messages::EndLevel> {
 public:
     void process() override = 0;
@@ -20,8 +20,9 @@ public:
     GOutlinedCircle* circle = nullptr; ///< the graphics own it
 
 protected:
-    explicit PowerUp(const quorva::math::Point& position);
+    explicit PowerUp(const quorva::math::Point& position); ///< the derived class calls build()
 
-    /// Body and look, alike for all kinds.
+    /// Makes the body and the look, which differ in colour alone.
+    /// @param colour resource, must outlive this
     void build(const quorva::math::Point& position, const quorva::graphics::Colour& colour);
 };

@@ -52,7 +52,7 @@ void PowerUpLines::process() {
 }
 
 void PowerUpLines::grow() {
-    // The draw comes first: it happens with a full burst too.
+    // A full burst draws too, as the order of draws is part of the game.
     if (math::randomFraction(Rand) > ray_threshold && rays.size() < max_rays) addRay();
     for (ParticleLine& ray : rays) {
         if (ray.length >= full_length) continue;

@@ -32,15 +32,15 @@ public:
     void update() override {}
     void receiveMessage(const quorva::messages::EndLevel*) override { dead = true; }
 
-    void cleanUp() { cleaningUp = true; } ///< the power-up has gone
+    void cleanUp() { cleaningUp = true; } ///< from now on it spins and fades
 
-    static double pupzindex; ///< depth of the last burst: each draws at its own
+    static double pupzindex; ///< depth of the newest burst: each is drawn at its own
 
     std::vector<ParticleLine> rays;  ///< at most 100
     quorva::graphics::Colour colour; ///< own copy: it fades
-    bool cleaningUp = false;
-    double spinAngle = 0.0; ///< degrees
-    double spinSpeed = 0.0; ///< degrees per tick
+    bool cleaningUp = false;         ///< the power-up has gone
+    double spinAngle = 0.0;          ///< degrees
+    double spinSpeed = 0.0;          ///< degrees per tick
     quorva::math::Quaternion rotation;
     bool reverse;
 

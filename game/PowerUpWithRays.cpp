@@ -17,6 +17,6 @@ PowerUpWithRays::PowerUpWithRays(const math::Point& position, const char* colour
 }
 
 PowerUpWithRays::~PowerUpWithRays() {
-    // When both end at once the burst goes first, having the lower id.
+    // At the end of a level the burst goes first, having the lower id.
     if (Engine::Instance().getEntity(linesId) != nullptr) lines->cleanUp();
 }

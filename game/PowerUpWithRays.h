@@ -4,10 +4,10 @@
 
 class PowerUpLines;
 
-/// One that lies until it is taken, over a burst of rays.
+/// A power-up that lies until it is taken, over a burst of rays.
 class PowerUpWithRays : public PowerUp {
 public:
-    ~PowerUpWithRays() override; ///< tells the burst, if it is still there
+    ~PowerUpWithRays() override; ///< lets the burst fade, if that still exists
     void process() override {}
 
     PowerUpLines* lines = nullptr; ///< the engine owns it, and may delete it first
@@ -16,5 +16,5 @@ protected:
     PowerUpWithRays(const quorva::math::Point& position, const char* colourName, bool reverse);
 
 private:
-    unsigned long linesId = 0; ///< under which the engine knows `lines`
+    unsigned long linesId = 0; ///< tells whether the engine still has `lines`
 };

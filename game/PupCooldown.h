@@ -2,7 +2,7 @@
 
 #include "game/PowerUpWithRays.h"
 
-/// A shorter cooldown.
+/// Guns cool down faster from now on.
 class PupCooldown : public PowerUpWithRays {
 public:
     explicit PupCooldown(const quorva::math::Point& position);

@@ -2,7 +2,7 @@
 
 #include "game/PowerUpWithRays.h"
 
-/// Longer-lived lines.
+/// Lines stand longer from now on.
 class PupLine : public PowerUpWithRays {
 public:
     explicit PupLine(const quorva::math::Point& position);

@@ -14,14 +14,13 @@ constexpr unsigned int line_step = 4;
 
 void SillyGrid::render() {
     begin();
+    const primitives::Box view = Camera::Instance().getViewBox();
     draw::begin(SHAPE_LINES);
     for (unsigned int i = 0; i < rows; i += line_step) {
         for (unsigned int j = 0; j < planes; j += line_step) {
-            const auto& camera = Camera::Instance();
-            const double bottom = static_cast<float>(camera.bottom);
-            const double y = bottom + i * spacing, z = bottom + j * spacing;
-            draw::vertex3D(static_cast<float>(camera.left), y, z);
-            draw::vertex3D(static_cast<float>(camera.right), y, z);
+            const double y = view.bottom + i * spacing, z = view.bottom + j * spacing;
+            draw::vertex3D(view.left, y, z);
+            draw::vertex3D(view.right, y, z);
         }
     }
     draw::end();

@@ -7,7 +7,7 @@ using namespace quorva;
 namespace {
 
 constexpr std::size_t line_count = 5;
-constexpr float fade_step = 0.025F; // rounding makes it last 41 ticks from alpha 1
+constexpr float fade_step = 0.025F; // in single precision 41 steps from alpha 1, not 40
 
 } // namespace
 

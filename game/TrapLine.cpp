@@ -10,9 +10,9 @@ using namespace quorva;
 
 namespace {
 
-constexpr float line_depth = -10.0F; // behind the rest of the world
+constexpr float line_depth = -10.0F; // behind the other things of its layer
 constexpr float line_width = 4.0F;
-constexpr std::uint32_t solid_after = 5;    // ticks
+constexpr std::uint32_t hardening_time = 7; // ticks
 constexpr std::uint16_t blinking_life = 74; // ticks left from which a line blinks
 constexpr std::uint16_t blink_start = 8, blink_end = 4;
 constexpr float fade_acceleration = 0.01F;
@@ -65,7 +65,7 @@ void TrapLine::killBullet() {
 void TrapLine::process() {
     if (fading) return fade();
     if (!solid) harden();
-    if (bullet == nullptr) age(); // its time runs once the bullet has gone
+    if (bullet == nullptr) age();
 }
 
 void TrapLine::fade() {
@@ -76,7 +76,7 @@ void TrapLine::fade() {
 }
 
 void TrapLine::harden() {
-    if (solidDelay++ > solid_after) solid = true;
+    if (++solidDelay >= hardening_time) solid = true;
 }
 
 void TrapLine::age() {
@@ -94,7 +94,7 @@ void TrapLine::update() {
         line->end = bullet->physics->position;
         if (bullet->fakeKilled) {
             finished = true;
-            killBullet(); // at once, without a fade
+            killBullet();
         } else {
             end = bullet->physics->position;
         }

@@ -7,8 +7,14 @@
 class Bullet;
 class GLine;
 
-/// The line that a bullet draws. It grows with its bullet, then stands for a set time as a wall
-/// for triangles and a side for rectangles, blinks in its last ticks, and goes.
+/// The line that a bullet draws: a wall for triangles, and a side for rectangles.
+///
+/// Its life:
+/// 1. It grows: each update() moves `end` to the bullet.
+/// 2. Its bullet ends: updateBullet() lets it fade. If update() is first: `finished`, killBullet().
+/// 3. It stands for `lifeTicks` ticks, and blinks in the last of them.
+/// 4. Time, a rectangle that pays out (fakeKill) or the fading after a death sets `fakeDone`.
+/// 5. The next sub-step takes it out of the physics and sets `dead`; the engine deletes it.
 class TrapLine : public quorva::Entity,
                  public quorva::MessageInterface<quorva::messages::EndLevel>,
                  public quorva::MessageInterface<PlayerDead> {
@@ -22,36 +28,36 @@ public:
     void receiveMessage(const quorva::messages::EndLevel*) override { dead = true; }
     void receiveMessage(const PlayerDead*) override; ///< starts the fading
 
-    /// Ends the line: the physics takes it out in its next sub-step.
-    void fakeKill(bool alsoBullet);
+    void fakeKill(bool alsoBullet); ///< sets `fakeDone`; also ends a bullet in flight
     bool isFakeDone() const { return fakeDone; }
 
-    /// Lets go of a bullet that has ended. `end` stays as the last update left it.
+    /// Every sub-step, by the physics. Lets go of a bullet that has ended: the drawn end snaps to
+    /// it, `end` stays as the last update left it.
     void updateBullet();
-    void killBullet();
+    void killBullet(); ///< lets go of the bullet, `end` at its place, and deletes it without a fade
 
     quorva::math::Point start; ///< the fixed end
-    /// The end on the bullet, one update old, and zero until the first: what triangles and
-    /// rectangles see, while the drawn end is the bullet's place.
+    /// The moving end as triangles and rectangles meet it: where the bullet was at the last update,
+    /// zero until the first. The drawn end is where the bullet is.
     quorva::math::Point end;
-    /// In flight; null from the moment it has ended. Not owned: it is let go of here, or by the
-    /// physics when the engine deletes it.
+    /// While it flies, else null. Not owned: cleared here when it ends, by the physics when the
+    /// engine deletes it.
     Bullet* bullet;
-    GLine* line; ///< owned by the graphic object
-    std::uint16_t lifeTicks;
-    bool horizontal; ///< fired left or right
+    GLine* line;             ///< the graphics own it
+    std::uint16_t lifeTicks; ///< left to stand without a bullet
+    bool horizontal;         ///< fired left or right
     bool fakeDone = false;
-    bool solid = true; ///< may be a side of a rectangle
-    std::uint32_t solidDelay = 0;
-    std::uint16_t blinkTicks; ///< until the next toggle of visibility
-    bool fading = false;      ///< the player has died
-    float fadeScale = 1.0F;
-    float fadeStep = 0.0F;
-    bool finished = false;      ///< update has seen the bullet's end
-    bool endWithBullet = false; ///< never set
+    bool solid = true;            ///< may be a side of a rectangle; nothing clears it
+    std::uint32_t solidDelay = 0; ///< ticks while not solid: never runs
+    std::uint16_t blinkTicks;     ///< until the next toggle of visibility
+    bool fading = false;          ///< the player has died
+    float fadeScale = 1.0F;       ///< of the drawn line; from 1 down to 0
+    float fadeStep = 0.0F;        ///< by which it shrinks; grows each tick
+    bool finished = false;        ///< update() has seen the bullet's end
+    bool endWithBullet = false;   ///< nothing sets it: a line never goes with its bullet
 
 private:
-    void fade();
-    void harden();
-    void age();
+    void fade();   ///< 13 ticks
+    void harden(); ///< 7 ticks
+    void age();    ///< counts `lifeTicks` down and blinks
 };

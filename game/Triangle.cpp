@@ -21,7 +21,7 @@ constexpr double slowest_divisor = 15.0; // velocity: 1 / (this - speed)
 constexpr double turn_limit = 2.5;       // degrees per tick
 constexpr std::uint16_t rest_ticks = 16;
 constexpr std::uint16_t held_ticks = 3;
-constexpr double contracted_share = 1.1; // squared lengths: nose to base over this
+constexpr double contracted_share = 1.1; // divides the squared length from nose to base
 
 void addInPlane(math::Point& point, const math::Vector& offset) {
     point.x += offset.x;
@@ -33,7 +33,7 @@ double squaredLength(const math::Vector& v) {
 }
 
 /// `corner` of the model turned by `radians`, at `length` from the origin.
-/// atan of an infinite slope is a right angle, as it should be.
+/// With x at 0 the slope is infinite, and atan gives the right angle that is wanted.
 math::Point turned(const math::Point& corner, double radians, double length) {
     const double direction = std::atan(corner.y / corner.x) + radians;
     return {std::cos(direction) * length, std::sin(direction) * length, 0.0};
@@ -91,10 +91,10 @@ void Triangle::receiveMessage(const messages::EndLevel*) {
 }
 
 void Triangle::changeRotation(double radians) {
-    graphic->a() = turned(modelA, radians, math::Vector(modelA).length() * size);
-    // The slope of B is that of the opposite direction.
-    graphic->b() = turned(modelB, radians, -math::Vector(modelB).length() * size);
-    graphic->c() = turned(modelC, radians, math::Vector(modelC).length() * size);
+    graphic->a() = turned(modelA, radians, modelA.length() * size);
+    // B has a slope of zero, which points along +x, and B lies along -x: hence the minus.
+    graphic->b() = turned(modelB, radians, -modelB.length() * size);
+    graphic->c() = turned(modelC, radians, modelC.length() * size);
 }
 
 void Triangle::changeMovement() {
@@ -113,7 +113,7 @@ void Triangle::reposition() {
     math::Vector toPlayer = player - physics->position;
     forward.normalise();
     toPlayer.normalise();
-    // On the player's very place there is no direction: not-a-number goes through to `angle`.
+    // Deliberately unguarded: exactly where the player is, `angle` becomes not-a-number.
     const double cosine = forward.dot(toPlayer);
     const double turn = std::acos(cosine < -1.0  ? -1.0
                                   : cosine > 1.0 ? 1.0
@@ -197,7 +197,7 @@ void Triangle::restExpanded() {
     physics->velocity = math::zero_vector;
     contractTicks = 0;
     if (pauseTicks == rest_ticks) {
-        // The body has unfolded in front of its place: the place follows.
+        // The body has unfolded ahead of its position, which now catches up.
         addInPlane(physics->position, baseOffset);
         baseOffset = math::zero_vector;
     }

@@ -20,25 +20,25 @@ class Triangle : public quorva::Entity,
 public:
     enum State : std::uint32_t { expanding, contracting, restAfterContract, restAfterExpand };
 
-    /// Draws twice from the random stream. The first of a run seeds it anew.
+    /// Draws twice from the random stream. The first triangle of a run seeds it anew.
     /// @param speed gives a velocity of 1 / (15 - speed) world units per tick
     /// @param size  scale of the outline
     Triangle(const quorva::math::Point& position, double speed, double size);
-    ~Triangle() override; ///< throws the three sides of the outline apart, if it `explodes`
+    ~Triangle() override; ///< makes its sides fly apart, if it `explodes`
 
     void process() override;
     void update() override {}
-    void receiveMessage(const quorva::messages::EndLevel*) override; ///< goes silently
+    void receiveMessage(const quorva::messages::EndLevel*) override; ///< goes without a burst
     void receiveMessage(const PlayerDead*) override { dead = true; }
     void receiveMessage(const KillAllTriangles*) override { dead = true; }
 
     void changeRotation(double radians); ///< rewrites the outline from the model, turned
     void changeMovement();               ///< velocity along the heading
     void reposition();                   ///< turns towards the player
-    void startContracting() {}
+    void startContracting() {}           ///< nothing calls these two
     void startExpanding() {}
 
-    static bool seeded; ///< the first of the run has seeded the random stream
+    static bool seeded; ///< the first triangle of the run has seeded the random stream
 
     const quorva::graphics::Colour* normalColour; ///< resources, not owned
     const quorva::graphics::Colour* stuckColour;
@@ -54,10 +54,10 @@ public:
     quorva::math::Vector noseStep;   ///< growth of noseOffset per tick
     quorva::math::Vector noseOffset; ///< lead of the nose
     std::uint16_t pauseTicks = 0;    ///< left of a rest
-    std::uint16_t noseTarget = 0;    ///< ticks that the nose is to reach forward for
-    std::uint16_t contractTicks = 0;
-    std::uint16_t noseTicks = 0;
-    std::uint16_t stuckTicks = 0; ///< 3, 2, 1, 0 and round again while a line holds it
+    std::uint16_t noseTarget = 0;    ///< how many ticks the nose is to reach forward
+    std::uint16_t contractTicks = 0; ///< spent contracting
+    std::uint16_t noseTicks = 0;     ///< spent reaching forward
+    std::uint16_t stuckTicks = 0;    ///< 3, 2, 1, 0 and round again while a line holds it
 
 private:
     void buildOutline();

@@ -13,7 +13,7 @@ namespace {
 
 math::MTRand_int32 Rand;
 
-constexpr double drift_divisor = 10.0; // acceleration: a tenth of a world unit
+constexpr double drift_divisor = 10.0; // leaves 0.1 world units per tick and tick
 constexpr double field_margin = 5.0;   // world units outside the field at which it ends
 constexpr double spin_range = 20.0;    // degrees per tick
 constexpr float line_width = 4.0F;
@@ -40,12 +40,10 @@ TriangleExplodeLine::TriangleExplodeLine(const math::Point& position, const math
 }
 
 bool TriangleExplodeLine::isFarOutside() const {
-    const auto& camera = graphics::Camera::Instance();
+    const primitives::Box field = graphics::Camera::Instance().getViewBox();
     const math::Point& p = physics->position;
-    return p.y > static_cast<float>(camera.top) + field_margin ||
-           p.y < static_cast<float>(camera.bottom) - field_margin ||
-           p.x > static_cast<float>(camera.right) + field_margin ||
-           p.x < static_cast<float>(camera.left) - field_margin;
+    return p.y > field.top + field_margin || p.y < field.bottom - field_margin ||
+           p.x > field.right + field_margin || p.x < field.left - field_margin;
 }
 
 void TriangleExplodeLine::process() {

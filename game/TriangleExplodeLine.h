@@ -12,7 +12,7 @@ class TriangleExplodeLine : public quorva::Entity,
                             public quorva::MessageInterface<quorva::messages::EndLevel> {
 public:
     /// @param start, end relative to `position`
-    /// @param drift direction, of length 1; with not-a-number in it only EndLevel ends the line
+    /// @param drift direction, of length 1; if it is not-a-number, only EndLevel ends the line
     TriangleExplodeLine(const quorva::math::Point& position, const quorva::math::Point& start,
                         const quorva::math::Point& end, const quorva::math::Vector& drift);
 
@@ -22,7 +22,7 @@ public:
 
     quorva::math::Point start, end; ///< relative to the position
     quorva::math::Vector drift;     ///< acceleration, world units per tick and tick
-    GLine* line;                    ///< owned by the graphic object
+    GLine* line;                    ///< the graphics own it
     double spinAngle = 0.0;         ///< degrees, ever growing
     quorva::math::Quaternion rotation;
 

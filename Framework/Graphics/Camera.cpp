@@ -14,7 +14,8 @@ namespace {
 constexpr math::Point home(0.0, 0.0, -100.0);
 constexpr double menu_half_height = 7.5, menu_half_width = 5.625; // before they are doubled
 
-/// Half extents by the screen's width over height, before they are doubled. First row that holds.
+/// Half extents by the screen's width over height, before they are doubled. The first row that
+/// matches counts.
 const struct {
     double ratio; ///< at most
     double halfWidth, halfHeight;
@@ -90,6 +91,10 @@ void CameraClass::project() const {
                 near_flat, far_flat);
     else
         glFrustum(narrow(left), narrow(right), narrow(bottom), narrow(top), near_deep, far_deep);
+}
+
+primitives::Box CameraClass::getViewBox() const {
+    return {narrow(top), narrow(bottom), narrow(left), narrow(right)};
 }
 
 void CameraClass::setupFrustum() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Framework/Primitives/Box.h"
 #include "Framework/Singleton.h"
 #include "Framework/math/Matrix.h"
 
@@ -20,11 +21,15 @@ public:
     /// Whether the sphere is in front of the clip planes. Nothing in the game asks.
     bool objectInFrustum(math::Point& point, float radius) const;
 
-    /// Between the two the view is the home position, without turn. Calls don't nest.
+    /// Between these calls the camera stands at its home position, without turn. They don't nest.
     void menuModeBegin();
     void menuModeEnd();
 
     void resetCamera(); ///< home, without turn
+
+    /// The visible world, each side through single precision: the field to all rules of play but
+    /// the player's own bounds, which are the exact fields below.
+    primitives::Box getViewBox() const;
 
     // For debugging: each by an amount in world units or degrees, without one by the matching
     // speed, and at once. Only the menus move the camera in the game.

@@ -17,8 +17,8 @@ public:
         double far_ = 0.0)
         : top(top_), bottom(bottom_), left(left_), right(right_), near(near_), far(far_) {}
 
-    // Deliberate: a copy has passed through single precision. The score of a rectangle and its
-    // indicator are computed from copies, so a plain copy would change both.
+    // Deliberate: a copy passes through single precision. The score of a rectangle and its
+    // indicator are computed from copies, so an exact copy would change both.
     Box(const Box& other) { *this = other; }
     Box& operator=(const Box& other) {
         top = static_cast<float>(other.top);
