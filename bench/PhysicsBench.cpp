@@ -21,7 +21,7 @@ void setAccuracy(Field& field, std::int64_t subSteps) {
     field.physics->stepDivisor = static_cast<double>(subSteps);
 }
 
-/// All lines must still stand: had a rectangle paid out, the figure would be that of another field.
+/// A rectangle that had paid out would have changed the field that is measured.
 void checkStanding(benchmark::State& state, const Field& field, std::size_t lines) {
     if (field.physics->lines.size() != lines) state.SkipWithError("the field has changed");
 }
@@ -32,7 +32,7 @@ void runWorstField(benchmark::State& state, Field& field, Tick tick) {
     bench::crossLines(field, worst_lines, worst_lines);
     bench::exposePlayer(field);
     setAccuracy(field, state.range(0));
-    for (int i = 0; i < 2; ++i) { // the first ticks find out what later ones know
+    for (int i = 0; i < 2; ++i) { // results that are kept from tick to tick are made
         tick();
         crowd.sway();
     }
@@ -69,7 +69,7 @@ void wholeTick(benchmark::State& state) {
     bench::exposePlayer(field);
     bench::addBursts(field);
     setAccuracy(field, state.range(2));
-    for (int i = 0; i < 20; ++i) // words and lists take the room that they need
+    for (int i = 0; i < 20; ++i) // words and lists reach their full capacity
         field.run.process();
     std::uint64_t allocated = 0; // in ticks in which nothing is born
     for (auto _ : state) {
@@ -83,7 +83,7 @@ void wholeTick(benchmark::State& state) {
     checkStanding(state, field, static_cast<std::size_t>(2 * lines));
 }
 
-/// The same with 16 lines, a shot and a triangle that comes or goes in every tick.
+/// The same with 16 lines, and a triangle that comes or goes in every tick.
 void changingTick(benchmark::State& state) {
     Field field;
     Crowd crowd(static_cast<int>(state.range(0)));

@@ -18,7 +18,7 @@ constexpr double crowd_speed = 0.1;                     // world units per tick
 constexpr std::uint16_t line_life = 60000;              // ticks
 constexpr unsigned int burst_growth = 1500;             // ticks until a burst is full
 
-/// Of the i-th of `count` lines about the origin.
+/// The coordinate of the i-th of `count` lines, centred on the origin.
 double placeOf(int i, int count) {
     return (i - (count - 1) / 2.0) * line_gap;
 }

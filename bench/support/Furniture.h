@@ -6,11 +6,11 @@
 
 namespace bench {
 
-/// So that a field stays as it was furnished; to be called before every tick. Next to nothing
-/// spawns then, and no bomb and no power-up comes.
+/// Keeps a field as it was furnished: next to nothing spawns, no bomb and no power-up comes. To be
+/// called before every tick.
 void quieten(Field& field);
 
-/// Takes part in all tests, but cannot die.
+/// Lets the player take part in all tests; it stays invulnerable.
 void exposePlayer(Field& field);
 
 /// Lines from edge to edge, two world units apart about the origin: eight across and eight upright
@@ -20,18 +20,18 @@ void crossLines(Field& field, int across, int upright);
 /// Two bursts of a hundred rays each, fully grown.
 void addBursts(Field& field);
 
-/// Triangles outside of all rectangles, many of them upon the ends of lines, which hold them.
+/// Triangles outside all rectangles, many of them on the ends of lines, which stop them.
 class Crowd {
 public:
     explicit Crowd(int count);
-    void sway(); ///< turns them round, so that they stay where they are for ever
+    void sway(); ///< reverses their velocities, so that they never get away
 
 private:
     std::vector<Triangle*> triangles; ///< the engine owns them
 };
 
-/// All that a frame can have to show at once: 200 triangles, 16 lines, two bursts of a hundred
-/// rays, the border lit by 60 more, the display.
+/// Everything that a frame can have to show at once: 200 triangles, 16 lines, two bursts of a
+/// hundred rays, the border lit by 60 more, the display.
 void furnishFrame(Field& field);
 
 } // namespace bench

@@ -1,5 +1,5 @@
-// The least that a program with the game's libraries can do: with an argument nothing, else a
-// window of the usual size and one cleared frame.
+// The lower bound for a start with the game's libraries: with an argument nothing at all, else a
+// window of the default size and one cleared frame.
 
 #include <GL/glew.h>
 #include <SDL.h>

@@ -1,5 +1,5 @@
-// Preloaded into the game: says after how many ms the first frame stood on the screen, counted from
-// KOV_STARTED (ns of the monotonic clock), and ends the process there.
+// To be preloaded into the game: prints how many ms after KOV_STARTED (ns of the monotonic clock)
+// the first frame is on the screen, and ends the process.
 
 #include <GL/gl.h>
 

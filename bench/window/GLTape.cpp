@@ -25,7 +25,7 @@ GLTape& glTape() {
 
 using bench::glTape;
 
-/// The function of that name behind this one.
+/// The real function of that name.
 #define BEHIND(name)                                                                               \
     static auto* const behind = reinterpret_cast<decltype(&name)>(dlsym(RTLD_NEXT, #name))
 
@@ -37,7 +37,7 @@ using bench::glTape;
 
 extern "C" {
 
-// What a frame sends; whatever sets the game up goes past the tape.
+// The calls of a frame. Calls that only set the game up are not recorded.
 PASS(glBegin, (GLenum mode), behind, mode)
 PASS(glEnd, (), behind)
 PASS(glVertex2f, (GLfloat x, GLfloat y), behind, x, y)

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-// Stands between the program, the font library among it, and GL: every call goes through, and can
-// be kept on a tape, from which the very same calls go out again without the game.
+// Stands between the whole program, font library included, and GL. Every call goes through and can
+// be recorded on a tape, which replays the very same calls without the game.
 
 namespace bench {
 
@@ -18,7 +18,7 @@ public:
     void play() const;
     std::size_t size() const { return calls.size(); }
 
-    /// Sends the call through, and keeps it if the tape runs.
+    /// Sends the call through, and records it while the tape runs.
     template <class Function, class... Arguments>
     auto pass(Function* function, Arguments... arguments) {
         if (recording) keep(function, arguments...);

@@ -165,8 +165,8 @@ TEST_F(AudioTest, ReportsASongThatIsNotThere) {
         EXPECT_EQ(errorsOf([&] { publish(message); }), c.errors);
         EXPECT_EQ(audio.lastSongID, 1);
     }
-    // A song that can't be opened is told of, and is silence for as long as the one before; the
-    // first of all, for a second.
+    // A song that can't be opened is reported, and the silence lasts as long as the song before; at
+    // the very first song, a second.
     sound().unreadable = {"Songs/a.mp3", "Songs/b.mp3"};
     EXPECT_EQ(errorsOf([&] { audio.playSong(0); }), "FMOD error!23recorded failure\n"
                                                     "FMOD error!37recorded failure\n");

@@ -13,7 +13,8 @@
 #include "headless/HeadlessGame.h"
 #include "platform/standins/VirtualSDL.h"
 
-/// A running level whose field is furnished by hand: nothing hunts, and the player is untouchable.
+/// A running level with an empty field, for tests to furnish. Nothing touches the player, unless a
+/// test makes its body active.
 class Field {
 public:
     Field() : run(100) {
@@ -27,7 +28,7 @@ public:
                 triangle->dead = true;
             }
         quorva::Engine::Instance().cleanupDeadEntities();
-        body(player).isActive = false; // nobody kills it unless a test wants so
+        body(player).isActive = false;
     }
 
     static quorva::physics::PhysicsObject& body(quorva::Entity* e) { return *e->physics; }
@@ -41,7 +42,7 @@ public:
         body(triangle).vertices = {a, b, c};
         return triangle;
     }
-    /// A small one about a point.
+    /// A small triangle around a point.
     Triangle* layAt(double x, double y) {
         return lay({x - 0.1, y - 0.1, 0}, {x + 0.1, y - 0.1, 0}, {x, y + 0.1, 0});
     }

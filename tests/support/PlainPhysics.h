@@ -6,8 +6,8 @@
 #include <vector>
 
 /// The rules of PhysicsProcessor::process as plain loops that repeat everything in every
-/// sub-step: slow, and plain to see. It works on a processor's bodies and lines in its place; the
-/// processor must come to the same, and is measured against it.
+/// sub-step: slow, but easy to verify. It works on a processor's bodies and lines in its place;
+/// tests compare the results, benchmarks the times.
 class PlainPhysics {
 public:
     using Pairs = std::vector<std::pair<quorva::Entity*, quorva::Entity*>>;

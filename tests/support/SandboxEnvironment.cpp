@@ -9,7 +9,7 @@
 
 namespace {
 
-/// No test finds the settings or files of the one before.
+/// Removes the settings and files that a test has left.
 class Tidiness : public testing::EmptyTestEventListener {
     void OnTestEnd(const testing::TestInfo&) override {
         for (const char* file : {"s.dat", "game.conf", "game.conf.bak", "bind1.conf"})
