@@ -44,6 +44,7 @@ Border::Border() {
     const math::Vector right(width / segment_count, 0.0, 0.0);
     const math::Vector up(0.0, (field.top - field.bottom) / segment_count, 0.0);
     const float lineWidth = static_cast<float>(width * width_share);
+    // Not by Side: segments are drawn in the order in which they are made.
     addSegments(side_left, {field.left + inset, field.bottom, 0.0}, up, lineWidth);
     addSegments(side_right, {field.right - inset, field.bottom, 0.0}, up, lineWidth);
     addSegments(side_top, {field.left, field.top - inset, 0.0}, right, lineWidth);

@@ -59,6 +59,7 @@ math::Point dropPoint() {
 GameLevel::GameLevel() : spawnBase(first_spawn_base) {
     subscribe<PlayerDead>(this);
     subscribe<messages::PlayerInput>(this);
+    // The order below gives the ids, and with them the order of every tick: the level comes last.
     player = Engine::Instance().createEntity<PlayerCharacter>("Player", position);
     Marvo::Instance().reset();
     Marvo::Instance().player = player;

@@ -35,7 +35,7 @@ PowerUpLines::PowerUpLines(const math::Point& position, const graphics::Colour* 
                            bool reverse_)
     : colour(*colour_), reverse(reverse_) {
     subscribe<messages::EndLevel>(this);
-    physics = new physics::PhysicsObject(position, false, false, false, false);
+    physics = new physics::PhysicsObject(position, false, false, false, false); // a mere place
     pupzindex += depth_step;
 
     graphics::RenderableThing* const base = getGraphics()->getBaseLayer();

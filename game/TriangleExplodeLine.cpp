@@ -24,7 +24,7 @@ TriangleExplodeLine::TriangleExplodeLine(const math::Point& position, const math
                                          const math::Point& end_, const math::Vector& drift_)
     : start(start_), end(end_), drift(drift_) {
     subscribe<messages::EndLevel>(this);
-    physics = new physics::PhysicsObject(position, false, false, false, false);
+    physics = new physics::PhysicsObject(position, false, false, false, false); // moves, no more
     drift.x /= drift_divisor;
     drift.y /= drift_divisor;
 

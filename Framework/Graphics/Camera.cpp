@@ -100,7 +100,7 @@ primitives::Box CameraClass::getViewBox() const {
 void CameraClass::setupFrustum() {
     const math::Matrix& m = modelMatrix;
     std::transform(m.m.begin(), m.m.end(), projectionMatrix.begin(), narrow);
-    glGetFloatv(GL_PROJECTION_MATRIX, projectionMatrix.data());
+    glGetFloatv(GL_PROJECTION_MATRIX, projectionMatrix.data()); // overwrites all that, if it can
     // Deliberate: from the model matrix, not from what GL has given.
     for (std::size_t i = 0; i < 4; ++i) {
         const double w = m[i * 4 + 3], x = m[i * 4], y = m[i * 4 + 1];
