@@ -1,17 +1,30 @@
 #pragma once
 
+#include <cstdint>
 #include <fstream>
 #include <string>
 
 namespace quorva::utility {
 
-/// Opens a file for reading. A folder, which can be opened but not read, fails like one that is
-/// missing.
-std::ifstream openForReading(const std::string& path);
+/// Bytes. No text file of the game comes near it; one that is larger holds something else.
+constexpr std::uintmax_t largest_text_file = 16U << 20U;
 
-/// Makes `contents` all that a file holds, and the file if need be. When the disk is full it
-/// keeps what it held.
-/// @return whether it holds `contents` now
+/// Whether the path leads to a regular file, links followed. It can be opened and read without
+/// waiting for anybody, which a device or a pipe can't.
+bool isRegularFile(const std::string& path);
+
+/// The path of a regular file as it is, and instead of any other the empty path, which no library
+/// can open.
+std::string regularOrNone(const std::string& path);
+
+/// Opens a regular file of at most `largest` bytes for reading. Anything else fails like a file
+/// that is missing.
+std::ifstream openForReading(const std::string& path, std::uintmax_t largest = UINTMAX_MAX);
+
+/// Replaces the file's contents, creating it if necessary; its owner and its permissions stay.
+/// If that fails, or the process is killed meanwhile, the file holds what it held. Only a regular
+/// file is written; a link is followed.
+/// @return whether the file holds `contents` now
 bool replaceContents(const std::string& path, const std::string& contents);
 
 } // namespace quorva::utility

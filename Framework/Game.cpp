@@ -2,14 +2,26 @@
 
 #include "Framework/Config.h"
 #include "Framework/Engine.h"
+#include "Framework/MessageHandler.h"
+#include "Framework/Messages.h"
 #include "Framework/Timer.h"
 
 #include <SDL.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <csignal>
+
 namespace quorva {
 
 namespace {
+
+static_assert(std::atomic<bool>::is_always_lock_free); // else no handler may touch it
+std::atomic<bool> endRequested = false;
+
+void requestEnd(int) {
+    endRequested = true;
+}
 
 constexpr useconds_t microseconds_per_ms = 1000;
 
@@ -21,6 +33,18 @@ void rest(const TimerClass& timer) {
 
 } // namespace
 
+void endOnSignals() {
+    for (const int signal : {SIGHUP, SIGTERM}) {
+        struct sigaction action {};
+        sigaction(signal, nullptr, &action);
+        if (action.sa_handler == SIG_IGN) continue; // by nohup, for example
+        action = {};
+        action.sa_handler = requestEnd;
+        action.sa_flags = SA_RESTART; // the libraries' calls; a sleep ends all the same
+        sigaction(signal, &action, nullptr);
+    }
+}
+
 Game::~Game() {
     SDL_Quit();
 }
@@ -29,6 +53,7 @@ void Game::mainLoop() {
     TimerClass& timer = Timer::Instance();
     EngineClass& engine = Engine::Instance();
     while (!dead) {
+        if (endRequested.exchange(false)) publish(messages::EndGame());
         if (config::Config::Instance().getSaveCPU() && !timer.paused) rest(timer);
         if (timer.isItTimeToProcess() && !timer.paused) {
             engine.process();

@@ -4,6 +4,10 @@
 
 namespace quorva {
 
+/// From now on SIGHUP and SIGTERM end the main loop as a closed window does, even if they come
+/// before it has begun. One that the program was started to ignore stays ignored.
+void endOnSignals();
+
 /// The program itself. An Entity for the sake of `dead`, the main loop's only stop signal: it is
 /// never registered with the engine, and its process and update are never called.
 class Game : public Entity {

@@ -1,4 +1,5 @@
 #include "Framework/Config.h"
+#include "Framework/Game.h"
 #include "game/GameBase.h"
 #include "game/GameIdentity.h"
 
@@ -22,6 +23,7 @@ bool readArguments(int argc, char* argv[]) {
 } // namespace
 
 int main(int argc, char* argv[]) {
+    endOnSignals();
     introduceGame();
     config::Config::Instance().setDefaults();
     config::Config::Instance().readFile();

@@ -1,5 +1,8 @@
 #include "Framework/Graphics/Font.h"
 
+#include "Framework/Files.h"
+#include "Framework/Utility.h"
+
 #include <FTGL/ftgl.h>
 
 #include <cstdlib>
@@ -57,12 +60,12 @@ Font::Font(FontRenderModeE mode_, const std::string& path) : mode(mode_) {
 void Font::loadFont(const std::string& path) {
     if (loaded) return;
     if (!isKnown(mode)) {
-        std::cerr << "Unknown font type for: " << path << '\n';
+        std::cerr << "Unknown font type for: " << utility::printable(path) << '\n';
         std::abort(); // a programming fault, also where assertions are left out
     }
-    font.reset(modes[mode].make(path.c_str()));
+    font.reset(modes[mode].make(utility::regularOrNone(path).c_str()));
     if (font->Error() != 0) {
-        std::cerr << "Couldn't load font: " << path << '\n';
+        std::cerr << "Couldn't load font: " << utility::printable(path) << '\n';
         loaded = false;
         return;
     }

@@ -5,10 +5,12 @@
 #include "Framework/Config.h"
 #include "Framework/Constants.h"
 #include "Framework/Entity.h"
+#include "Framework/Files.h"
 #include "Framework/GameInfo.h"
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/Draw.h"
 #include "Framework/Graphics/GraphicObject.h"
+#include "Framework/Graphics/XErrors.h"
 #include "Framework/Managers/ResourceManagerManager.h"
 
 #include <SDL.h>
@@ -27,7 +29,12 @@ constexpr int fallback_width = 800, fallback_height = 600, fallback_depth = 32;
 
 /// @return false, with a line on standard error, if there is no such mode
 bool trySetVideoMode(int width, int height, int depth, Uint32 flags) {
+    const XErrors errors;
     if (SDL_SetVideoMode(width, height, depth, flags) != nullptr) return true;
+    if (errors.any()) { // no mode would do: the server or the driver has no OpenGL for us
+        std::cerr << "No window with OpenGL can be opened. Is its driver installed?\n";
+        std::exit(-1);
+    }
     std::cerr << "Couldn't set the video mode: " << SDL_GetError() << '\n';
     return false;
 }
@@ -72,8 +79,9 @@ void sortInPlace(std::vector<RenderableThing*>& things) {
 void setupWindow() {
     const char* const title = GameInfo::Instance().title.c_str();
     SDL_WM_SetCaption(title, title);
+    const std::string file = utility::regularOrNone("data/kov.ico");
     // A missing icon is a null surface, which SDL takes.
-    SDL_Surface* const icon = SDL_LoadBMP_RW(SDL_RWFromFile("data/kov.ico", "rb"), 1);
+    SDL_Surface* const icon = SDL_LoadBMP_RW(SDL_RWFromFile(file.c_str(), "rb"), 1);
     SDL_WM_SetIcon(icon, nullptr);
     SDL_FreeSurface(icon);
 }

@@ -3,7 +3,6 @@
 #include "Framework/Files.h"
 
 #include <algorithm>
-#include <iterator>
 #include <new>
 
 namespace quorva::graphics {
@@ -29,7 +28,8 @@ enum Header : std::size_t {
 
 enum ImageType : unsigned char { mapped = 1, true_colour = 2, packed_mapped = 9, packed = 10 };
 
-constexpr std::size_t palette_size = 768; // 256 entries of three bytes
+constexpr std::streamoff largest_file = 512 << 20; // bytes; 8192 by 8192 pixels take half of it
+constexpr std::size_t palette_size = 768;          // 256 entries of three bytes
 constexpr int palette_entries = 256, palette_entry_bits = 24;
 constexpr int last_image_type = 11, last_descriptor = 32;
 constexpr unsigned char top_down = 0x20;    // flag of the descriptor
@@ -86,9 +86,12 @@ int TGA::load(std::string& path) {
 
 int TGA::readFile(const std::string& path) {
     std::ifstream file = utility::openForReading(path);
-    if (!file) return no_file;
-    fileData.assign(std::istreambuf_iterator<char>(file), {});
-    return success;
+    if (!file.seekg(0, std::ios::end)) return no_file;
+    const std::streamoff size = file.tellg();
+    if (size > largest_file) return out_of_memory;
+    fileData.resize(static_cast<std::size_t>(size));
+    file.seekg(0).read(reinterpret_cast<char*>(fileData.data()), size);
+    return file ? success : no_file;
 }
 
 int TGA::readHeader() {

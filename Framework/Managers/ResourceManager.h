@@ -36,7 +36,7 @@ public:
 
     void load(std::string scope) override {
         setFilename(scope);
-        std::ifstream file = utility::openForReading(filename);
+        std::ifstream file = utility::openForReading(filename, utility::largest_text_file);
         if (!file) {
             std::cerr << "Can't read" << name << " file: " << filename << '\n';
             return;

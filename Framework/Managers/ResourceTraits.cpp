@@ -36,7 +36,7 @@ const struct {
 graphics::FontRenderModeE modeFromWord(const std::string& word) {
     for (const auto& row : font_modes)
         if (word == row.text) return row.mode;
-    std::cerr << "Unknown font mode, defaulted to FR_POLYGON: " << word << '\n';
+    std::cerr << "Unknown font mode, defaulted to FR_POLYGON: " << utility::printable(word) << '\n';
     return graphics::FR_POLYGON;
 }
 

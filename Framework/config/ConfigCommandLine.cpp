@@ -83,12 +83,13 @@ bool ConfigClass::parseCmdLineArgs(const char* programName, const char* argument
 }
 
 void writeUsageMessage(const char* programName) {
-    std::cerr << "Usage: " << programName << " [OPTION]...\n"
-              << "Try `" << programName << " --help` for more information.\n";
+    const std::string name = utility::printable(programName);
+    std::cerr << "Usage: " << name << " [OPTION]...\n"
+              << "Try `" << name << " --help` for more information.\n";
 }
 
 void ConfigClass::printCmdLineFlags(const char* programName) {
-    std::cout << "Usage: " << programName << " [OPTIONS]...\n"
+    std::cout << "Usage: " << utility::printable(programName) << " [OPTIONS]...\n"
               << "All flags are case-sensitive.\n";
     for (const auto& part : help_sections) {
         std::cout << part.heading << '\n';

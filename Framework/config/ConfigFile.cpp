@@ -12,7 +12,7 @@ namespace quorva::config {
 
 ConfigFile::ConfigFile(const std::string& path) {
     const std::string failure = "Unable to load config file: " + path;
-    std::ifstream file = utility::openForReading(path);
+    std::ifstream file = utility::openForReading(path, utility::largest_text_file);
     if (!file) throw IPSError(failure);
     try {
         std::string line;
@@ -35,17 +35,9 @@ void ConfigFile::readLine(std::string line) {
 
 bool ConfigFile::backup() {
     const std::string& path = GameInfo::Instance().configFile;
-    std::ofstream copy(path + ".bak", std::ios::trunc);
-    std::ifstream file(path);
-    if (!copy || !file) return false;
-    file.clear();
-    file.seekg(0);
-    std::string line;
-    // Deliberate: the flag has just been cleared, so that no line is copied. An old backup must
-    // not look like a current one.
-    while (file.eof() && std::getline(file, line))
-        copy << line << '\n';
-    return true;
+    // Deliberate: no line is copied. An old backup must not look like a current one.
+    const bool emptied = utility::replaceContents(path + ".bak", "");
+    return emptied && utility::openForReading(path).good();
 }
 
 } // namespace quorva::config

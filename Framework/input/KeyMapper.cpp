@@ -59,7 +59,7 @@ QuorvaKey keyFromWord(const std::string& word) {
     for (const auto& row : key_words)
         if (upper == row.word) return row.key;
     const QuorvaKey key = upper.size() == 1 ? keyFromCharacter(upper.front()) : unknown_key;
-    if (key == unknown_key) std::cerr << "Key not found: " << upper << '\n';
+    if (key == unknown_key) std::cerr << "Key not found: " << utility::printable(upper) << '\n';
     return key;
 }
 
@@ -85,7 +85,7 @@ const InputKey* KeyMapperClass::getButton(const char* name, unsigned short playe
 }
 
 void KeyMapperClass::readBindFiles() {
-    std::ifstream file = utility::openForReading(bind_file_name);
+    std::ifstream file = utility::openForReading(bind_file_name, utility::largest_text_file);
     if (!file) {
         std::cerr << "Can't read bind1.conf\n"; // the defaults stay in force
         return;
@@ -112,7 +112,7 @@ void KeyMapperClass::bind(const std::vector<std::string>& fields) {
         for (std::size_t i = 1; i < fields.size(); ++i)
             apply(fields[i], *key);
     }
-    if (!found) std::cerr << "Couldn't find key: " << fields[0] << '\n';
+    if (!found) std::cerr << "Couldn't find key: " << utility::printable(fields[0]) << '\n';
 }
 
 } // namespace quorva::input
