@@ -25,7 +25,7 @@ void requestEnd(int) {
 
 constexpr useconds_t microseconds_per_ms = 1000;
 
-/// Sleeps until the next tick is due. An overdue one shows as more than a whole period.
+/// Sleeps until the next tick is due. An overdue tick shows as more than a whole period.
 void rest(const TimerClass& timer) {
     const std::uint16_t ms = timer.getTimeUntilNextProcess();
     if (ms != 0 && ms <= timer.getProcessRate()) usleep(ms * microseconds_per_ms);

@@ -34,7 +34,7 @@ public:
     /// written is ignored.
     void saveHighScore();
 
-    std::int16_t lives;                ///< spare ones; below 0 the game is over
+    std::int16_t lives;                ///< spare lives; below 0 the game is over
     std::uint32_t score;               ///< keeps its last value after a game
     PlayerCharacter* player = nullptr; ///< the engine owns it; gone once its level has ended
     double fieldArea;                  ///< square world units; fixed at first use

@@ -26,6 +26,7 @@ struct VirtualSDL {
     int refusedModes = 0;         ///< how many of the next modes are refused
     std::uint64_t swaps = 0;      ///< frames shown
     std::function<void()> onSwap; ///< called at each, the end of a pass
+    std::function<void()> onMode; ///< called at each mode asked for
     int cursorHidden = 0;
     int quits = 0;
     std::string caption;

@@ -31,6 +31,7 @@ char* SDL_GetError() {
 
 SDL_Surface* SDL_SetVideoMode(int width, int height, int depth, Uint32 flags) {
     sdl().modes.push_back({width, height, depth, flags});
+    if (sdl().onMode) sdl().onMode();
     if (sdl().refusedModes == 0) return &surface;
     --sdl().refusedModes;
     return nullptr;

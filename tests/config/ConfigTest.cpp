@@ -2,6 +2,7 @@
 #include "Framework/GameInfo.h"
 #include "tests/support/Errors.h"
 
+#include <boost/algorithm/string/replace.hpp>
 #include <gtest/gtest.h>
 
 #include <cstdio>
@@ -118,6 +119,7 @@ TEST_F(ConfigTest, SettersReportAndFallBackOnTheDefault) {
 }
 
 TEST_F(ConfigTest, ReadsTheFileLoosely) {
+    const std::string huge = "ScreenWidth=1024\n" + std::string(16 << 20, ' ');
     const struct {
         const char* what;
         const char* text;
@@ -136,6 +138,7 @@ TEST_F(ConfigTest, ReadsTheFileLoosely) {
         {"too large", "ScreenWidth = 4000", 800, "Invalid ScreenWidth , using default: 800\n"},
         {"no number", "ScreenWidth = wide", 800, "Invalid ScreenWidth , using default: 800\n"},
         {"unknown", "Depth = 3", 800, ""},
+        {"no text", huge.c_str(), 800, ""},
     };
     for (const auto& c : cases) {
         write(c.text);
@@ -222,6 +225,8 @@ TEST_F(ConfigTest, TakesArgumentsAndTellsWhetherToStart) {
 }
 
 TEST_F(ConfigTest, HelpListsEverySettingInItsSection) {
+    EXPECT_EQ(errorsOf([] { writeUsageMessage("k\x1bov"); }),
+              boost::replace_all_copy(usage, "kov", "k\\x1bov"));
     for (const char* argument : {"-h", "--help"}) {
         ConfigClass config;
         testing::internal::CaptureStdout();

@@ -4,7 +4,7 @@
 set -u
 game=$1 sources=$2
 folder=$(mktemp -d) failures=0
-Xvfb -displayfd 3 -screen 0 1024x768x24 -noreset 3>"$folder/display" 2>/dev/null &
+Xvfb -displayfd 3 -screen 0 1024x768x24 -noreset -iglx 3>"$folder/display" 2>/dev/null &
 server=$!
 trap 'kill $server; rm -rf "$folder"' EXIT
 while [ ! -s "$folder/display" ]; do
@@ -20,16 +20,16 @@ touch "$folder/said"
 # Without that file a line says that the game has its window and is about to turn.
 ready="Can't read bind1.conf"
 
-expect() { # what, exit code, standard error but for the line above, command...
+expect() { # what, exit code, standard error but for the line above and GL's own, command...
     local what=$1 code=$2 errors=$3 got got_code
     shift 3
     (cd "$folder" && exec "$@" >/dev/null 2>said) &
     local pid=$!
     while kill -0 $pid 2>/dev/null && ! grep -q "$ready" "$folder/said"; do sleep 0.05; done
-    kill -TERM $pid 2>/dev/null # as a closed window
+    kill "-${signal:-TERM}" $pid 2>/dev/null # as a closed window
     wait $pid
     got_code=$?
-    got=$(grep -v "$ready" "$folder/said")
+    got=$(grep -v -e "$ready" -e "^libGL error:" "$folder/said")
     : >"$folder/said"
     [ "$got_code" = "$code" ] && [ "$got" = "$errors" ] && return
     printf '%s: exit code %s, not %s; said:\n%s\n' "$what" "$got_code" "$code" "$got"
@@ -43,13 +43,17 @@ expect "mode too large" 0 "$refused No video mode large enough for 1920x1080" \
     "$game" -f -w=1920 -l=1080
 expect "no display" 255 "$no_gl
 $no_gl" env -u DISPLAY SDL_VIDEODRIVER=dummy "$game"
+expect "no GL driver" 255 "No window with OpenGL can be opened. Is its driver installed?" \
+    env LIBGL_DRIVERS_PATH=/nowhere "$game"
+signal=HUP expect "asleep between ticks" 0 "" "$game" -u
 expect "no sound card" 0 "" env ALSOFT_DRIVERS=alsa "$game"
 
 icon=$folder/data/kov.ico
 rm "$icon" && expect "no icon" 0 "" "$game"
 touch "$icon" && expect "empty icon" 0 "" "$game"
 rm "$icon" && mkdir "$icon" && expect "a folder for an icon" 0 "" "$game"
-rmdir "$icon" && head -c 4000 "$game" >"$icon" && expect "no image for an icon" 0 "" "$game"
+rmdir "$icon" && mkfifo "$icon" && expect "a pipe for an icon" 0 "" "$game"
+rm "$icon" && head -c 4000 "$game" >"$icon" && expect "no image for an icon" 0 "" "$game"
 head -c 300 "$sources/data/kov.ico" >"$icon" && expect "half an icon" 0 "" "$game"
 
 exit $failures

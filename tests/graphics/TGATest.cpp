@@ -5,6 +5,7 @@
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <fstream>
 
@@ -179,8 +180,11 @@ TEST_F(TGATest, RefusesWithACode) {
         EXPECT_EQ(load(file(h, Bytes(c.bytes, 5)), image), c.code) << c.what;
     }
     EXPECT_EQ(load({}, image), 2) << "empty";
-    std::string none = "none.tga";
-    EXPECT_EQ(image.load(none), 2);
+    std::string name = path;
+    ASSERT_EQ(truncate(path, (512L << 20) + 1), 0);
+    EXPECT_EQ(image.load(name), 4) << "larger than any texture";
+    name = "none.tga";
+    EXPECT_EQ(image.load(name), 2);
     EXPECT_EQ(image.getImg(), nullptr);
     EXPECT_EQ(image.getWidth(), 0);
 }

@@ -221,6 +221,7 @@ TEST_F(InputTest, KnowsTheWordsOfKeysAndButtons) {
                  {"F1", 282, ""},
                  {"RWINDOWS", 312, ""},
                  {"f2", 323, "Key not found: F2\n"},
+                 {"\x7f\xc3\xa4", 323, "Key not found: \\x7f\xc3\xa4\n"},
                  {"JOY", 323, "Key not found: JOY\n"}};
     for (const auto& w : words) {
         EXPECT_EQ(errorsOf([&] { EXPECT_EQ(keyFromWord(w.word), w.key) << w.word; }), w.errors);
@@ -240,8 +241,8 @@ TEST_F(InputTest, BindsByFile) {
     EXPECT_EQ(keys.getButton("Fire Up", 0)->jsButton, 15);
     EXPECT_EQ(keys.getButton("Game Pause", 0)->key, SDLK_k);
     EXPECT_EQ(keys.getButton("Up", 0)->key, SDLK_UP);
-    EXPECT_EQ(bind("Unknown Action, P\nUp, joy1\nDown, x, y\nLeft, JOY99\n"),
-              "Couldn't find key: Unknown Action\nKey not found: JOY1\n");
+    EXPECT_EQ(bind("Unknown\x1b[2J Action, P\nUp, joy1\nDown, x, y\nLeft, JOY99\n"),
+              "Couldn't find key: Unknown\\x1b[2J Action\nKey not found: JOY1\n");
     EXPECT_EQ(keys.getButton("Up", 0)->key, unknown_key);
     EXPECT_EQ(keys.getButton("Down", 0)->key, SDLK_y) << "the second word is in force";
     EXPECT_EQ(keys.getButton("Left", 0)->jsButton, no_button);

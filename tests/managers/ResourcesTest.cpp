@@ -150,10 +150,10 @@ TEST(ResourceLines, OfFonts) {
         const char* errors;
     } cases[] = {
         {"Menu Font, x , VeraMono.ttf , Polygon ", true, ""},
-        {"Menu Font,x,VeraMono.ttf,polygon", true,
-         "Unknown font mode, defaulted to FR_POLYGON: polygon\n"},
+        {"Menu Font,x,VeraMono.ttf,poly\x9b\xc2\x9b\xc3\xa4\xe4n", true,
+         "Unknown font mode, defaulted to FR_POLYGON: poly\\x9b\\xc2\\x9b\xc3\xa4\\xe4n\n"},
         {"a,,VeraMono.ttf,Polygon", false, ""},
-        {"a,x,none.ttf,Polygon", true, "Couldn't load font: fonts/none.ttf\n"},
+        {"a,x,no\x1bne.ttf,Polygon", true, "Couldn't load font: fonts/no\\x1bne.ttf\n"},
     };
     for (const auto& c : cases) {
         std::string name;
