@@ -18,21 +18,15 @@ namespace fs = std::filesystem;
 constexpr mode_t new_file_mode = 0666; // less the user's umask
 constexpr mode_t permission_bits = 07777;
 
+bool isRegularFile(const std::string& path) {
+    std::error_code ignored;
+    return fs::is_regular_file(path, ignored);
+}
+
 mode_t newFileMode() {
     const mode_t mask = umask(0);
     umask(mask);
     return new_file_mode & ~mask;
-}
-
-bool readAll(int file, std::string& contents) {
-    std::size_t done = 0;
-    while (done < contents.size()) {
-        const ssize_t got =
-            pread(file, contents.data() + done, contents.size() - done, static_cast<off_t>(done));
-        if (got <= 0) return false;
-        done += static_cast<std::size_t>(got);
-    }
-    return true;
 }
 
 bool writeAll(int file, const std::string& contents) {
@@ -75,7 +69,7 @@ bool overwriteOrRestore(int file, const std::string& contents) {
     struct stat before {};
     if (fstat(file, &before) != 0 || !S_ISREG(before.st_mode)) return false;
     std::string head(std::min(contents.size(), static_cast<std::size_t>(before.st_size)), '\0');
-    if (!readAll(file, head)) return false;
+    if (pread(file, head.data(), head.size(), 0) != static_cast<ssize_t>(head.size())) return false;
     const bool written = writeAll(file, contents);
     if (!written) writeAll(file, head);
     const off_t size = written ? static_cast<off_t>(contents.size()) : before.st_size;
@@ -91,11 +85,6 @@ bool overwrite(const std::string& path, const std::string& contents) {
 }
 
 } // namespace
-
-bool isRegularFile(const std::string& path) {
-    std::error_code ignored;
-    return fs::is_regular_file(path, ignored);
-}
 
 std::string regularOrNone(const std::string& path) {
     return isRegularFile(path) ? path : "";

@@ -9,12 +9,8 @@ namespace quorva::utility {
 /// Bytes. No text file of the game comes near it; one that is larger holds something else.
 constexpr std::uintmax_t largest_text_file = 16U << 20U;
 
-/// Whether the path leads to a regular file, links followed. It can be opened and read without
-/// waiting for anybody, which a device or a pipe can't.
-bool isRegularFile(const std::string& path);
-
-/// The path of a regular file as it is, and instead of any other the empty path, which no library
-/// can open.
+/// The path if it leads to a regular file, else the empty path, which no library can open. A pipe
+/// would keep it waiting.
 std::string regularOrNone(const std::string& path);
 
 /// Opens a regular file of at most `largest` bytes for reading. Anything else fails like a file

@@ -7,7 +7,7 @@ packages=""
 for group in "$@"; do
     case "$group" in
     build) packages="$packages g++ cmake ninja-build pkg-config libsdl1.2-dev libglew-dev
-        libgl-dev libglu1-mesa-dev libftgl-dev libfreetype-dev libloki-dev libboost-dev
+        libgl-dev libx11-dev libglu1-mesa-dev libftgl-dev libfreetype-dev libloki-dev libboost-dev
         libboost-filesystem-dev libopenal-dev libsndfile1-dev libmpg123-dev
         libgl1-mesa-dri" ;;
     test) packages="$packages libgtest-dev clang-format xvfb" ;;
