@@ -2,21 +2,90 @@
 
 #include "platform/standins/GLRecorder.h"
 
+#include <cmath>
+#include <map>
 #include <sstream>
 
 namespace quorva::standins {
+
+namespace {
+
+/// Those that the game sends. Of the small numbers GL uses again and again these are of glBegin.
+const std::map<GLenum, const char*> symbol_names = {
+    {GL_LINES, "LINES"},
+    {GL_LINE_LOOP, "LINE_LOOP"},
+    {GL_LINE_STRIP, "LINE_STRIP"},
+    {GL_TRIANGLES, "TRIANGLES"},
+    {GL_TRIANGLE_STRIP, "TRIANGLE_STRIP"},
+    {GL_TRIANGLE_FAN, "TRIANGLE_FAN"},
+    {GL_QUADS, "QUADS"},
+    {GL_POLYGON, "POLYGON"},
+    {GL_POINT, "POINT"},
+    {GL_LINE, "LINE"},
+    {GL_FILL, "FILL"},
+    {GL_BACK, "BACK"},
+    {GL_FRONT_AND_BACK, "FRONT_AND_BACK"},
+    {GL_DEPTH_TEST, "DEPTH_TEST"},
+    {GL_ALPHA_TEST, "ALPHA_TEST"},
+    {GL_BLEND, "BLEND"},
+    {GL_CULL_FACE, "CULL_FACE"},
+    {GL_LINE_SMOOTH, "LINE_SMOOTH"},
+    {GL_POLYGON_SMOOTH, "POLYGON_SMOOTH"},
+    {GL_FLAT, "FLAT"},
+    {GL_SMOOTH, "SMOOTH"},
+    {GL_SRC_ALPHA, "SRC_ALPHA"},
+    {GL_ONE_MINUS_SRC_ALPHA, "ONE_MINUS_SRC_ALPHA"},
+    {GL_MODELVIEW, "MODELVIEW"},
+    {GL_PROJECTION, "PROJECTION"},
+    {GL_PROJECTION_MATRIX, "PROJECTION_MATRIX"},
+    {GL_AMBIENT, "AMBIENT"},
+    {GL_DIFFUSE, "DIFFUSE"},
+    {GL_SPECULAR, "SPECULAR"},
+    {GL_EMISSION, "EMISSION"},
+    {GL_ACCUM_BUFFER_BIT, "ACCUM"},
+    {GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT, "COLOUR+DEPTH"},
+    {GL_TEXTURE_2D, "TEXTURE_2D"},
+    {GL_TEXTURE_MIN_FILTER, "MIN_FILTER"},
+    {GL_TEXTURE_MAG_FILTER, "MAG_FILTER"},
+    {GL_TEXTURE_WRAP_S, "WRAP_S"},
+    {GL_TEXTURE_WRAP_T, "WRAP_T"},
+    {GL_LINEAR, "LINEAR"},
+    {GL_REPEAT, "REPEAT"},
+    {GL_RGB, "RGB"},
+    {GL_RGBA, "RGBA"},
+    {GL_UNSIGNED_BYTE, "UNSIGNED_BYTE"},
+    {GL_UNPACK_ALIGNMENT, "UNPACK_ALIGNMENT"},
+};
+
+void writeArgument(std::ostream& out, double value, bool isSymbol) {
+    const auto symbol =
+        isSymbol ? symbol_names.find(static_cast<GLenum>(value)) : symbol_names.end();
+    if (symbol != symbol_names.end())
+        out << ' ' << symbol->second;
+    else
+        out << ' ' << std::round(value * 1e4) / 1e4 + 0.0; // never -0
+}
+
+} // namespace
 
 void GLRecorder::start() {
     calls.clear();
     recording = true;
 }
 
+void GLRecorder::note(const std::string& line) {
+    if (!recording) return;
+    calls.emplace_back();
+    calls.back().name = line;
+}
+
 std::string GLRecorder::text() const {
     std::ostringstream out;
+    out.precision(10);
     for (const GLCall& call : calls) {
         out << call.name;
         for (unsigned int i = 0; i < call.count; ++i)
-            out << ' ' << call.arguments[i];
+            writeArgument(out, call.arguments[i], (call.symbols >> i & 1U) != 0);
         out << '\n';
     }
     return out.str();
@@ -40,12 +109,23 @@ namespace {
 
 constexpr GLint largest_texture = 2048; // pixels; the library of the fonts asks
 
+/// An argument that is one of GL's constants.
+struct Symbol {
+    explicit Symbol(GLenum value_) : value(value_) {}
+    explicit operator double() const { return value; }
+    GLenum value;
+};
+
 template <class... Arguments>
 void record(const char* name, Arguments... arguments) {
     auto& recorder = quorva::standins::glRecorder();
     ++recorder.total;
     if (!recorder.recording) return;
-    recorder.calls.push_back({name, {static_cast<double>(arguments)...}, sizeof...(arguments)});
+    std::uint32_t symbols = 0;
+    [[maybe_unused]] unsigned int i = 0;
+    ((symbols |= std::uint32_t{std::is_same_v<Arguments, Symbol>} << i++), ...);
+    recorder.calls.push_back(
+        {name, {static_cast<double>(arguments)...}, sizeof...(arguments), symbols});
 }
 
 /// The pixels without the padding that GL takes to be behind each row.
@@ -77,7 +157,7 @@ GLenum GLEWAPIENTRY glewInit() {
 }
 
 void GLAPIENTRY glBegin(GLenum mode) {
-    record("glBegin", mode);
+    record("glBegin", Symbol(mode));
 }
 void GLAPIENTRY glEnd() {
     record("glEnd");
@@ -114,10 +194,10 @@ void GLAPIENTRY glMultMatrixf(const GLfloat* m) {
            m[11], m[12], m[13], m[14], m[15]);
 }
 void GLAPIENTRY glMaterialfv(GLenum face, GLenum parameter, const GLfloat* c) {
-    record("glMaterialfv", face, parameter, c[0], c[1], c[2], c[3]);
+    record("glMaterialfv", Symbol(face), Symbol(parameter), c[0], c[1], c[2], c[3]);
 }
 void GLAPIENTRY glMatrixMode(GLenum mode) {
-    record("glMatrixMode", mode);
+    record("glMatrixMode", Symbol(mode));
 }
 void GLAPIENTRY glLoadIdentity() {
     record("glLoadIdentity");
@@ -135,33 +215,33 @@ void GLAPIENTRY glDepthRange(GLclampd near, GLclampd far) {
     record("glDepthRange", near, far);
 }
 void GLAPIENTRY glGetFloatv(GLenum name, GLfloat* values) {
-    record("glGetFloatv", name);
+    record("glGetFloatv", Symbol(name));
     for (int i = 0; i < 16; ++i)
         values[i] = i % 5 == 0 ? 1.0F : 0.0F;
 }
 void GLAPIENTRY glEnable(GLenum what) {
-    record("glEnable", what);
+    record("glEnable", Symbol(what));
 }
 void GLAPIENTRY glDisable(GLenum what) {
-    record("glDisable", what);
+    record("glDisable", Symbol(what));
 }
 void GLAPIENTRY glShadeModel(GLenum mode) {
-    record("glShadeModel", mode);
+    record("glShadeModel", Symbol(mode));
 }
 void GLAPIENTRY glPolygonMode(GLenum face, GLenum mode) {
-    record("glPolygonMode", face, mode);
+    record("glPolygonMode", Symbol(face), Symbol(mode));
 }
 void GLAPIENTRY glLineWidth(GLfloat width) {
     record("glLineWidth", width);
 }
 void GLAPIENTRY glBlendFunc(GLenum source, GLenum target) {
-    record("glBlendFunc", source, target);
+    record("glBlendFunc", Symbol(source), Symbol(target));
 }
 void GLAPIENTRY glCullFace(GLenum mode) {
-    record("glCullFace", mode);
+    record("glCullFace", Symbol(mode));
 }
 void GLAPIENTRY glClear(GLbitfield mask) {
-    record("glClear", mask);
+    record("glClear", Symbol(mask));
 }
 void GLAPIENTRY glClearColor(GLclampf r, GLclampf g, GLclampf b, GLclampf a) {
     record("glClearColor", r, g, b, a);
@@ -176,20 +256,21 @@ void GLAPIENTRY glGenTextures(GLsizei count, GLuint* names) {
         names[i] = nextNames(1);
 }
 void GLAPIENTRY glBindTexture(GLenum target, GLuint name) {
-    record("glBindTexture", target, name);
+    record("glBindTexture", Symbol(target), name);
 }
 void GLAPIENTRY glTexImage2D(GLenum target, GLint level, GLint internal, GLsizei w, GLsizei h,
                              GLint border, GLenum format, GLenum type, const GLvoid* pixels) {
-    record("glTexImage2D", target, level, internal, w, h, border, format, type);
+    record("glTexImage2D", Symbol(target), level, internal, w, h, border, Symbol(format),
+           Symbol(type));
     if (format == GL_RGB || format == GL_RGBA)
         quorva::standins::glRecorder().image = unpack(pixels, w, h, format);
 }
 void GLAPIENTRY glPixelStorei(GLenum name, GLint value) {
-    record("glPixelStorei", name, value);
+    record("glPixelStorei", Symbol(name), value);
     if (name == GL_UNPACK_ALIGNMENT) quorva::standins::glRecorder().unpackAlignment = value;
 }
 void GLAPIENTRY glTexParameteri(GLenum target, GLenum name, GLint value) {
-    record("glTexParameteri", target, name, value);
+    record("glTexParameteri", Symbol(target), Symbol(name), Symbol(static_cast<GLenum>(value)));
 }
 
 // What the font library draws with.

@@ -6,14 +6,15 @@
 #include <vector>
 
 // A stand-in for OpenGL at link time: a program that links it draws without a window, and can
-// look at the calls that a frame has sent.
+// look at the calls that a frame has sent, those of the stand-in for SDL's window among them.
 
 namespace quorva::standins {
 
 struct GLCall {
-    const char* name;
-    std::array<double, 16> arguments;
-    unsigned int count; ///< of arguments
+    std::string name;
+    std::array<double, 16> arguments{};
+    unsigned int count = 0;    ///< of arguments
+    std::uint32_t symbols = 0; ///< a bit for each argument that is one of GL's constants
 };
 
 class GLRecorder {
@@ -22,7 +23,11 @@ public:
     void start();
     void stop() { recording = false; }
 
-    /// A call a line: the name, then its arguments.
+    /// Writes down anything else in its place among the calls.
+    void note(const std::string& line);
+
+    /// A call a line: the name, then its arguments, numbers to four digits behind the point and
+    /// GL's constants by their names.
     std::string text() const;
     /// The recorded calls of that name.
     std::vector<GLCall> callsTo(const std::string& name) const;

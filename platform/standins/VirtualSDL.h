@@ -27,12 +27,9 @@ struct VirtualSDL {
     std::uint64_t swaps = 0;      ///< frames shown
     std::function<void()> onSwap; ///< called at each, the end of a pass
     std::function<void()> onMode; ///< called at each mode asked for
-    int cursorHidden = 0;
     int quits = 0;
-    std::string caption;
-    std::vector<std::string> filesOpened;
     int joysticks = 0;
-    int refusedJoystick = -1;                          ///< index of one that doesn't open
+    int refusedJoystick = -1;                          ///< index of a joystick that doesn't open
     std::array<std::array<std::int16_t, 4>, 4> axes{}; ///< by joystick, by axis
 };
 

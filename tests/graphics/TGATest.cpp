@@ -1,7 +1,7 @@
 #include "Framework/Graphics/TGA.h"
 
 #include "Framework/Managers/TextureResources.h"
-#include "platform/standins/GLRecorder.h"
+#include "tests/pictures/Pictures.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
@@ -60,6 +60,54 @@ Header mappedHeader(int type) {
     return h;
 }
 
+/// Three by two pixels, the first row of one colour. Rows of nine bytes are no multiple of four.
+struct Sample {
+    Bytes data;    ///< as a file has them, blue first
+    Bytes rows[2]; ///< as GL takes them, red first
+
+    Sample(int type, int bits) {
+        for (int i = 0; i < 6; ++i) {
+            const int first = i < 3 ? 0 : 10 * i;
+            Bytes pixel = {first, first + 1, first + 2};
+            if (bits == 32) pixel.push_back(200 + i / 3);
+            rows[i / 3].insert(rows[i / 3].end(), pixel.begin(), pixel.end());
+            if (type == 10 && i % 3 == 0) data.push_back(i == 0 ? 0x82 : 0x02); // run, literals
+            if (type == 10 && (i == 1 || i == 2)) continue;
+            std::swap(pixel[0], pixel[2]);
+            data.insert(data.end(), pixel.begin(), pixel.end());
+        }
+    }
+};
+
+/// Uploads the sample by a line of a resource file.
+void expectUpload(int type, int bits, bool topDown) {
+    Sample sample(type, bits);
+    if (!topDown) std::swap(sample.rows[0], sample.rows[1]);
+    Header h;
+    h.type = type;
+    h.bits = bits;
+    h.width = 3;
+    h.descriptor = topDown ? 0x20 : 0;
+    write(file(h, sample.data));
+    std::string line = "Name, image.tga ", name;
+    resources::TextureObject texture;
+    const std::string calls =
+        callsOf([&] { EXPECT_TRUE(resources::parseLineAndCreateTexture(line, name, texture)); });
+    EXPECT_EQ(name + texture.file + std::to_string(texture.kind), "Nameimage.tga1");
+    Bytes& pixels = sample.rows[0];
+    pixels.insert(pixels.end(), sample.rows[1].begin(), sample.rows[1].end());
+    EXPECT_EQ(Bytes(glRecorder().image.begin(), glRecorder().image.end()), pixels)
+        << "type " << type << ", " << bits << " bits, top row first: " << topDown;
+    const std::string number = std::to_string(texture.name);
+    const std::string format = bits == 24 ? "3 3 2 0 RGB" : "4 3 2 0 RGBA";
+    EXPECT_EQ(calls, "glGenTextures 1\nglBindTexture TEXTURE_2D " + number +
+                         "\nglPixelStorei UNPACK_ALIGNMENT 1\nglTexImage2D TEXTURE_2D 0 " + format +
+                         " UNSIGNED_BYTE\nglTexParameteri TEXTURE_2D MIN_FILTER LINEAR\n"
+                         "glTexParameteri TEXTURE_2D MAG_FILTER LINEAR\n"
+                         "glTexParameteri TEXTURE_2D WRAP_S REPEAT\n"
+                         "glTexParameteri TEXTURE_2D WRAP_T REPEAT\n");
+}
+
 class TGATest : public testing::Test {
 protected:
     void SetUp() override {
@@ -78,41 +126,18 @@ protected:
 TEST_F(TGATest, ReachesGLRedFirstAndTurnedUnlessFlagged) {
     for (const int type : {2, 10})
         for (const int bits : {24, 32})
-            for (const int descriptor : {0, 0x20}) {
-                const auto add = [bits](Bytes& to, int i, bool redFirst) {
-                    const int red = 10 * i, blue = 10 * i + 2;
-                    to.insert(to.end(), {redFirst ? red : blue, 10 * i + 1, redFirst ? blue : red});
-                    if (bits == 32) to.push_back(200 + i);
-                };
-                Bytes data, rows[2]; // the first row of the file is of one colour
-                for (int i = 0; i < 6; ++i) {
-                    const int colour = i < 3 ? 0 : i;
-                    if (type == 10 && i % 3 == 0) data.push_back(i == 0 ? 0x82 : 0x02);
-                    if (type == 2 || i == 0 || i > 2) add(data, colour, false);
-                    add(rows[i / 3], colour, true);
-                }
-                if (descriptor == 0) std::swap(rows[0], rows[1]);
-                rows[0].insert(rows[0].end(), rows[1].begin(), rows[1].end());
-                Header h;
-                h.type = type;
-                h.bits = bits;
-                h.width = 3; // rows of nine bytes: no multiple of four
-                h.descriptor = descriptor;
-                write(file(h, data));
-                std::string line = "Name, image.tga ", name;
-                resources::TextureObject texture;
-                glRecorder().start();
-                EXPECT_TRUE(resources::parseLineAndCreateTexture(line, name, texture));
-                glRecorder().stop();
-                EXPECT_EQ(name + " " + texture.file, "Name image.tga");
-                EXPECT_EQ(texture.name, glRecorder().callsTo("glBindTexture")[0].arguments[1]);
-                EXPECT_EQ(Bytes(glRecorder().image.begin(), glRecorder().image.end()), rows[0])
-                    << "type " << type << ", bits " << bits << ", descriptor " << descriptor;
-                EXPECT_NE(glRecorder().text().find(bits == 24
-                                                       ? "glTexImage2D 3553 0 3 3 2 0 6407 5121\n"
-                                                       : "glTexImage2D 3553 0 4 3 2 0 6408 5121\n"),
-                          std::string::npos);
-            }
+            for (const bool topDown : {false, true})
+                expectUpload(type, bits, topDown);
+    for (const auto& [line, taken] : {std::pair{"Name", false},
+                                      {"Name,a,b", true},
+                                      {"Name,a,b,c", true},
+                                      {"Name,a,b,c,d", false}}) {
+        std::string text = line, name;
+        resources::TextureObject texture;
+        EXPECT_EQ(resources::parseLineAndCreateTexture(text, name, texture), taken) << line;
+        EXPECT_EQ(name, taken ? "Name" : "") << line;
+        EXPECT_EQ(texture.name, 0U) << "the folder is no image";
+    }
 }
 
 TEST_F(TGATest, KeepsAPaletteRedFirstButMakesNoTextureOfIt) {

@@ -1,8 +1,10 @@
 #include "Framework/Managers/ColourManager.h"
 #include "Framework/Managers/FontManager.h"
 #include "Framework/Managers/PointManager.h"
+#include "Framework/Managers/TextureResources.h"
 #include "tests/support/Errors.h"
 
+#include <FTGL/ftgl.h>
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 
@@ -60,7 +62,8 @@ TEST_F(ResourcesTest, ScopesShadowAndCloseForgetsBoth) {
     EXPECT_EQ(manager.filename, "data/level/Colour.kov");
     EXPECT_EQ(&manager.getV("Base"), held) << "what holds it goes on holding it";
     EXPECT_EQ(green(manager, "Base"), 0.0F);
-    EXPECT_EQ(manager.shadowed.count("Base"), 1U);
+    EXPECT_EQ(manager.shadowed["Base"].value.green(), 1.0F) << "the one displaced last";
+    EXPECT_EQ(manager.shadowed["Base"].scope + manager.resources["Base"].scope, "Systemlevel");
     manager.close("none");
     EXPECT_EQ(manager.resources.size(), 3U);
     manager.close("level");
@@ -100,23 +103,23 @@ TEST(ResourceLines, OfColours) {
         const char* line;
         bool taken;
         const char* name;
-        float blue;
+        boost::array<float, 4> components;
     } cases[] = {
-        {"Border Colour,1 0 0.5 1", true, "Border Colour", 0.5F},
-        {"Border Colour ,1 0 1 1", true, "Border Colour ", 1.0F},
-        {"Wide,  1   0  0.5   1 \r", true, "Wide", 0.5F},
-        {"Short,1 0 1", false, "", 0},
-        {"Long,1 0 1 1 1", false, "", 0},
-        {"Two,1 0 1 1,x", false, "", 0},
-        {"Words,red green blue alpha", true, "Words", 0.0F},
-        {"", false, "", 0},
+        {"Border Colour,1 0.25 0.5 0.75", true, "Border Colour", {{1.0F, 0.25F, 0.5F, 0.75F}}},
+        {"Border Colour ,1 0 1 1", true, "Border Colour ", {{1.0F, 0.0F, 1.0F, 1.0F}}},
+        {"Wide,  1   0  0.5   1 \r", true, "Wide", {{1.0F, 0.0F, 0.5F, 1.0F}}},
+        {"Short,1 0 1", false, "", {}},
+        {"Long,1 0 1 1 1", false, "", {}},
+        {"Two,1 0 1 1,x", false, "", {}},
+        {"Words,red green blue alpha", true, "Words", {}},
+        {"", false, "", {}},
     };
     for (const auto& c : cases) {
         std::string name;
         Colour value;
         EXPECT_EQ(parse(c.line, name, value), c.taken) << c.line;
         EXPECT_EQ(name, c.name) << c.line;
-        EXPECT_EQ(value.blue(), c.blue) << c.line;
+        EXPECT_EQ(value.components, c.components) << c.line;
     }
 }
 
@@ -125,21 +128,21 @@ TEST(ResourceLines, OfPoints) {
         const char* line;
         bool taken;
         const char* name;
-        double z;
+        math::Point place;
     } cases[] = {
-        {"Place,1#2#3#", true, "Place", 3},
-        {" Place , 1#2#3#4#", true, "Place", 3},
-        {"Place,1#2#3", false, "", 0},
-        {"Place,1#2#3#4#5#6", false, "", 0},
-        {"", true, "", 0},
-        {"a,b,c", true, "", 0},
+        {"Place,1#2#3#", true, "Place", {1, 2, 3}},
+        {" Place , 1#2#3#4#", true, "Place", {1, 2, 3}},
+        {"Place,1#2#3", false, "", {}},
+        {"Place,1#2#3#4#5#6", false, "", {}},
+        {"", true, "", {}},
+        {"a,b,c", true, "", {}},
     };
     for (const auto& c : cases) {
         std::string name;
         Property<math::Point> value;
         EXPECT_EQ(parse(c.line, name, value), c.taken) << c.line;
         EXPECT_EQ(name, c.name) << c.line;
-        EXPECT_EQ(value.value.z, c.z) << c.line;
+        EXPECT_EQ(value.value, c.place) << c.line;
     }
 }
 
@@ -161,5 +164,67 @@ TEST(ResourceLines, OfFonts) {
         EXPECT_EQ(errorsOf([&] { EXPECT_EQ(parse(c.line, name, value), c.taken) << c.line; }),
                   c.errors);
     }
-    EXPECT_EQ(resources::makeFont("VeraMono.ttf", "Outline").mode, graphics::FR_OUTLINE);
+}
+
+TEST(ResourceLines, OfFontsInEachMode) {
+    const struct {
+        const char* mode;
+        bool (*isOne)(FTFont* font);
+    } cases[] = {
+        {"Polygon", [](FTFont* font) { return dynamic_cast<FTGLPolygonFont*>(font) != nullptr; }},
+        {"Bitmap", [](FTFont* font) { return dynamic_cast<FTGLBitmapFont*>(font) != nullptr; }},
+        {"Pixmap", [](FTFont* font) { return dynamic_cast<FTGLPixmapFont*>(font) != nullptr; }},
+        {"Outline", [](FTFont* font) { return dynamic_cast<FTGLOutlineFont*>(font) != nullptr; }},
+        {"Texture", [](FTFont* font) { return dynamic_cast<FTGLTextureFont*>(font) != nullptr; }},
+    };
+    for (int i = 0; i < 5; ++i) {
+        std::string name;
+        Font font;
+        parse(std::string("Name,-,VeraMono.ttf,") + cases[i].mode, name, font);
+        EXPECT_EQ(font.name + " " + name, "fonts/VeraMono.ttf Name");
+        EXPECT_EQ(font.mode, i);
+        EXPECT_TRUE(cases[i].isOne(font.font.get())) << cases[i].mode;
+        EXPECT_EQ(font.font->FaceSize(), 1U);
+        EXPECT_GT(font.getBoundingBox("text").right, 1.0) << cases[i].mode;
+        EXPECT_EQ(resources::makeFont("VeraMono.ttf", cases[i].mode).mode, i);
+        EXPECT_EQ(graphics::getStringFromFontRenderMode(font.mode), cases[i].mode);
+    }
+    EXPECT_EQ(errorsOf([] {
+                  EXPECT_EQ(graphics::getFontRenderModeFromString("texture"), 0);
+                  const auto none = static_cast<graphics::FontRenderModeE>(5);
+                  EXPECT_EQ(graphics::getStringFromFontRenderMode(none), "Polygon");
+              }),
+              "String Font Render Mode invalid in: Framework/Graphics/Font\n"
+              "Font Render Mode invalid in: Framework/Graphics/Font\n");
+    Font broken(graphics::FR_POLYGON, "fonts/none.ttf");
+    EXPECT_TRUE(broken.loaded && broken.name.empty());
+    EXPECT_EQ(broken.getBoundingBox("text").right, 0.0);
+    EXPECT_EQ(Font().getBoundingBox("text").right, 1.0);
+}
+
+TEST(ResourceLines, OfMaterials) {
+    const auto& colour = ColourManager::Instance().getV("Line Colour");
+    const struct {
+        const char* key;
+        const Colour* graphics::Material::*colour;
+        bool graphics::Material::*counts;
+    } cases[] = {
+        {"MAT_AMBIENT", &graphics::Material::ambient, &graphics::Material::hasAmbient},
+        {"MAT_DIFFUSE", &graphics::Material::diffuse, &graphics::Material::hasDiffuse},
+        {"MAT_SPECULAR", &graphics::Material::specular, &graphics::Material::hasSpecular},
+        {"MAT_EMISSION", &graphics::Material::emissive, &graphics::Material::hasEmissive},
+    };
+    graphics::Material material;
+    const auto take = [&material](std::string line) {
+        return resources::parseSubLine(line, material);
+    };
+    for (const auto& c : cases) {
+        EXPECT_FALSE(material.*c.counts) << c.key;
+        EXPECT_TRUE(take(std::string(" ") + c.key + " : Line Colour "));
+        EXPECT_TRUE(material.*c.counts) << c.key;
+        EXPECT_EQ(material.*c.colour, &colour) << c.key;
+    }
+    EXPECT_TRUE(take("MAT_SHININESS: 0.5") && take("MAT_NONE: 1"));
+    EXPECT_EQ(material.shininess, 0.5F);
+    EXPECT_FALSE(take("MAT_SHININESS") || take("MAT_SHININESS:1:2"));
 }

@@ -91,7 +91,6 @@ void Soak::noteEndOfGame() {
     totalScore += Marvo::Instance().score;
     bestScore = std::max<std::uint64_t>(bestScore, Marvo::Instance().score);
     standins::sdl().modes.clear(); // the stand-in's own diary
-    standins::sdl().filesOpened.clear();
 }
 
 /// In the main menu, and the engine has had the time to delete what is dead.

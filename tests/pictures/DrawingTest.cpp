@@ -1,0 +1,359 @@
+// What each part of the drawing layer sends, also where the game has no use for it yet.
+
+#include "tests/pictures/Pictures.h"
+
+#include "Framework/Graphics/Camera.h"
+#include "Framework/Graphics/Draw.h"
+#include "Framework/Graphics/DrawPrimitives.h"
+#include "Framework/Graphics/Material.h"
+#include "Framework/Graphics/Stuff/GAxesIndicator.h"
+#include "Framework/Graphics/Stuff/GCircle.h"
+#include "Framework/Graphics/Stuff/GGrid.h"
+#include "Framework/Graphics/Stuff/GLine.h"
+#include "Framework/Graphics/Stuff/GLinedBox.h"
+#include "Framework/Graphics/Stuff/GLinedCube.h"
+#include "Framework/Graphics/Stuff/GOutlinedCircle.h"
+#include "Framework/Graphics/Stuff/GSlideBar.h"
+#include "Framework/Graphics/Stuff/GTransparentBox.h"
+#include "game/CDLineIcon.h"
+#include "game/GCheveron.h"
+#include "game/GTriangle.h"
+#include "game/Logo.h"
+#include "game/PUPLineIcon.h"
+#include "game/SillyGrid.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+using namespace quorva;
+using namespace quorva::graphics;
+using standins::glRecorder;
+
+namespace {
+
+struct Row {
+    const char* name;
+    void (*draw)();
+};
+
+template <std::size_t Count>
+void expectPictures(const char* state, const Row (&rows)[Count]) {
+    expectPicture(state, callsOf([&rows] {
+                      for (const Row& row : rows) {
+                          glRecorder().note("# " + std::string(row.name));
+                          row.draw();
+                      }
+                  }));
+}
+
+template <class... Parts>
+void note(const Parts&... parts) {
+    std::ostringstream line;
+    ((line << parts << ' '), ...);
+    glRecorder().note(line.str());
+}
+
+const Colour colour(0.1F, 0.2F, 0.3F, 0.4F);
+const math::Point a(1, 2, 3), b(-4, 5, 6), c(7, -8, 9);
+
+template <class Shape>
+void drawPlain() {
+    Shape().render();
+}
+
+template <class Shape>
+void drawBox() {
+    Shape shape;
+    shape.box = primitives::Box(4, -2, -1, 3);
+    shape.render();
+}
+
+template <class Shape, unsigned int points>
+void drawCircle() {
+    Shape shape;
+    shape.radius = 2;
+    shape.resolution = points;
+    shape.render();
+}
+
+template <class Shape>
+void drawCube() {
+    Shape shape;
+    shape.sizeX = 2;
+    shape.sizeY = 4;
+    shape.sizeZ = 6;
+    shape.render();
+}
+
+template <bool dead>
+void drawTriangle() {
+    GTriangle triangle;
+    triangle.points = {a, b, c};
+    triangle.deathMode = dead;
+    triangle.render();
+}
+
+template <int divisions>
+void drawGrid() {
+    GGrid grid;
+    grid.divisions = divisions;
+    grid.box = primitives::Box(4, -2, -1, 3);
+    grid.render();
+}
+
+const Row shapes[] = {
+    {"line, placed, turned, scaled, coloured",
+     [] {
+         GLine line;
+         line.position = a;
+         math::rotate(90, math::z_axis, line.rotation);
+         line.scale = math::Vector(2, 3, 4);
+         line.setColour1(&colour);
+         line.start = b;
+         line.end = c;
+         line.lineWidth = 4;
+         line.render();
+     }},
+    {"box", drawBox<GBox>},
+    {"transparent box", drawBox<GTransparentBox>},
+    {"outlined box", drawBox<GLinedBox>},
+    {"disc", drawCircle<GCircle, 5>},
+    {"disc of no points", drawCircle<GCircle, 0>},
+    {"circle", drawCircle<GOutlinedCircle, 5>},
+    {"cube", drawCube<GCube>},
+    {"cube of lines", drawCube<GLinedCube>},
+    {"triangle", drawTriangle<false>},
+    {"dead triangle", drawTriangle<true>},
+    {"chevron",
+     [] {
+         GCheveron chevron;
+         chevron.left = a;
+         chevron.tip = b;
+         chevron.right = c;
+         chevron.lineWidth = 3;
+         chevron.render();
+     }},
+    {"slide bar without, and from end to end",
+     [] {
+         GSlideBar bar;
+         bar.halfWidth = 2;
+         bar.halfHeight = 0.5;
+         bar.render();
+         for (const float value : {0.0F, 0.5F, 1.0F}) {
+             bar.value = &value;
+             bar.render();
+         }
+     }},
+    {"grid of no parts", drawGrid<0>},
+    {"grid of three", drawGrid<3>},
+    {"axes",
+     [] {
+         GAxesIndicator axes;
+         axes.length = 2;
+         axes.render();
+     }},
+    {"sheet",
+     [] {
+         SillyGrid grid;
+         grid.rows = 5;
+         grid.planes = 9;
+         grid.spacing = 2;
+         grid.render();
+     }},
+    {"icon of line power-ups", drawPlain<PUPLineIcon>},
+    {"icon of cooldown power-ups", drawPlain<CDLineIcon>},
+    {"title", drawPlain<Logo>},
+};
+
+const Row functions[] = {
+    {"kinds of shape",
+     [] {
+         for (int shape = 0; shape <= 12; ++shape) {
+             draw::begin(static_cast<ShapeEnum>(shape));
+             note("of", draw::i_fun.currentShape);
+             draw::end();
+             if (draw::i_fun.currentShape != SHAPE_NONE) note("not ended");
+         }
+     }},
+    {"vertices",
+     [] {
+         const double array[] = {1, 2, 3};
+         const std::vector<double> list = {4, 5, 6};
+         draw::vertex3D(7, 8, 9);
+         draw::vertex3D(array);
+         draw::vertex3D(list);
+         draw::vertex3D(b);
+         draw::vertex3D(math::Vector(c));
+         draw::vertex2D(7, 8);
+         draw::vertex2D(array);
+         draw::vertex2D(list);
+         draw::vertex2D(b);
+         draw::vertex2D(math::Vector(c));
+     }},
+    {"matrix",
+     [] {
+         draw::pushMatrix();
+         draw::translate(1, 2, 3);
+         draw::translate(b);
+         draw::translate(math::Vector(c));
+         draw::scale(1, 2, 3);
+         draw::scale(b);
+         draw::scale(math::Vector(c));
+         draw::rotate(30, 1, 2, 3);
+         math::Quaternion turn;
+         draw::rotate(turn);
+         math::rotate(40, math::y_axis, turn);
+         draw::rotate(turn);
+         math::Matrix matrix;
+         for (std::size_t i = 0; i < 16; ++i)
+             matrix[i] = static_cast<double>(i);
+         draw::rotate(matrix);
+         draw::popMatrix();
+     }},
+    {"colours",
+     [] {
+         using Byte = unsigned char;
+         draw::setColour(0.5F, 0.6F, 0.7F, 0.8F);
+         draw::setColour(Byte{255}, Byte{51}, Byte{0}, Byte{128});
+         draw::setColour(colour);
+     }},
+    {"state",
+     [] {
+         for (void (*function)() :
+              {draw::enableBlending, draw::disableBlending, draw::enableCulling,
+               draw::disableCulling, draw::drawSolid, draw::drawLine, draw::enableDepthTest,
+               draw::disableDepthTest, draw::enableAlpha, draw::disableAlpha, draw::setupDefaults,
+               draw::startFrame, draw::endFrame})
+             function();
+         draw::setLineWidth(2.5F);
+     }},
+    {"smoothing",
+     [] {
+         for (void (*look)() : {draw::renderFlat, draw::renderSmooth}) {
+             look();
+             note(draw::isSmoothLines(), draw::isSmoothShapes(), draw::isSmoothShading());
+         }
+         draw::smoothShapes(true);
+         note(draw::isSmoothShapes());
+         draw::smoothShapes(false);
+     }},
+    {"outlines",
+     [] {
+         for (void (*mode)() : {draw::setOutlineMode, draw::unsetOutlineMode}) {
+             mode();
+             note(draw::isOutLineMode());
+         }
+     }},
+    {"materials, with the colours that count",
+     [] {
+         Material material;
+         useMaterial(material);
+         material.ambient = material.specular = &colours::pink;
+         material.diffuse = material.emissive = &colours::orange;
+         useMaterial(&material); // not yet
+         material.hasAmbient = material.hasDiffuse = true;
+         useMaterial(material);
+         material.hasSpecular = material.hasEmissive = true;
+         useMaterial(material);
+         for (void (*part)(const Material&) :
+              {useMaterialAmbient, useMaterialDiffuse, useMaterialSpecular, useMaterialEmissive})
+             part(material);
+     }},
+};
+
+const Row figures[] = {
+    {"discs",
+     [] {
+         using namespace draw::primitives;
+         filledCircle(2, 4);
+         filledCircle(1, 2, 3, 2, 4);
+         filledCircle(colour, 2, 4);
+         filledCircle(colour, 1, 2, 3, 2, 4);
+     }},
+    {"circles",
+     [] {
+         using namespace draw::primitives;
+         circle(2, 0);
+         circle(2, 4);
+         circle(1, 2, 3, 2, 4);
+         circle(colour, 2, 4);
+         circle(colour, 1, 2, 3, 2, 4);
+     }},
+    {"both",
+     [] {
+         using namespace draw::primitives;
+         outlinedCircle(colour, colours::pink, 2, 4);
+         outlinedCircle(colour, colours::pink, 1, 2, 3, 2, 4);
+     }},
+    {"rings",
+     [] {
+         using namespace draw::primitives;
+         filledDonut(1, 2, 4);
+         filledDonut(colour, colours::pink, 1, 2, 4);
+     }},
+    {"spokes", [] { draw::primitives::circleSpokes(1, 2, 3, 2, 4); }},
+    {"in depth",
+     [] {
+         using namespace draw::primitives;
+         Circle3D(1, 2, 3, 2, 4);
+         filledCylinder(1, 2, 3, 2, 5, 4);
+     }},
+};
+
+} // namespace
+
+TEST(Pictures, OfEachShape) {
+    Camera::Instance().setupProjection();
+    expectPictures("shapes", shapes);
+}
+
+TEST(Pictures, OfEachFunctionOfTheDrawingLayer) {
+    expectPictures("functions", functions);
+}
+
+TEST(Pictures, OfTheFigures) {
+    expectPictures("figures", figures);
+}
+
+TEST(Pictures, OfTheCameraAsItMoves) {
+    CameraClass camera;
+    const struct {
+        void (CameraClass::*move)();
+        void (CameraClass::*moveBy)(float);
+    } moves[] = {
+        {&CameraClass::zoomOut, &CameraClass::zoomOut},
+        {&CameraClass::zoomIn, &CameraClass::zoomIn},
+        {&CameraClass::moveUp, &CameraClass::moveUp},
+        {&CameraClass::moveDown, &CameraClass::moveDown},
+        {&CameraClass::strafeRight, &CameraClass::strafeRight},
+        {&CameraClass::strafeLeft, &CameraClass::strafeLeft},
+        {&CameraClass::rotateXPos, &CameraClass::rotateXPos},
+        {&CameraClass::rotateXNeg, &CameraClass::rotateXNeg},
+        {&CameraClass::rotateYPos, &CameraClass::rotateYPos},
+        {&CameraClass::rotateYNeg, &CameraClass::rotateYNeg},
+        {&CameraClass::rotateZPos, &CameraClass::rotateZPos},
+        {&CameraClass::rotateZNeg, &CameraClass::rotateZNeg},
+    };
+    expectPicture("camera", callsOf([&] {
+                      camera.zoomIn(); // no further than home
+                      for (const auto& m : moves) {
+                          (camera.*m.moveBy)(0.25F);
+                          (camera.*m.move)();
+                      }
+                      camera.strafeLeft(2);
+                      camera.rotateXPos(3);
+                      camera.orthographic = false;
+                      camera.perspectiveScaleZ = 2;
+                      for (int visit = 0; visit < 2; ++visit) {
+                          camera.menuModeBegin();
+                          note("menu");
+                          camera.menuModeEnd();
+                          camera.orthographic = true;
+                      }
+                      camera.setupFrustum();
+                      for (math::Point p : {math::Point(1.5, 0, 9), math::Point(-1.5, 0, 9),
+                                            math::Point(0, 1.5, 9), math::Point(0, -1.5, 9)})
+                          note(camera.objectInFrustum(p, 0.5F), camera.objectInFrustum(p, 0.6F));
+                  }));
+}

@@ -1,0 +1,159 @@
+// What a player can see, state by state: one frame each, call by call.
+
+#include "tests/pictures/Pictures.h"
+
+#include "Framework/Config.h"
+#include "Framework/Graphics/Camera.h"
+#include "Framework/Graphics/Renderer.h"
+#include "game/BombClear.h"
+#include "game/BombImmune.h"
+#include "game/PupCooldown.h"
+#include "game/PupLine.h"
+#include "tests/support/FieldTest.h"
+
+using namespace quorva;
+using headless::HeadlessGame;
+
+namespace {
+
+void press(HeadlessGame& run, std::initializer_list<int> keys) {
+    for (const int key : keys) {
+        run.press(key);
+        run.ticks(2); // it is taken in the first, and seen in the second
+    }
+}
+
+class PicturesOfAField : public FieldTest {
+protected:
+    PicturesOfAField() { furnish(); }
+
+    /// All that can be on a field: actors, effects, and arrows that show how far each gun is.
+    void furnish() {
+        EngineClass& engine = Engine::Instance();
+        body(player).position = math::Point(2, 1, 0);
+        engine.createEntity<PupLine>("Line Powerup", math::Point(-12, 8, 0));
+        engine.createEntity<PupCooldown>("Cooldown Powerup", math::Point(12, 8, 0));
+        engine.createEntity<BombClear>("Clear Bomb", math::Point(-12, -8, 0));
+        engine.createEntity<BombImmune>("Immune Bomb", math::Point(12, -8, 0));
+        for (const auto& [x, y] : {std::pair{25, 3}, {-3, -18}, {5, 19}, {-24, -4}, {17, 0}})
+            addTriangle(x, y);
+        run.ticks(35);
+        for (const auto& [x, y] : {std::pair{1, 0}, {-1, 0}, {0, 1}, {0, -1}}) {
+            messages::PlayerInput shot;
+            shot.fire = math::Vector(x, y, 0);
+            publish(shot);
+            run.ticks(5);
+        }
+        across(12, -18, 18)->lifeTicks = 70; // blinks
+        addTriangle(-7, 0);
+        for (const double side : {-3.0, 3.0}) {
+            across(side, -11, -3);
+            upright(-7 + side, -4, 4);
+        }
+        run.ticks(3); // it is caught, and bursts
+        body(addTriangle(8, 4)).hitLine = true;
+        run.process();
+    }
+
+    static Triangle* addTriangle(double x, double y) {
+        return Engine::Instance().createEntity<Triangle>("Triangle", math::Point(x, y, 0), 3.0,
+                                                         1.0);
+    }
+};
+
+} // namespace
+
+TEST(Pictures, OfAVideoModeAsItIsSetUp) {
+    expectPicture("video-mode", callsOf([] { const graphics::Renderer renderer(nullptr); }));
+    auto& settings = config::Config::Instance();
+    settings.setScreenWidth(1280);
+    settings.setScreenHeight(800);
+    settings.setFullScreen(true);
+    settings.activateConfig();
+    expectPicture("video-mode-full-screen",
+                  callsOf([] { const graphics::Renderer renderer(nullptr); }), "video-mode");
+}
+
+TEST(Pictures, OfTheMenus) {
+    HeadlessGame run(100);
+    for (const char* item : {"start", "configuration", "help", "about", "exit"}) {
+        expectPicture(std::string("menu-") + item, frameOf(run), "menu-start");
+        press(run, {SDLK_DOWN});
+    }
+    press(run, {SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
+    expectPicture("help", frameOf(run));
+    press(run, {SDLK_RETURN, SDLK_DOWN, SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
+    expectPicture("about", frameOf(run));
+    press(run, {SDLK_RETURN});
+    expectPicture("menu-start", frameOf(run)); // it is back as it was
+    press(run, {SDLK_DOWN, SDLK_RETURN});
+    for (const char* row : {"resolution", "fullscreen", "music-volume", "fx-volume",
+                            "collision-accuracy", "save-cpu", "save", "cancel"}) {
+        expectPicture(std::string("configuration-") + row, frameOf(run),
+                      "configuration-resolution");
+        press(run, {SDLK_DOWN});
+    }
+    press(run, {SDLK_ESCAPE});
+    expectPicture("menu-start", frameOf(run));
+}
+
+TEST(Pictures, OfAMenuAndALevelOnScreensOfEachShape) {
+    const struct {
+        unsigned short width, height;
+        const char* like;
+    } screens[] = {{800, 600, ""},
+                   {1280, 800, "800x600"},
+                   {1920, 1080, "800x600"},
+                   {1024, 1024, "800x600"},
+                   {768, 1024, "800x600"}};
+    for (const auto& screen : screens) {
+        HeadlessGame run(100, screen.width, screen.height);
+        const std::string size = std::to_string(screen.width) + "x" + std::to_string(screen.height);
+        expectPicture("menu-" + size, frameOf(run), "menu-start");
+        run.startLevel();
+        run.process();
+        expectPicture("level-" + size, frameOf(run), "level-800x600");
+    }
+}
+
+TEST_F(PicturesOfAField, PausedAndTaken) {
+    expectPicture("field", frameOf(run));
+    run.press(SDLK_p);
+    run.frame();
+    expectPicture("pause", frameOf(run), "field");
+    run.press(SDLK_p);
+    run.frame();
+    newest<PupLine>()->dead = newest<PupCooldown>()->dead = true;
+    run.ticks(5);
+    expectPicture("field-rays-spin", frameOf(run), "field");
+}
+
+TEST_F(PicturesOfAField, ThroughADeath) {
+    publish(PlayerDead());
+    run.ticks(10);
+    expectPicture("death", frameOf(run));
+    run.ticks(55);
+    expectPicture("death-arrows-return", frameOf(run));
+    run.ticks(60);
+    expectPicture("next-life", frameOf(run));
+}
+
+TEST(Pictures, OfEachVerdict) {
+    const auto verdictOn = [](std::uint32_t score, std::uint32_t highScore) {
+        HeadlessGame run(100);
+        run.startLevel();
+        Marvo::Instance().score = score;
+        Marvo::Instance().highScore = highScore;
+        PlayerDead last;
+        last.gameOver = true;
+        publish(last);
+        publish(messages::EndLevel());
+        run.process();
+        return frameOf(run);
+    };
+    for (const std::uint32_t score :
+         {49999U, 50000U, 124999U, 125000U, 249999U, 250000U, 750000U, 750001U})
+        expectPicture("verdict-" + std::to_string(score), verdictOn(score, 1000000),
+                      "verdict-49999");
+    expectPicture("verdict-high-score", verdictOn(60000, 59999), "verdict-49999");
+}
