@@ -1,64 +1,44 @@
 #include "Framework/Config.h"
 
+#include "Framework/Files.h"
 #include "Framework/GameInfo.h"
-#include "Framework/config/SettingNames.h"
+#include "Framework/Utility.h"
+#include "Framework/config/Settings.h"
+
+#include <boost/algorithm/string/trim.hpp>
 
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <limits>
+#include <map>
+#include <sstream>
 
 namespace quorva::config {
 
 namespace {
 
-// Two tails: some reports have a blank before the comma, and keep it.
-constexpr const char* spaced_tail = " , using default: ";
-constexpr const char* plain_tail = ", using default: ";
+/// Stores `v`, of a flag 0 or 1. Throws ConfigValueException if that can't be done.
+void put(ConfigValuesT& table, const Setting& setting, int v) {
+    if (!setting.isFlag || setting.has(stored_by_letter))
+        table.setValue(setting.shortName, v);
+    else
+        table.setValue(v != 0 ? setting.longName : default_negative_prefix + setting.longName, 0);
+}
 
-unsigned short numberOr(const ConfigValuesT& table, char letter, unsigned short fallback) {
+/// Stores a number, or a word for a setting of three grades.
+template <class Key>
+void storeText(ConfigValuesT& table, Key key, const char* text) {
     try {
-        return static_cast<unsigned short>(table.getIntVal(letter));
+        table.setValue(key, numberFromText(text));
+        return;
     } catch (const ConfigValueException&) {
-        return fallback;
+        // It may be a word.
     }
-}
-
-bool flagOr(const ConfigValuesT& table, char letter, bool fallback) {
-    try {
-        return table.getBoolVal(letter);
-    } catch (const ConfigValueException&) {
-        return fallback;
-    }
-}
-
-/// Stores `v`, or else the default with a report.
-template <class Store, class T>
-void storeOrDefault(const Store& store, const std::string& name, T v, T defaultValue,
-                    const char* tail) {
-    try {
-        store(v);
-    } catch (const ConfigValueException&) {
-        try {
-            store(defaultValue);
-            std::cerr << "Invalid " << name << tail << defaultValue << '\n';
-        } catch (const ConfigValueException&) {
-            writeSetValueError(name);
-        }
-    }
-}
-
-void storeNumber(ConfigValuesT& table, char letter, const std::string& name, unsigned short v,
-                 int defaultValue, const char* tail) {
-    const auto store = [&](int value) { table.setValue(letter, value); };
-    storeOrDefault(store, name, static_cast<int>(v), defaultValue, tail);
-}
-
-void storeFlag(ConfigValuesT& table, const std::string& name, bool v, bool defaultValue) {
-    const auto store = [&](bool value) {
-        table.setValue(value ? name : default_negative_prefix + name, 0);
-    };
-    storeOrDefault(store, name, v, defaultValue, plain_tail);
+    const char* const words[] = {"low", "medium", "high"};
+    const auto* const word = std::find(std::begin(words), std::end(words), std::string(text));
+    if (word == std::end(words)) throw ConfigValueException(ConfigValueException::invalid_value);
+    table.setValue(key, static_cast<QualityE>(word - words));
 }
 
 } // namespace
@@ -77,7 +57,7 @@ ConfigClass::ConfigClass() {
     try {
         file = std::make_unique<ConfigFile>(GameInfo::Instance().configFile);
     } catch (...) {
-        // No file: the defaults hold, without a word.
+        // Without a file the defaults hold; nothing is reported.
     }
     configValues = std::make_unique<ConfigValuesT>();
     activatedValues = std::make_unique<ConfigValuesT>();
@@ -111,24 +91,6 @@ const ConfigValueAnon& ConfigClass::getConfigValueInfo(const std::string& key) {
     return configValues->getTypelessValue(key.c_str());
 }
 
-namespace {
-
-template <class Key>
-void storeText(ConfigValuesT& table, Key key, const char* text) {
-    try {
-        table.setValue(key, numberFromText(text));
-        return;
-    } catch (const ConfigValueException&) {
-        // A word, perhaps.
-    }
-    const char* const words[] = {"low", "medium", "high"};
-    const auto* const word = std::find(std::begin(words), std::end(words), std::string(text));
-    if (word == std::end(words)) throw ConfigValueException(ConfigValueException::invalid_value);
-    table.setValue(key, static_cast<QualityE>(word - words));
-}
-
-} // namespace
-
 void ConfigClass::setSomeValue(char key, const char* text) {
     storeText(*configValues, key, text);
 }
@@ -136,122 +98,165 @@ void ConfigClass::setSomeValue(const char* key, const char* text) {
     storeText(*configValues, key, text);
 }
 
-unsigned short ConfigClass::getScreenWidth() const {
-    return numberOr(*activatedValues, 'w', 800);
-}
-unsigned short ConfigClass::getScreenHeight() const {
-    return numberOr(*activatedValues, 'l', 600);
-}
-unsigned short ConfigClass::getColourDepth() const {
-    return numberOr(*activatedValues, 'c', 600); // deliberate: its neighbour's fallback
-}
-bool ConfigClass::getFullScreen() const {
-    return flagOr(*activatedValues, 'f', false);
-}
-bool ConfigClass::getAntiAlias() const {
-    return flagOr(*activatedValues, 'a', true);
-}
-bool ConfigClass::getCompatibility() const {
-    return flagOr(*activatedValues, 'o', true);
-}
-unsigned short ConfigClass::getRate() const {
-    return numberOr(*activatedValues, 'r', 41000);
-}
-unsigned short ConfigClass::getSoftwareChannels() const {
-    return numberOr(*activatedValues, 'n', 40);
-}
-bool ConfigClass::getJoyStickSupport() const {
-    return flagOr(*activatedValues, 'j', true);
-}
-unsigned short ConfigClass::getActiveJoystick() const {
-    return numberOr(*activatedValues, 'k', 0);
-}
-unsigned short ConfigClass::getJoystickSensitivity() const {
-    return numberOr(*activatedValues, 'y', 3200);
-}
-bool ConfigClass::getInvertJoystick() const {
-    return flagOr(*activatedValues, 'e', false);
-}
-bool ConfigClass::getIgnoreTime() const {
-    return flagOr(*activatedValues, 'x', false);
-}
-bool ConfigClass::getPlayMusic() const {
-    return flagOr(*activatedValues, 'm', true);
-}
-bool ConfigClass::getPlaySound() const {
-    return flagOr(*activatedValues, 's', true);
-}
-unsigned short ConfigClass::getMusicVolume() const {
-    return numberOr(*activatedValues, 'h', 100);
-}
-unsigned short ConfigClass::getFXVolume() const {
-    return numberOr(*activatedValues, 'g', 100);
-}
-unsigned short ConfigClass::getCollisionAccuracy() const {
-    return numberOr(*activatedValues, 'z', 10);
-}
-bool ConfigClass::getSaveCPU() const {
-    return flagOr(*activatedValues, 'u', false);
+unsigned short ConfigClass::number(char letter, std::optional<unsigned short> fallback) const {
+    try {
+        return static_cast<unsigned short>(activatedValues->getIntVal(letter));
+    } catch (const ConfigValueException&) {
+        return fallback.value_or(settingWith(letter).defaultValue);
+    }
 }
 
-void ConfigClass::setScreenWidth(unsigned short v) {
-    storeNumber(*configValues, 'w', default_screen_width_ln, v, 800, spaced_tail);
+bool ConfigClass::flag(char letter) const {
+    try {
+        return activatedValues->getBoolVal(letter);
+    } catch (const ConfigValueException&) {
+        return settingWith(letter).defaultValue != 0;
+    }
 }
-void ConfigClass::setScreenHeight(unsigned short v) {
-    storeNumber(*configValues, 'l', default_screen_height_ln, v, 600, spaced_tail);
+
+void ConfigClass::store(char letter, int v) {
+    const Setting& setting = settingWith(letter);
+    try {
+        put(*configValues, setting, v);
+        return;
+    } catch (const ConfigValueException&) {
+        // The default takes its place.
+    }
+    try {
+        put(*configValues, setting, setting.defaultValue);
+        std::cerr << "Invalid " << setting.longName << (setting.has(spaced_tail) ? " ," : ",")
+                  << " using default: " << setting.defaultValue << '\n';
+    } catch (const ConfigValueException&) {
+        writeSetValueError(setting.longName);
+    }
 }
-void ConfigClass::setColourDepth(unsigned short v) {
-    storeNumber(*configValues, 'c', default_colour_depth_ln, v, 32, plain_tail);
+
+void ConfigClass::readFile() {
+    if (file != nullptr) {
+        for (const auto& [key, value] : file->getKeyVals()) {
+            const Setting* const setting = findSetting(allSettings(), key);
+            if (setting == nullptr || setting->has(never_restored)) continue;
+            const long number = std::strtol(value.c_str(), nullptr, 10);
+            store(setting->shortName,
+                  setting->isFlag ? number != 0 : static_cast<unsigned short>(number));
+        }
+    }
+    activateConfig();
 }
-void ConfigClass::setCollisionAccuracy(unsigned short v) {
-    storeNumber(*configValues, 'z', default_collision_accuracy_ln, v, 10, spaced_tail);
+
+void ConfigClass::saveConfig() {
+    if (file != nullptr) file->backup();
+    std::multimap<int, std::string> lines;
+    for (const Setting& setting : allSettings()) {
+        const int value = setting.isFlag ? flag(setting.shortName) : number(setting.shortName);
+        lines.insert({setting.fileLine, setting.longName + " = " + std::to_string(value)});
+    }
+    const GameInfoClass& info = GameInfo::Instance();
+    std::ostringstream out;
+    out << "#Config file for: " << info.title << ". v." << info.version << '\n';
+    for (const auto& [place, line] : lines)
+        out << line << '\n';
+    out << "#eof\n";
+    utility::replaceContents(info.configFile, out.str());
 }
-void ConfigClass::setFXVolume(unsigned short v) {
-    storeNumber(*configValues, 'g', default_fx_vol_ln, v, 100, spaced_tail);
+
+namespace {
+
+enum class Outcome { start, usage_and_start, usage_and_stop, help };
+
+/// `-x=value`, `--Name=value`.
+Outcome takeWithValue(ConfigClass& config, const std::string& argument) {
+    if (argument.front() != '-') return Outcome::start; // deliberate: ignored without a message
+    std::vector<std::string> fields = utility::splitCompressed(argument, "=");
+    fields.erase(std::remove_if(fields.begin(), fields.end(),
+                                [](const std::string& f) { return f.empty() || f == " "; }),
+                 fields.end());
+    if (fields.size() != 2) return Outcome::usage_and_start;
+    utility::trimStringsInVector(fields);
+    const std::string& name = fields[0];
+    if (name.size() < 2) return Outcome::usage_and_stop;
+    if (name[1] != '-') {
+        if (name.size() != 2) return Outcome::usage_and_stop;
+        config.setSomeValue(name[1], fields[1]);
+        return Outcome::start;
+    }
+    if (name.size() <= 2) return Outcome::usage_and_stop;
+    config.setSomeValue(name.substr(2), fields[1]);
+    return Outcome::start;
 }
-void ConfigClass::setMusicVolume(unsigned short v) {
-    storeNumber(*configValues, 'h', default_music_vol_ln, v, 100, spaced_tail);
+
+/// `-x`, `--Name`. The value is the argument itself, which converts to 0.
+Outcome takeBare(ConfigClass& config, const std::string& argument) {
+    if (argument.size() < 2 || argument[0] != '-') return Outcome::usage_and_stop;
+    if (argument == "-h" || argument == "--help") return Outcome::help;
+    if (argument.size() == 2)
+        config.setSomeValue(argument[1], argument);
+    else if (argument[1] == '-')
+        config.setSomeValue(argument.substr(2), argument);
+    else
+        return Outcome::usage_and_stop;
+    return Outcome::start;
 }
-void ConfigClass::setRate(unsigned short v) {
-    storeNumber(*configValues, 'r', default_rate_ln, v, 41000, plain_tail);
+
+Outcome take(ConfigClass& config, const std::string& argument) {
+    try {
+        return argument.find('=') != std::string::npos ? takeWithValue(config, argument)
+                                                       : takeBare(config, argument);
+    } catch (const ConfigValueException&) {
+        return Outcome::usage_and_stop;
+    }
 }
-void ConfigClass::setSoftwareChannels(unsigned short v) {
-    storeNumber(*configValues, 'n', default_software_channels_ln, v, 40, plain_tail);
+
+/// The sections of the help in their order.
+const struct {
+    const char* heading;
+    config_variable_section_e section;
+    std::size_t threeTabsBelow; ///< characters of a name
+    const char* end;
+} help_sections[] = {
+    {"Video Options:", section_video, 6, "\n"},
+    {"Sound Options:", section_sound, 6, "\n"},
+    {"Input Options:", section_input, 6, "\n"},
+    {"Effects:", section_effects, 7, ""}, // deliberate: no empty line follows
+    {"Misc:", section_misc, 7, "\n"},
+};
+constexpr std::size_t one_tab_above = 15; // characters of a name
+
+const char* tabsBehind(std::size_t length, std::size_t threeTabsBelow) {
+    if (length < threeTabsBelow) return "\t\t\t";
+    return length > one_tab_above ? "\t" : "\t\t";
 }
-void ConfigClass::setActiveJoystick(unsigned short v) {
-    storeNumber(*configValues, 'k', default_active_joystick_ln, v, 0, plain_tail);
+
+} // namespace
+
+bool ConfigClass::parseCmdLineArgs(const char* programName, const char* argument) {
+    const Outcome outcome = take(*this, boost::algorithm::trim_copy(std::string(argument)));
+    if (outcome == Outcome::help) printCmdLineFlags(programName);
+    if (outcome == Outcome::usage_and_start || outcome == Outcome::usage_and_stop)
+        writeUsageMessage(programName);
+    return outcome == Outcome::start || outcome == Outcome::usage_and_start;
 }
-void ConfigClass::setJoystickSensitivity(unsigned short v) {
-    storeNumber(*configValues, 'y', default_joystick_sensitivity_ln, v, 3200, plain_tail);
+
+void writeUsageMessage(const char* programName) {
+    const std::string name = utility::printable(programName);
+    std::cerr << "Usage: " << name << " [OPTION]...\n"
+              << "Try `" << name << " --help` for more information.\n";
 }
-void ConfigClass::setJoystickSupport(bool v) {
-    // Deliberate: the letter alone chooses the value of a flag, and this one means true. Only
-    // the name form, NoUseJoystick, turns it off.
-    storeNumber(*configValues, 'j', default_use_joystick_ln, v, true, plain_tail);
-}
-void ConfigClass::setFullScreen(bool v) {
-    storeFlag(*configValues, default_fullscreen_ln, v, false);
-}
-void ConfigClass::setAntiAlias(bool v) {
-    storeFlag(*configValues, default_antialias_ln, v, true);
-}
-void ConfigClass::setCompatibility(bool v) {
-    storeFlag(*configValues, default_compatibility_ln, v, true);
-}
-void ConfigClass::setInvertJoystick(bool v) {
-    storeFlag(*configValues, default_invert_joystick_Y_ln, v, false);
-}
-void ConfigClass::setIgnoreTime(bool v) {
-    storeFlag(*configValues, default_ignore_time_ln, v, false);
-}
-void ConfigClass::setPlayMusic(bool v) {
-    storeFlag(*configValues, default_play_music_ln, v, true);
-}
-void ConfigClass::setPlaySound(bool v) {
-    storeFlag(*configValues, default_play_sound_ln, v, true);
-}
-void ConfigClass::setSaveCPU(bool v) {
-    storeFlag(*configValues, default_save_cpu_ln, v, false);
+
+void ConfigClass::printCmdLineFlags(const char* programName) {
+    std::cout << "Usage: " << utility::printable(programName) << " [OPTIONS]...\n"
+              << "All flags are case-sensitive.\n";
+    for (const auto& part : help_sections) {
+        std::cout << part.heading << '\n';
+        for (const ConfigValueAnon* setting : configValues->getAnonNames()) {
+            if (setting->section != part.section) continue;
+            std::cout << "  -" << setting->shortName << ", --" << setting->longName
+                      << tabsBehind(setting->longName.size(), part.threeTabsBelow)
+                      << setting->description << '\n';
+        }
+        std::cout << part.end;
+    }
+    std::cout << std::flush;
 }
 
 } // namespace quorva::config

@@ -1,9 +1,7 @@
 #pragma once
 
 #include <algorithm>
-#include <cstring>
 #include <string>
-#include <utility>
 #include <vector>
 
 /// A setting of three grades, given as "low", "medium" or "high".
@@ -11,7 +9,7 @@ enum QualityE { quality_low, quality_medium, quality_high };
 
 namespace quorva::config {
 
-/// Groups the settings of the usage text.
+/// Groups the settings in the help.
 enum config_variable_section_e {
     section_video,
     section_sound,
@@ -20,7 +18,7 @@ enum config_variable_section_e {
     section_misc,
 };
 
-/// Both bounds inclusive.
+/// The values that a setting takes; both bounds are inclusive.
 template <class T>
 struct CVRange {
     T min;
@@ -39,6 +37,14 @@ struct ConfigValueAnon {
     bool operator==(const std::string& name) const { return longName == name; }
 };
 
+/// The first of `settings` with that letter or long name; null if there is none.
+template <class Settings, class Key>
+auto findSetting(Settings& settings, const Key& key) -> decltype(settings.data()) {
+    const auto found =
+        std::find_if(settings.begin(), settings.end(), [&key](const auto& s) { return s == key; });
+    return found == settings.end() ? nullptr : &*found;
+}
+
 /// Thrown by value when a setting is not found, or a value is refused.
 class ConfigValueException {
 public:
@@ -49,7 +55,7 @@ public:
     int reason;
 };
 
-/// One setting.
+/// One setting with its value, in one table of settings.
 template <class T>
 class ConfigValue : public ConfigValueAnon {
 public:
@@ -63,12 +69,13 @@ public:
 
     void addValid(T v) { validValues.push_back(v); }
 
-    /// A list of valid values, where there is one, decides alone; else the range does.
+    /// If there are valid values, they alone decide; otherwise the range does.
     bool isValid(T v) const {
         if (validValues.empty()) return range.min <= v && v <= range.max;
         return std::find(validValues.begin(), validValues.end(), v) != validValues.end();
     }
 
+    /// Throws ConfigValueException if `v` is not valid.
     void set(T v) {
         if (!isValid(v)) throw ConfigValueException(ConfigValueException::invalid_value);
         value = v;
@@ -77,7 +84,7 @@ public:
     T value;
     T defaultValue;
     CVRange<T> range;
-    std::vector<T> validValues;
+    std::vector<T> validValues; ///< empty where the range decides
 };
 
 } // namespace quorva::config

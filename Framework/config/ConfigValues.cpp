@@ -1,87 +1,12 @@
 #include "Framework/config/ConfigValues.h"
 
-#include "Framework/config/SettingNames.h"
+#include "Framework/config/Settings.h"
 
 #include <cctype>
 
 namespace quorva::config {
 
 namespace {
-
-const struct {
-    const std::string& name;
-    char letter;
-    int value, min, max;
-    std::vector<int> valid;
-    config_variable_section_e section;
-    const std::string& description;
-} int_settings[] = {
-    {default_screen_width_ln, 'w', 800, 480, 1920, {}, section_video, default_screen_width_desc},
-    {default_screen_height_ln, 'l', 600, 480, 1920, {}, section_video, default_screen_height_desc},
-    {default_colour_depth_ln, 'c', 32, 16, 32, {16, 32}, section_video, default_colour_depth_desc},
-    {default_rate_ln,
-     'r',
-     41000,
-     10250,
-     41000,
-     {10250, 20500, 41000},
-     section_sound,
-     default_rate_desc},
-    {default_software_channels_ln,
-     'n',
-     40,
-     10,
-     255,
-     {},
-     section_sound,
-     default_software_channels_desc},
-    {default_fx_vol_ln, 'g', 100, 0, 100, {}, section_sound, default_fx_vol_desc},
-    {default_music_vol_ln, 'h', 100, 0, 100, {}, section_sound, default_music_vol_desc},
-    {default_active_joystick_ln, 'k', 0, 0, 16, {}, section_input, default_active_joystick_desc},
-    {default_joystick_sensitivity_ln,
-     'y',
-     3200,
-     0,
-     32768,
-     {},
-     section_input,
-     default_joystick_sensitivity_desc},
-    {default_collision_accuracy_ln,
-     'z',
-     10,
-     1,
-     1000,
-     {},
-     section_misc,
-     default_collision_accuracy_desc},
-};
-
-/// An empty negative description: no negative entry.
-const struct {
-    const std::string& name;
-    char letter;
-    bool value;
-    config_variable_section_e section;
-    const std::string& description;
-    const std::string negativeDescription;
-} bool_settings[] = {
-    {default_fullscreen_ln, 'f', false, section_video, default_fullscreen_desc,
-     default_fullscreen_desc_neg},
-    {default_antialias_ln, 'a', true, section_video, default_antialias_desc,
-     default_antialias_desc_neg},
-    {default_compatibility_ln, 'o', true, section_video, default_compatibility_desc,
-     default_compatibility_desc_neg},
-    {default_play_sound_ln, 's', true, section_sound, default_play_sound_desc, ""},
-    {default_play_music_ln, 'm', true, section_sound, default_play_music_desc, ""},
-    {default_use_joystick_ln, 'j', true, section_input, default_use_joystick_desc,
-     default_use_joystick_desc_neg},
-    {default_invert_joystick_Y_ln, 'e', false, section_input, default_invert_joystick_Y_desc,
-     default_invert_joystick_Y_desc_neg},
-    {default_ignore_time_ln, 'x', false, section_misc, default_ignore_time_desc,
-     default_ignore_time_desc_neg},
-    {default_save_cpu_ln, 'u', false, section_misc, default_save_cpu_desc,
-     default_save_cpu_desc_neg},
-};
 
 [[noreturn]] void fail(ConfigValueException::Reason reason) {
     throw ConfigValueException(reason);
@@ -95,17 +20,9 @@ char otherCase(char letter, int (*convert)(int)) {
     return static_cast<char>(convert(static_cast<unsigned char>(letter)));
 }
 
-/// The first setting of that key; null if there is none.
-template <class Values, class Key>
-auto find(Values& values, const Key& key) -> decltype(values.data()) {
-    const auto found =
-        std::find_if(values.begin(), values.end(), [&key](const auto& v) { return v == key; });
-    return found == values.end() ? nullptr : &*found;
-}
-
 template <class Values, class Key>
 auto& require(Values& values, const Key& key, ConfigValueException::Reason reason) {
-    auto* const found = find(values, key);
+    auto* const found = findSetting(values, key);
     if (found == nullptr) fail(reason);
     return *found;
 }
@@ -139,45 +56,57 @@ QualityE neighbour(const ConfigValue<QualityE>& setting, bool forward) {
 template <class Values>
 bool haveSameValues(const Values& ours, const Values& others) {
     return std::all_of(others.begin(), others.end(), [&ours](const auto& other) {
-        const auto* const own = find(ours, other.longName);
+        const auto* const own = findSetting(ours, other.longName);
         return own != nullptr && own->value == other.value;
     });
 }
 
 template <class Key>
 void restoreDefault(ConfigValuesT& table, const Key& key) {
-    if (auto* const number = find(table.intValues, key)) return number->set(number->defaultValue);
-    if (auto* const flag = find(table.boolValues, key)) return flag->set(flag->defaultValue);
+    if (auto* const number = findSetting(table.intValues, key))
+        return number->set(number->defaultValue);
+    if (auto* const flag = findSetting(table.boolValues, key)) return flag->set(flag->defaultValue);
     auto& quality = require(table.qualityValues, key, ConfigValueException::no_such_setting);
     quality.set(quality.defaultValue);
 }
 
 template <class Key>
 ConfigValueAnon& typeless(ConfigValuesT& table, const Key& key) {
-    if (auto* const number = find(table.intValues, key)) return *number;
+    if (auto* const number = findSetting(table.intValues, key)) return *number;
     return require(table.boolValues, key, ConfigValueException::no_such_setting);
+}
+
+void addNumber(std::vector<ConfigValue<int>>& numbers, const Setting& setting) {
+    numbers.emplace_back(setting.shortName, setting.longName, setting.description,
+                         setting.defaultValue, setting.range, setting.section);
+    for (const int v : setting.validValues)
+        numbers.back().addValid(v);
+}
+
+/// The entry that lists "No" and the name of a boolean setting.
+ConfigValueAnon negativeOf(const Setting& setting) {
+    return {otherCase(setting.shortName, std::toupper), default_negative_prefix + setting.longName,
+            setting.negativeDescription, setting.section};
+}
+
+void addFlag(std::vector<ConfigValue<bool>>& flags, const ConfigValueAnon& entry, bool value) {
+    flags.emplace_back(entry.shortName, entry.longName, entry.description, value,
+                       CVRange<bool>{false, true}, entry.section);
+    flags.back().addValid(true);
+    flags.back().addValid(false);
 }
 
 } // namespace
 
 ConfigValuesT::ConfigValuesT() {
-    for (const auto& row : int_settings) {
-        intValues.emplace_back(row.letter, row.name, row.description, row.value,
-                               CVRange<int>{row.min, row.max}, row.section);
-        for (const int v : row.valid)
-            intValues.back().addValid(v);
-    }
-    const auto addFlag = [this](char letter, const std::string& name, const std::string& text,
-                                bool value, config_variable_section_e section) {
-        boolValues.emplace_back(letter, name, text, value, CVRange<bool>{false, true}, section);
-        boolValues.back().addValid(true);
-        boolValues.back().addValid(false);
-    };
-    for (const auto& row : bool_settings) {
-        addFlag(row.letter, row.name, row.description, row.value, row.section);
-        if (row.negativeDescription.empty()) continue;
-        addFlag(otherCase(row.letter, std::toupper), default_negative_prefix + row.name,
-                row.negativeDescription, row.value, row.section);
+    for (const Setting& setting : allSettings()) {
+        if (!setting.isFlag) {
+            addNumber(intValues, setting);
+            continue;
+        }
+        addFlag(boolValues, setting, setting.defaultValue != 0);
+        if (!setting.has(no_negative_entry))
+            addFlag(boolValues, negativeOf(setting), setting.defaultValue != 0);
     }
     for (auto& setting : intValues)
         anonNames.push_back(&setting);
@@ -235,7 +164,7 @@ QualityE ConfigValuesT::getPrevQualityVal(const std::string& key) const {
 }
 
 bool ConfigValuesT::setValue(char key, int v) {
-    if (auto* const number = find(intValues, key)) {
+    if (auto* const number = findSetting(intValues, key)) {
         number->set(v);
         return true;
     }
@@ -246,7 +175,7 @@ bool ConfigValuesT::setValue(char key, int v) {
 }
 
 bool ConfigValuesT::setValue(const char* key, int v) {
-    if (auto* const number = find(intValues, key)) {
+    if (auto* const number = findSetting(intValues, key)) {
         number->set(v);
         return true;
     }
