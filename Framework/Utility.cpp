@@ -3,6 +3,10 @@
 #include <boost/algorithm/string.hpp>
 #include <boost/locale/utf.hpp>
 
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+
 namespace quorva::utility {
 
 namespace {
@@ -51,6 +55,12 @@ std::string printable(const std::string& text) {
         shown += escaped(*first);
     }
     return shown;
+}
+
+void insist(bool holds, const char* fault) {
+    if (holds) return;
+    std::cerr << "Assertion failed: " << fault << '\n';
+    std::abort();
 }
 
 } // namespace quorva::utility

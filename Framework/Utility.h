@@ -5,10 +5,10 @@
 
 namespace quorva::utility {
 
-/// Takes the white space off both ends of every string.
+/// Trims the white space at both ends of every string.
 void trimStringsInVector(std::vector<std::string>& strings);
 
-/// Takes out the empty strings, keeping the order of the others.
+/// Removes the empty strings, keeping the order of the others.
 void removeEmptyStringsFromVector(std::vector<std::string>& strings);
 
 /// The fields of `text` between characters of `separators`; a run of separators counts as one.
@@ -17,5 +17,9 @@ std::vector<std::string> splitCompressed(const std::string& text, const char* se
 /// `text` with control characters and bytes that aren't UTF-8 as escapes such as \x1b, so that
 /// text from outside can't steer the terminal that it is shown on.
 std::string printable(const std::string& text);
+
+/// An assertion that a Release build keeps: unless `holds`, it ends the process, with `fault` on
+/// standard error. For our own mistakes that would write past an end.
+void insist(bool holds, const char* fault);
 
 } // namespace quorva::utility

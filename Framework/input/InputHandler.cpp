@@ -1,6 +1,7 @@
 #include "Framework/input/InputHandler.h"
 
 #include "Framework/MessageHandler.h"
+#include "Framework/Utility.h"
 #include "Framework/input/Joystick.h"
 #include "Framework/input/KeyMapper.h"
 
@@ -10,7 +11,8 @@ namespace {
 
 constexpr float full_deflection = 32767.0F; // of an axis
 
-/// The move of any deflection of the y axis: what one unit would give. Only its sign is read.
+/// What the y axis moves by, however far it is deflected: a single unit's share. Deliberate, and
+/// harmless, as only the sign is read.
 constexpr double y_axis_move = 3.0518509447574615e-05;
 
 double share(short value) {
@@ -19,49 +21,20 @@ double share(short value) {
 
 } // namespace
 
-InputHandler::InputHandler() : event() {
+InputHandler::InputHandler() {
     for (std::size_t i = 0; i < playerInputs.size(); ++i)
         playerInputs[i].player = static_cast<unsigned short>(i);
     dirty.assign(false);
     Joystick::Instance(); // opens the joysticks
 }
 
-void InputHandler::checkInputs() {
-    while (SDL_PollEvent(&event) != 0) {
-        switch (event.type) {
-        case SDL_KEYDOWN:
-        case SDL_JOYBUTTONDOWN:
-            press();
-            break;
-        case SDL_KEYUP:
-            release();
-            break;
-        case SDL_JOYAXISMOTION:
-            moveAxes();
-            break;
-        case SDL_QUIT:
-            publish(messages::EndGame());
-            return; // the other events stay
-        default:
-            break;
-        }
-        publishNews();
-    }
-}
-
-void InputHandler::publishNews() {
+void InputHandler::finishEvent() {
     if (!dirty[0]) return;
     dirty[0] = false;
     messages::PlayerInput& input = playerInputs[0];
     publish(input);
     input.fire = math::zero_point;
     input.pause = false;
-}
-
-bool InputHandler::isKey(const char* action) const {
-    if (event.type != SDL_KEYDOWN && event.type != SDL_KEYUP) return false;
-    const InputKey* const mapped = KeyMapper::Instance().getButton(action, 0);
-    return mapped != nullptr && event.key.keysym.sym == mapped->key;
 }
 
 bool InputHandler::isKeyOrButton(const char* action) const {
@@ -121,7 +94,7 @@ void InputHandler::releaseDirection(bool& held, bool oppositeHeld, double& axis,
 }
 
 void InputHandler::moveAxes() {
-    // The event only says that something moved: the joystick is asked where it stands.
+    // The event only says that something moved: where the stick stands now, the joystick says.
     const JoystickClass& joystick = Joystick::Instance();
     const int threshold = joystick.getSensitivity();
     math::Vector& move = playerInputs[0].move;
@@ -144,41 +117,40 @@ void InputHandler::moveAxes() {
     }
 }
 
+messages::PlayerInput& InputHandler::renew(unsigned short player) {
+    utility::insist(player < playerInputs.size(), "no such player");
+    dirty[player] = true;
+    return playerInputs[player];
+}
+
 void InputHandler::pause() {
-    playerInputs[0].pause = true;
-    dirty[0] = true;
+    renew(0).pause = true;
 }
 
 void InputHandler::xDown(unsigned short player, short value) {
-    playerInputs[player].move.x = share(value);
-    dirty[player] = true;
+    renew(player).move.x = share(value);
     (value < 1 ? leftHeld : rightHeld) = true;
 }
 
 void InputHandler::yDown(unsigned short player, short value) {
-    playerInputs[player].move.y = share(value);
-    dirty[player] = true;
+    renew(player).move.y = share(value);
     (value < 1 ? downHeld : upHeld) = true;
 }
 
 void InputHandler::xUp(unsigned short player) {
-    playerInputs[player].move.x = 0.0;
-    dirty[player] = true;
+    renew(player).move.x = 0.0;
 }
 
 void InputHandler::yUp(unsigned short player) {
-    playerInputs[player].move.y = 0.0;
-    dirty[player] = true;
+    renew(player).move.y = 0.0;
 }
 
 void InputHandler::xDown2(unsigned short player, short value) {
-    playerInputs[player].fire.x = share(value);
-    dirty[player] = true;
+    renew(player).fire.x = share(value);
 }
 
 void InputHandler::yDown2(unsigned short player, short value) {
-    playerInputs[player].fire.y = share(value);
-    dirty[player] = true;
+    renew(player).fire.y = share(value);
 }
 
 void InputHandler::xUp2(unsigned short player) {

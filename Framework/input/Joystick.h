@@ -11,24 +11,24 @@
 namespace quorva::input {
 
 struct JoystickInfo {
-    std::string name;
+    std::string name; ///< nothing reads it, nor the two numbers
     int numAxes;
     int numButtons;
-    SDL_Joystick* joystick; ///< open; SDL frees it when it quits
+    SDL_Joystick* joystick; ///< not owned: SDL closes it when it quits
 };
 
-/// The opened joysticks, of which one is active. Everything works without any.
+/// The opened joysticks, of which one is active: the first, whatever the settings say. Everything
+/// works without any.
 class JoystickClass {
 public:
-    JoystickClass(); ///< opens all; one that doesn't open is left out
+    JoystickClass(); ///< opens all; a joystick that doesn't open is left out in silence
 
     bool joystickPresent() const { return !joysticks.empty(); }
-    unsigned short getSensitivity() const {
-        return sensitivity;
-    } ///< smallest deflection that counts
+    /// A deflection beyond it counts, in axis units. Read from the settings once, at the start.
+    unsigned short getSensitivity() const { return sensitivity; }
     unsigned short getPlayer1Sensitivity() const { return sensitivity; }
 
-    /// An index that is not there is reported on standard error, and gives joystick 0.
+    /// An index without a joystick is reported on standard error, and gives joystick 0.
     void changePlayer1ActiveJoystick(unsigned short index);
 
     // Of the active joystick; 0 without one.
@@ -38,7 +38,7 @@ public:
     short get2ndYAxis() const { return getAxis(3); }
 
     unsigned short numJoysticks;                          ///< as SDL counts them
-    std::vector<std::unique_ptr<JoystickInfo>> joysticks; ///< those that opened
+    std::vector<std::unique_ptr<JoystickInfo>> joysticks; ///< the open ones, in SDL's order
     unsigned short activeJoystick = 0;                    ///< index into `joysticks`
     unsigned short sensitivity = 0;
 

@@ -18,7 +18,8 @@ const std::string joystick_prefix = "JOY";
 constexpr unsigned short bound_player = 0;
 constexpr int joystick_buttons = 16;
 
-/// Words of more than one character; the digits, the letters and ";" are their own symbols.
+/// The words of more than one character. A digit, a letter or ";" is a word by itself, with its
+/// character as the symbol.
 const struct {
     const char* word;
     QuorvaKey key;
@@ -34,7 +35,7 @@ const struct {
     {"LMETA", 310},   {"LWINDOWS", 311}, {"RWINDOWS", 312},
 };
 
-/// The key of a one-character word in upper case; unknown_key if it is none.
+/// The key of a word of one character, in upper case.
 QuorvaKey keyFromCharacter(char c) {
     if ((c >= '0' && c <= '9') || c == ';') return static_cast<QuorvaKey>(c);
     if (c >= 'A' && c <= 'Z') return static_cast<QuorvaKey>(c - 'A' + 'a');

@@ -31,17 +31,17 @@ public:
     bool addMappableKey(const std::string& name, QuorvaKey key, QuorvaJKey jsButton,
                         unsigned short player);
 
-    /// @return the action of that name and player; null if there is none
+    /// @return the binding of that action and player; null if there is none
     const InputKey* getButton(const char* name, unsigned short player) const;
     const InputKey* getButton(const std::string& name, unsigned short player) const {
         return getButton(name.c_str(), player);
     }
 
-    /// Rebinds player 0's actions as bind1.conf has it. What is wrong in it is reported on
-    /// standard error, line by line, and passed over.
+    /// Rebinds player 0's actions as bind1.conf says. An unknown action or key is reported on
+    /// standard error, and the rest of the file still counts.
     void readBindFiles();
 
-    std::vector<std::unique_ptr<InputKey>> keys; ///< in order of registration
+    std::vector<std::unique_ptr<InputKey>> keys; ///< in the order of registration
 
 private:
     void readLine(std::string line);
@@ -50,7 +50,7 @@ private:
 
 using KeyMapper = ReturningSingleton<KeyMapperClass>;
 
-/// The key of a word such as "UP" or "a", in any case. An unknown one is reported on standard
+/// The key of a word such as "UP" or "a", in any case. An unknown word is reported on standard
 /// error and gives unknown_key. Deliberate: of the function keys only "F1" is known.
 QuorvaKey keyFromWord(const std::string& word);
 

@@ -2,6 +2,7 @@
 
 #include "Framework/Config.h"
 #include "Framework/MessageHandler.h"
+#include "Framework/Messages.h"
 #include "Framework/input/Joystick.h"
 #include "Framework/input/KeyMapper.h"
 
@@ -9,7 +10,7 @@ namespace quorva::input {
 
 namespace {
 
-constexpr short repeat_delay = 5; // ticks
+constexpr short repeat_delay = 5; // ticks between two steps up or down
 
 void publishMove(bool messages::MenuMove::*flag) {
     messages::MenuMove move;
@@ -24,40 +25,13 @@ void MenuInputHandler::process() {
     if (moveDelay > 0) --moveDelay;
 }
 
-void MenuInputHandler::checkInputs() {
-    while (SDL_PollEvent(&event) != 0) {
-        switch (event.type) {
-        case SDL_KEYDOWN:
-        case SDL_JOYBUTTONDOWN:
-            press();
-            break;
-        case SDL_KEYUP:
-            release();
-            break;
-        case SDL_JOYAXISMOTION:
-            moveAxes();
-            break;
-        case SDL_QUIT:
-            publish(messages::EndGame());
-            return; // the other events stay
-        default:
-            break;
-        }
-    }
-}
-
 bool MenuInputHandler::matches(const char* action) const {
     const InputKey* const mapped = KeyMapper::Instance().getButton(action, 0);
     if (mapped == nullptr) return false;
     if (event.type == SDL_JOYBUTTONDOWN) return event.jbutton.button == mapped->jsButton;
-    // Deliberate: a key's state stands where a button's number would, so that any key press
-    // matches an action bound to the button of that number.
+    // Deliberate: the state of a key, 1 while it is down, is compared like a button's number, so
+    // that any key press matches an action that is bound to button 1.
     return event.key.keysym.sym == mapped->key || event.key.state == mapped->jsButton;
-}
-
-bool MenuInputHandler::isKey(const char* action) const {
-    const InputKey* const mapped = KeyMapper::Instance().getButton(action, 0);
-    return mapped != nullptr && event.key.keysym.sym == mapped->key;
 }
 
 void MenuInputHandler::press() {

@@ -1,22 +1,13 @@
 #pragma once
 
-#include "Framework/Component.h"
-#include "Framework/Messages.h"
-
-#include <SDL.h>
+#include "Framework/input/EventHandler.h"
 
 namespace quorva::input {
 
 /// Turns events into MenuMove while a menu is up.
-class MenuInputHandler : public Component {
+class MenuInputHandler : public EventHandler {
 public:
-    MenuInputHandler() : event() {}
-
-    void update() override { checkInputs(); }
-    void process() override; ///< also lets the joystick's delay run
-
-    /// Takes all waiting events, up to a closed window.
-    void checkInputs();
+    void process() override; ///< also counts the joystick's delay down
 
     // Each publishes a MenuMove with the flag of its name.
     void select();
@@ -29,20 +20,18 @@ public:
     void unmoveRight();
     void unmoveLeft();
 
-    void sendNumber(char c); ///< publishes LiteralCharacter
+    void sendNumber(char c); ///< publishes LiteralCharacter, which nothing receives
 
-    SDL_Event event;
-    int lastYAxis = 0;
-    int lastXAxis = 0;
+    int lastYAxis = 0;   ///< at the last event of an axis; nothing reads it
+    int lastXAxis = 0;   ///< a step left or right takes a new value, or 0 here
     short moveDelay = 0; ///< ticks until the joystick may step up or down again
 
 private:
+    void press() override;
+    void release() override;
+    void moveAxes() override;
     bool matches(const char* action) const;
-    bool isKey(const char* action) const;
-    void press();
     void sendDigit();
-    void release();
-    void moveAxes();
     void stepVertically(int y, int threshold);
     void stepHorizontally(int x, int threshold);
 };

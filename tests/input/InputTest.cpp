@@ -169,6 +169,17 @@ TEST_F(InputTest, AxesCountBeyondTheirThresholdUnalike) {
         << "only keys clear these";
 }
 
+TEST_F(InputTest, AFifthPlayerEndsTheProcess) {
+    InputHandler handler;
+    using H = InputHandler;
+    for (const auto set : {&H::xDown, &H::yDown, &H::xDown2, &H::yDown2})
+        EXPECT_DEATH((handler.*set)(4, 1), "no such player");
+    for (const auto set : {&H::xUp, &H::yUp, &H::xUp2, &H::yUp2})
+        EXPECT_DEATH((handler.*set)(4), "no such player");
+    handler.xDown(3, 32767);
+    EXPECT_EQ(handler.playerInputs[3].move.x, 1.0);
+}
+
 TEST_F(InputTest, MenusMatchByKeyOrButton) {
     MenuInputHandler handler;
     for (const int key : {SDLK_RIGHT, SDLK_LEFT, SDLK_UP, SDLK_DOWN, SDLK_RETURN, SDLK_ESCAPE})
