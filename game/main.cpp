@@ -29,7 +29,10 @@ int main(int argc, char* argv[]) {
     config::Config::Instance().readFile();
     if (SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK) < 0)
         std::cerr << "Can't init the input handler\n"; // what needs it fails later, with a reason
-    if (!readArguments(argc, argv)) return 0;
+    if (!readArguments(argc, argv)) {
+        SDL_Quit(); // else a terminal that SDL took over stays raw
+        return 0;
+    }
     config::Config::Instance().activateConfig();
     GameBase game;
     game.mainLoop();

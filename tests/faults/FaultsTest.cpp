@@ -109,7 +109,8 @@ protected:
     }
 
     /// Runs the game in a child process, as somebody whom file permissions bind.
-    static Outcome play(const std::function<void()>& prepare = {}) {
+    /// @param argument the only one; empty for none
+    static Outcome play(const std::function<void()>& prepare = {}, std::string argument = {}) {
         int ends[2];
         if (pipe(ends) != 0) return {"no pipe", -1};
         const pid_t child = fork();
@@ -123,8 +124,10 @@ protected:
             leaveRoot();
             sdl().onSwap = turnPage;
             char name[] = "kov";
-            char* arguments[] = {name, nullptr};
-            const int code = gameMain(1, arguments);
+            char* arguments[] = {name, argument.data(), nullptr};
+            const int code = gameMain(argument.empty() ? 1 : 2, arguments);
+            if (sdl().quits != 1) std::cerr << "SDL_Quit: " << sdl().quits << '
+';
             std::exit(code == 0 && passes - lastPass > 1 ? stopped_elsewhere : code);
         }
         close(ends[1]);
@@ -324,6 +327,12 @@ TEST_F(Faults, WhatCannotBeWrittenIsPassedOverAndLosesNothing) {
         fs::permissions("s.dat", fs::owner_read | fs::owner_write);
     }
     fs::permissions(".", fs::owner_all);
+}
+
+TEST_F(Faults, WithoutAGameTooTheTerminalIsGivenBack) {
+    const Outcome outcome = play({}, "--nonsense");
+    EXPECT_EQ(outcome.errors, "Usage: kov [OPTION]...\nTry `kov --help` for more information.\n");
+    EXPECT_EQ(outcome.code, stopped_elsewhere) << "in no game";
 }
 
 TEST_F(Faults, AHighScoreFileOfAnyLengthIsRead) {
