@@ -6,7 +6,7 @@
 
 namespace {
 
-// At most about 85 characters a line: that many fit the narrowest field.
+// At most 85 characters a line: about so many fit the narrowest screen.
 const PageLine lines[] = {
     {10.0, "KOV 1.0, a game of lines and traps for one player."},
     {9.0, "Arrow keys move you, W A S D fire up, left, down and right. P pauses and resumes."},

@@ -2,7 +2,7 @@
 
 #include "Framework/Entity.h"
 
-/// The page about the game: still text, which the main menu ends.
+/// The page about the game: still text until the main menu ends it.
 class AboutMenu : public quorva::Entity {
 public:
     AboutMenu();

@@ -4,7 +4,7 @@
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Stuff/GBox.h"
-#include "Framework/Graphics/Stuff/GWord.h"
+#include "Framework/Graphics/Stuff/Words.h"
 #include "Framework/Managers/ColourManager.h"
 #include "Framework/Managers/FontManager.h"
 #include "Framework/Timer.h"
@@ -45,7 +45,6 @@ constexpr double spawn_distance = 5.0;                  // world units outside t
 constexpr double fastest = 10.0;
 constexpr double smallest = 0.45, largest = 2.25;
 
-constexpr double word_depth = 0.1F; // deliberately not the double 0.1
 constexpr double display_height = 14.0, icon_height = 14.25, pause_scale = 1.5;
 
 math::Point dropPoint() {
@@ -74,14 +73,10 @@ GameLevel::GameLevel() : spawnBase(first_spawn_base) {
 
 graphics::GWord* GameLevel::addWord(unsigned short layer, const char* text, double x, double y,
                                     int alignment, double scale) {
-    auto* const word = getGraphics()->createGraphic<graphics::GWord>(layer);
-    word->font = &FontManager::Instance().getV("Menu Font");
-    word->setColour1(&ColourManager::Instance().getV("Score Font"));
-    word->position = math::Point(x, y, word_depth);
-    word->setScale(scale);
-    word->alignment = alignment;
-    word->setWord(text);
-    return word;
+    const graphics::WordStyle style = {&FontManager::Instance().getV("Menu Font"),
+                                       &ColourManager::Instance().getV("Score Font"), scale,
+                                       alignment};
+    return graphics::addWord(*getGraphics(), layer, style, x, y, text);
 }
 
 void GameLevel::createDisplay() {
@@ -96,10 +91,10 @@ void GameLevel::createDisplay() {
 
     const graphics::Colour& colour = ColourManager::Instance().getV("Score Font");
     lineIcon = getGraphics()->createGraphic<PUPLineIcon>(0);
-    lineIcon->position = math::Point(-8.0, icon_height, word_depth);
+    lineIcon->position = math::Point(-8.0, icon_height, graphics::word_depth);
     lineIcon->setColour1(&colour);
     cooldownIcon = getGraphics()->createGraphic<CDLineIcon>(0);
-    cooldownIcon->position = math::Point(-6.0, icon_height, word_depth);
+    cooldownIcon->position = math::Point(-6.0, icon_height, graphics::word_depth);
     cooldownIcon->setColour1(&colour);
 }
 

@@ -2,7 +2,7 @@
 
 #include "Framework/Entity.h"
 
-/// The page of help: still text, which the main menu ends.
+/// The page of help: still text until the main menu ends it.
 class HelpMenu : public quorva::Entity {
 public:
     HelpMenu();

@@ -1,16 +1,15 @@
 #pragma once
 
 #include "Framework/Entity.h"
+#include "Framework/Graphics/Stuff/Words.h"
 
-namespace quorva::graphics {
-class GWord;
-}
-
-/// Adds a word to a page, in its first layer, which becomes one of menu text: colour "Score
-/// Font", left-aligned, without a text yet.
-/// @param fontName resource
+/// Adds a word in the colour "Score Font" to the first layer of a page, which becomes a layer of
+/// menu text.
+/// @param fontName name of the font among the resources
+/// @param text     as for quorva::graphics::addWord
 quorva::graphics::GWord* addPageWord(quorva::Entity& page, const char* fontName, double x, double y,
-                                     double scale);
+                                     double scale, const char* text,
+                                     int alignment = quorva::graphics::ALIGN_LEFT);
 
 /// One line of a page of still text.
 struct PageLine {
@@ -18,5 +17,5 @@ struct PageLine {
     const char* text;
 };
 
-/// Adds the lines in one column at the left of the page, in the font "Message Font".
+/// Adds the lines in one column at the left of the page, in the font "Message Font", small.
 void addPageLines(quorva::Entity& page, const PageLine* first, const PageLine* last);

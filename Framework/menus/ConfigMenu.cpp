@@ -4,6 +4,7 @@
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Stuff/GWord.h"
 #include "Framework/Managers/ColourManager.h"
+#include "Framework/config/Settings.h"
 
 #include <algorithm>
 
@@ -11,7 +12,7 @@ namespace quorva::menus {
 
 namespace {
 
-/// Fixed in the program, not asked of the display. Width, height.
+/// Width, height. Fixed: the display is not asked what it can do.
 const unsigned short resolution_table[][2] = {
     {320, 240},   {640, 480},   {720, 480},   {720, 576},   {800, 600},   {960, 600},
     {1024, 768},  {1088, 612},  {1152, 864},  {1280, 720},  {1280, 768},  {1280, 800},
@@ -22,10 +23,14 @@ const unsigned short resolution_table[][2] = {
 constexpr double name_x = -8.0, value_x = 3.0, heading_x = -10.0, help_x = -18.0;
 constexpr double title_scale = 1.5, heading_scale = 1.25;
 constexpr std::uint16_t repeat_delay = 5; // ticks without a step after the first
-constexpr std::uint16_t full_volume = 100, most_accurate = 1000;
 
-constexpr const char *fullscreen_on = "Fullscreen", *fullscreen_off = "Windowed";
-constexpr const char *save_cpu_on = "Yes", *save_cpu_off = "No";
+const char* fullScreenText(bool on) {
+    return on ? "Fullscreen" : "Windowed";
+}
+
+const char* saveCPUText(bool on) {
+    return on ? "Yes" : "No";
+}
 
 std::string sizeText(unsigned short width, unsigned short height) {
     return std::to_string(width) + " x " + std::to_string(height);
@@ -59,13 +64,13 @@ void ConfigMenu::buildWords() {
         addWord("Configuration", titleColour, 0.0, 13.0, title_scale, graphics::ALIGN_CENTRE);
     videoWord = heading("Video Options", 10.0);
     addSetting("Resolution", 9.0, sizeText(width, height));
-    addSetting("Fullscreen", 8.25, fullScreen ? fullscreen_on : fullscreen_off);
+    addSetting("Fullscreen", 8.25, fullScreenText(fullScreen));
     soundWord = heading("Sound Options", 7.25);
     addSetting("Music Volume", 6.5, std::to_string(musicVolume));
     addSetting("FX Volume", 5.75, std::to_string(fxVolume));
     miscWord = heading("MISC Options", 4.25);
     addSetting("Collision     Accuracy", 3.5, std::to_string(collisionAccuracy));
-    addSetting("Save     CPU", 2.75, saveCPU ? save_cpu_on : save_cpu_off);
+    addSetting("Save     CPU", 2.75, saveCPUText(saveCPU));
     saveWord = addWord("Save", wordOffColour, heading_x, 0.0, heading_scale);
     cancelWord = addWord("Cancel", wordOffColour, heading_x, -1.0, heading_scale);
     helpLine1 = addWord("", wordOffColour, help_x, -4.0);
@@ -98,11 +103,11 @@ void ConfigMenu::update() {
 }
 
 void ConfigMenu::moveSelectorUp() {
-    selection = selection == 0 ? row_cancel : selection - 1;
+    selection = neighbour(selection, row_count, false);
 }
 
 void ConfigMenu::moveSelectorDown() {
-    selection = selection == row_cancel ? 0 : selection + 1;
+    selection = neighbour(selection, row_count, true);
 }
 
 void ConfigMenu::receiveMessage(const messages::MenuMove* m) {
@@ -143,7 +148,7 @@ void ConfigMenu::save() {
     config.setCollisionAccuracy(collisionAccuracy);
     config.setSaveCPU(saveCPU);
     config.activateConfig();
-    config.saveConfig(); // before the video restarts: a fatal failure there loses nothing
+    config.saveConfig(); // before the video restarts, where a failure may end the program
     publish(messages::ResetVideo());
     publish(messages::ResetAudio());
     fitBackground();
@@ -163,48 +168,33 @@ void ConfigMenu::setNewResolutionStuff(unsigned short index) {
 }
 
 void ConfigMenu::stepResolution(bool forward) {
-    // A size that is not in the table steps as if it were the first one.
-    const std::size_t count = resolutions.size();
-    const std::size_t index = getResIndex() + (forward ? 1 : count - 1);
-    setNewResolutionStuff(static_cast<unsigned short>(index % count));
+    // A size that is not in the table steps as if it were the first of it.
+    const auto count = static_cast<std::uint16_t>(resolutions.size());
+    setNewResolutionStuff(neighbour(getResIndex(), count, forward));
 }
 
-void ConfigMenu::moveRight() {
-    if (selection == row_resolution) stepResolution(true);
-    if (selection == row_fullscreen) toggleFullScreen();
-    if (selection == row_save_cpu) toggleSaveCPU();
+void ConfigMenu::change(bool forward) {
+    if (selection == row_resolution) stepResolution(forward);
+    if (selection == row_fullscreen) toggle(fullScreen, fullScreenText);
+    if (selection == row_save_cpu) toggle(saveCPU, saveCPUText);
 }
 
-void ConfigMenu::moveLeft() {
-    if (selection == row_resolution) stepResolution(false);
-    if (selection == row_fullscreen) toggleFullScreen();
-    if (selection == row_save_cpu) toggleSaveCPU();
-}
-
-void ConfigMenu::toggleFullScreen() {
-    toggle(fullScreen, row_fullscreen, fullscreen_on, fullscreen_off);
-}
-
-void ConfigMenu::toggleSaveCPU() {
-    toggle(saveCPU, row_save_cpu, save_cpu_on, save_cpu_off);
-}
-
-void ConfigMenu::toggle(bool& setting, Row row, const char* on, const char* off) {
+void ConfigMenu::toggle(bool& setting, const char* (*text)(bool)) {
     setting = !setting;
-    values[row]->setWord(setting ? on : off);
+    values[selection]->setWord(text(setting));
 }
 
 void ConfigMenu::process() {
     setHelp("", "");
     switch (selection) {
     case row_music_volume:
-        step(musicVolume, 0, full_volume);
+        step(musicVolume, 'h');
         break;
     case row_fx_volume:
-        step(fxVolume, 0, full_volume);
+        step(fxVolume, 'g');
         break;
     case row_accuracy:
-        step(collisionAccuracy, 1, most_accurate);
+        step(collisionAccuracy, 'z');
         setHelp("Sets   how   many   times   the   collision   detector   steps   between   frames",
                 "CPU   intensive!   Default   is   10");
         break;
@@ -219,10 +209,11 @@ void ConfigMenu::process() {
     if (rightHeld) ++rightHeldTicks;
 }
 
-void ConfigMenu::step(std::uint16_t& value, std::uint16_t low, std::uint16_t high) {
+void ConfigMenu::step(std::uint16_t& value, char letter) {
+    const auto& range = config::settingWith(letter).range;
     const auto isDue = [](std::uint16_t ticks) { return ticks == 0 || ticks > repeat_delay; };
-    if (rightHeld && value < high && isDue(rightHeldTicks)) ++value;
-    if (leftHeld && value > low && isDue(leftHeldTicks)) --value;
+    if (rightHeld && value < range.max && isDue(rightHeldTicks)) ++value;
+    if (leftHeld && value > range.min && isDue(leftHeldTicks)) --value;
     values[selection]->setWord(std::to_string(value).c_str());
 }
 

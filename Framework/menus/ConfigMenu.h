@@ -11,7 +11,7 @@
 namespace quorva::menus {
 
 /// The page on which the player changes settings. It works on copies: nothing reaches the
-/// settings before "Save", and leaving by "Cancel" or escape drops all changes.
+/// settings before "Save"; "Cancel" and the escape key drop all changes.
 class ConfigMenu : public Menu, public MessageInterface<messages::MenuMove> {
 public:
     enum Row : std::uint16_t {
@@ -29,7 +29,9 @@ public:
 
     explicit ConfigMenu(Menu* parent);
 
-    void process() override; ///< a held key steps: at once, then from the sixth tick on
+    /// A held key steps at the first tick, not at the next five, and at every tick from the
+    /// seventh on.
+    void process() override;
     void update() override;
     void hide() override {}
     void show(menu_load_mode_e mode) override;
@@ -37,26 +39,27 @@ public:
 
     void moveSelectorUp();   ///< wraps
     void moveSelectorDown(); ///< wraps
-    void moveLeft();         ///< on the rows that change by one step a key press
-    void moveRight();
+    // These act on the rows that change by one step a key press; process steps the others.
+    void moveLeft() { change(false); }
+    void moveRight() { change(true); }
     void checkMenuSelection();
 
-    unsigned short getResIndex() const; ///< of the present size in the table; 0 if not there
-    void setNewResolutionStuff(unsigned short index);
+    unsigned short getResIndex() const; ///< of the chosen size in the table; 0 if it isn't there
+    void setNewResolutionStuff(unsigned short index); ///< chooses that size of the table
 
-    // Hooks that nothing needs yet.
+    // Hooks that nothing calls.
     void updatePage() {}
     void cancelChangingValue() {}
     void startChangingValue() {}
     void changeValueSettingUp() {}
     void changeValueSettingDown() {}
 
-    std::vector<std::pair<unsigned short, unsigned short>> resolutions; ///< height, width
-    const graphics::Colour* selectingColour;                            ///< resource, not used
+    std::vector<std::pair<unsigned short, unsigned short>> resolutions; ///< height, width; pixels
+    const graphics::Colour* selectingColour; ///< a resource that nothing uses
     std::uint16_t selection = row_resolution;
     // The graphics own the words.
     graphics::GWord *titleWord, *videoWord, *soundWord, *miscWord, *saveWord, *cancelWord;
-    bool changing = false;                ///< never set; escape works only while it is false
+    bool changing = false;                ///< nothing sets it; escape works while it is false
     std::vector<graphics::GWord*> names;  ///< by row
     std::vector<graphics::GWord*> values; ///< by row
     graphics::GWord *helpLine1, *helpLine2;
@@ -67,17 +70,16 @@ public:
     std::uint16_t collisionAccuracy;
     bool saveCPU;
     bool rightHeld = false, leftHeld = false;
-    std::uint16_t rightHeldTicks = 0, leftHeldTicks = 0; ///< since the press
+    std::uint16_t rightHeldTicks = 0, leftHeldTicks = 0; ///< ticks since the press
 
 private:
     void buildWords();
     void addSetting(const char* name, double y, const std::string& value);
     void stepResolution(bool forward);
-    void toggle(bool& setting, Row row, const char* on, const char* off);
-    void toggleFullScreen();
-    void toggleSaveCPU();
+    void change(bool forward);
+    void toggle(bool& setting, const char* (*text)(bool));
     void hold(bool pressed, bool& held, bool& otherHeld, void (ConfigMenu::*move)());
-    void step(std::uint16_t& value, std::uint16_t low, std::uint16_t high);
+    void step(std::uint16_t& value, char letter); ///< within the range of that setting
     void setHelp(const char* line1, const char* line2);
     void save();
     void close();

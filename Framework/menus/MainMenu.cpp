@@ -2,7 +2,7 @@
 
 #include "Framework/Engine.h"
 #include "Framework/Graphics/GraphicObject.h"
-#include "Framework/Graphics/Stuff/GWord.h"
+#include "Framework/Graphics/Stuff/Words.h"
 #include "Framework/Managers/ColourManager.h"
 #include "Framework/menus/ConfigMenu.h"
 #include "game/AboutMenu.h"
@@ -37,7 +37,7 @@ MainMenu::MainMenu() : Menu(nullptr) {
     aboutWord = addWord("About", wordOffColour, item_x, -8.0);
     exitWord = addWord("Exit", wordOffColour, item_x, -10.0);
     logo = getGraphics()->createGraphic<Logo>(1);
-    logo->position = math::Point(0.0, logo_y, word_depth);
+    logo->position = math::Point(0.0, logo_y, graphics::word_depth);
     logo->setColour1(&ColourManager::Instance().getV("Logo Colour"));
     taglineWord = addWord("A   game   of   lines   and   traps", wordOffColour, 0.0, 2.0,
                           tagline_scale, graphics::ALIGN_CENTRE);
@@ -78,11 +78,11 @@ void MainMenu::setShapesActive(bool active) {
 }
 
 void MainMenu::moveSelectorUp() {
-    selection = selection == 0 ? itemCount - 1 : selection - 1;
+    selection = neighbour(selection, itemCount, false);
 }
 
 void MainMenu::moveSelectorDown() {
-    selection = selection + 1 == itemCount ? 0 : selection + 1;
+    selection = neighbour(selection, itemCount, true);
 }
 
 bool MainMenu::isPageOpen() const {
@@ -120,7 +120,7 @@ void MainMenu::checkMenuSelection() {
     switch (selection) {
     case item_start:
         publish(messages::LoadLevel());
-        return; // whoever loads it hides the menu
+        return; // the game hides the menu when it has loaded the level
     case item_config:
         subMenu = engine.createEntity<ConfigMenu>("Config Menu", this);
         break;

@@ -13,8 +13,8 @@ class Logo;
 
 namespace quorva::menus {
 
-/// The menu that is there from the start of the program to its end. It starts the game, opens
-/// the other pages and ends the program.
+/// The menu that lives as long as the program. It starts the game, opens the other pages and ends
+/// the program.
 class MainMenu : public Menu, public MessageInterface<messages::MenuMove> {
 public:
     MainMenu();
@@ -22,21 +22,21 @@ public:
     void process() override {}
     void update() override;
     void hide() override;
-    void show(menu_load_mode_e mode) override; ///< with "Start Game" selected
+    void show(menu_load_mode_e mode) override; ///< selects "Start Game"
     void killSubMenu() override;
     void receiveMessage(const messages::MenuMove* m) override;
 
     void moveSelectorUp();   ///< wraps
     void moveSelectorDown(); ///< wraps
     void checkMenuSelection();
-    void showGOScreen(); ///< the verdict on the game that has just ended, over this menu
-    bool isDone() const { return false; }
+    void showGOScreen();                  ///< opens the result of the game that has just ended
+    bool isDone() const { return false; } ///< nothing asks
 
     std::uint16_t selection = 0;
     std::uint16_t itemCount = 5;
     // The graphics own the shapes.
     graphics::GWord *startWord, *configWord, *helpWord, *aboutWord, *exitWord;
-    // Open pages, null when closed. The engine owns them; closing one sets its `dead`.
+    // Pages, null while closed. The engine owns them; closing a page sets its `dead`.
     GameOverScreen* gameOverScreen = nullptr;
     AboutMenu* aboutMenu = nullptr;
     HelpMenu* helpMenu = nullptr;

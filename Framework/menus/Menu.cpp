@@ -3,7 +3,7 @@
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Stuff/GTransparentBox.h"
-#include "Framework/Graphics/Stuff/GWord.h"
+#include "Framework/Graphics/Stuff/Words.h"
 #include "Framework/Managers/ColourManager.h"
 #include "Framework/Managers/FontManager.h"
 
@@ -41,20 +41,19 @@ void Menu::addBackground(const graphics::Colour* colour) {
 
 graphics::GWord* Menu::addWord(const char* text, const graphics::Colour* colour, double x, double y,
                                double scale, int alignment) {
-    auto* const word = getGraphics()->createGraphic<graphics::GWord>(word_index);
+    auto* const word =
+        graphics::addWord(*getGraphics(), word_index, {font, colour, scale, alignment}, x, y, text);
     graphics->things[word_index]->layer = graphics::layer_menu_text;
-    word->font = font;
-    word->setColour1(colour);
-    word->position = math::Point(x, y, word_depth);
-    word->setScale(scale);
-    word->alignment = alignment;
-    word->setWord(text);
     return word;
 }
 
 void Menu::fitBackground() {
     bounds = viewBox();
     background->box = bounds;
+}
+
+std::uint16_t Menu::neighbour(std::uint16_t item, std::uint16_t count, bool forward) {
+    return static_cast<std::uint16_t>((item + (forward ? 1 : count - 1)) % count);
 }
 
 } // namespace quorva::menus
