@@ -14,16 +14,17 @@ public:
     std::string message;
 };
 
-/// The keys and values of the configuration file, as it was when the program started. Loose in
-/// white space; '#' begins a comment line; of a key that stands twice the first counts.
+/// The keys and values of the configuration file, as it was when the program started: lines of
+/// "key = value", with any white space, and comments that begin with '#'. Other lines are ignored.
+/// If a key occurs twice, the first line counts.
 class ConfigFile {
 public:
-    /// Reads the whole file. Throws IPSError if that can't be done.
+    /// Reads the whole file. Throws IPSError if it can't.
     explicit ConfigFile(const std::string& path);
     virtual ~ConfigFile() = default;
 
-    /// Makes the backup file, which stays empty.
-    /// @return false if it, or the file itself, can't be opened
+    /// Creates the backup file, which deliberately stays empty.
+    /// @return false if it, or the configuration file, can't be opened
     virtual bool backup();
 
     const std::map<std::string, std::string>& getKeyVals() const { return keyVals; }

@@ -32,7 +32,7 @@ auto& requireValue(Values& values, const Key& key) {
     return require(values, key, ConfigValueException::invalid_value);
 }
 
-/// The value `forward` or back from the current one, wrapping.
+/// The value behind the current one, or before it, wrapping.
 int neighbour(const ConfigValue<int>& setting, bool forward) {
     const auto& valid = setting.validValues;
     if (valid.empty()) {
@@ -168,7 +168,7 @@ bool ConfigValuesT::setValue(char key, int v) {
         number->set(v);
         return true;
     }
-    const bool on = isLower(key);
+    const bool on = isLower(key); // `v` is not asked
     const char letter = on ? key : otherCase(key, std::tolower);
     require(boolValues, letter, ConfigValueException::no_such_setting).set(on);
     return true;
@@ -180,6 +180,7 @@ bool ConfigValuesT::setValue(const char* key, int v) {
         return true;
     }
     const std::string name(key);
+    // Deliberate: a name that is too short for the prefix counts as a bad value, not as unknown.
     if (name.size() < default_negative_prefix.size()) fail(ConfigValueException::invalid_value);
     const bool on = name.compare(0, default_negative_prefix.size(), default_negative_prefix) != 0;
     const std::string positive = on ? name : name.substr(default_negative_prefix.size());

@@ -7,16 +7,16 @@
 
 namespace quorva::config {
 
-/// One complete table of settings. Where a key may be a letter or a name, lookups go by
-/// `shortName` or `longName`, in definition order. A setting that is not found, and a value that
-/// is refused, throw ConfigValueException.
+/// One complete table of settings. A key is a letter, compared with `shortName`, or a text,
+/// compared with `longName`; the first match in definition order counts. An unknown key and a
+/// refused value throw ConfigValueException.
 ///
-/// Most boolean settings have a negative entry behind them ("No" and the long name, the upper
-/// case of the letter). It is there to be listed and looked up: writing it writes the other.
+/// Most boolean settings are followed by a negative entry: "No" and the long name, the letter in
+/// upper case. It only exists to be listed and found: writing it writes the setting before it.
 class ConfigValuesT {
 public:
     ConfigValuesT();
-    /// A copy's `anonNames` go on pointing into the table that it was copied from.
+    /// Deliberate: the `anonNames` of a copy still point into the table that it was copied from.
     ConfigValuesT(const ConfigValuesT&) = default;
     ConfigValuesT& operator=(const ConfigValuesT&) = default;
     virtual ~ConfigValuesT() = default;
@@ -29,7 +29,8 @@ public:
     QualityE getQualityVal(char key) const;
     QualityE getQualityVal(const std::string& key) const;
 
-    // The value a step further, or back, wrapping at the ends of the range or list.
+    // The next or the previous value, wrapping at the ends of the range or list. Nothing in the
+    // game asks for these.
     int getNextIntVal(char key) const;
     int getNextIntVal(const std::string& key) const;
     int getPrevIntVal(char key) const;
@@ -45,8 +46,8 @@ public:
     QualityE getPrevQualityVal(char key) const;
     QualityE getPrevQualityVal(const std::string& key) const;
 
-    /// Stores `v` in an integer setting. Of a boolean one the key alone chooses the value: a
-    /// lower-case letter or a plain name stores true, an upper-case letter or "No" false.
+    /// Stores `v` in an integer setting. In a boolean setting `v` doesn't matter: a letter in lower
+    /// case or a plain name stores true, a letter in upper case or a name behind "No" false.
     /// @return true; a failure throws
     bool setValue(char key, int v);
     bool setValue(const char* key, int v);
@@ -63,13 +64,13 @@ public:
     ConfigValueAnon& getTypelessValue(char key);
     const std::vector<ConfigValueAnon*>& getAnonNames() const { return anonNames; }
 
-    /// Whether every setting of `other` is here by name, with the same value.
+    /// Whether every setting of `other` is here too, by name, with the same value.
     bool operator==(const ConfigValuesT& other) const;
 
     std::vector<ConfigValue<int>> intValues;
     std::vector<ConfigValue<bool>> boolValues;
     std::vector<ConfigValue<QualityE>> qualityValues; ///< the game defines none
-    std::vector<ConfigValueAnon*> anonNames;          ///< integers, booleans, qualities, as defined
+    std::vector<ConfigValueAnon*> anonNames;          ///< integers, booleans, qualities; not owned
 };
 
 } // namespace quorva::config

@@ -2,6 +2,7 @@
 
 #include "Framework/Config.h"
 
+#include <algorithm>
 #include <iostream>
 
 namespace quorva::input {
@@ -18,7 +19,7 @@ JoystickClass::JoystickClass()
                          SDL_JoystickNumButtons(joystick), joystick}));
     }
     if (numJoysticks == 0) return;
-    changePlayer1ActiveJoystick(0);
+    changePlayer1ActiveJoystick(0); // deliberate: the setting ActiveJoystick is not asked
     sensitivity = config::Config::Instance().getJoystickSensitivity();
 }
 

@@ -60,6 +60,7 @@ void MenuInputHandler::release() {
 }
 
 void MenuInputHandler::moveAxes() {
+    // Unlike the input of the game, which takes the axes whatever the setting says.
     if (!config::Config::Instance().getJoyStickSupport()) return;
     const JoystickClass& joystick = Joystick::Instance();
     const int threshold = joystick.getSensitivity();

@@ -125,7 +125,7 @@ void ConfigMenu::hold(bool pressed, bool& held, bool& otherHeld, void (ConfigMen
     if (!pressed) return;
     (this->*move)();
     otherHeld = false;
-    leftHeldTicks = rightHeldTicks = 0;
+    leftHeldTicks = rightHeldTicks = 0; // a new press waits anew
 }
 
 void ConfigMenu::checkMenuSelection() {

@@ -94,7 +94,7 @@ void MainMenu::receiveMessage(const messages::MenuMove* m) {
     if (!visible) return;
     if (m->up && !isPageOpen()) moveSelectorUp();
     if (m->down && !isPageOpen()) moveSelectorDown();
-    if (m->select && subMenu == nullptr) select();
+    if (m->select && subMenu == nullptr) select(); // chooses what `up` or `down` just moved to
 }
 
 void MainMenu::select() {

@@ -92,30 +92,71 @@ TEST_F(ConfigTest, StepsWrapAtTheEndsOfRangesAndLists) {
     EXPECT_TRUE(table.getNextBoolVal("FullScreen"));
 }
 
-TEST_F(ConfigTest, SettersReportAndFallBackOnTheDefault) {
-    ConfigClass config;
+TEST_F(ConfigTest, EverySettingHasItsSetterAndGetter) {
+    using C = ConfigClass;
+    C config;
     const struct {
-        std::function<void()> act;
-        const char* errors;
-    } cases[] = {
-        {[&] { config.setScreenWidth(100); }, "Invalid ScreenWidth , using default: 800\n"},
-        {[&] { config.setRate(100); }, "Invalid Rate, using default: 41000\n"},
-        {[&] { config.setActiveJoystick(17); }, "Invalid ActiveJoystick, using default: 0\n"},
-        {[&] { config.setScreenWidth(1024); }, ""},
-        {[&] { config.setPlaySound(false); }, ""},
-        {[&] {
-             config.getConfigValues().boolValues.clear();
-             config.setFullScreen(true);
-         },
-         "Couldn't set FullScreen\n"},
+        const char* refusal;
+        unsigned short refused, stored;
+        void (C::*set)(unsigned short);
+        unsigned short (C::*get)() const;
+    } numbers[] = {
+        {"ScreenWidth , using default: 800", 100, 1024, &C::setScreenWidth, &C::getScreenWidth},
+        {"ScreenHeight , using default: 600", 100, 768, &C::setScreenHeight, &C::getScreenHeight},
+        {"ColourDepth, using default: 32", 24, 16, &C::setColourDepth, &C::getColourDepth},
+        {"Rate, using default: 41000", 100, 20500, &C::setRate, &C::getRate},
+        {"Channels, using default: 40", 9, 255, &C::setSoftwareChannels, &C::getSoftwareChannels},
+        {"EffectsVolume , using default: 100", 101, 7, &C::setFXVolume, &C::getFXVolume},
+        {"MusicVolume , using default: 100", 101, 8, &C::setMusicVolume, &C::getMusicVolume},
+        {"ActiveJoystick, using default: 0", 17, 16, &C::setActiveJoystick, &C::getActiveJoystick},
+        {"JoystickSensitivity, using default: 3200", 32769, 32768, &C::setJoystickSensitivity,
+         &C::getJoystickSensitivity},
+        {"CollisionAccuracy , using default: 10", 0, 1000, &C::setCollisionAccuracy,
+         &C::getCollisionAccuracy},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(errorsOf(c.act), c.errors);
-    EXPECT_EQ(config.getScreenWidth(), 800) << "pending until it is activated";
-    EXPECT_FALSE(config.configActivated());
+    for (const auto& n : numbers) {
+        EXPECT_EQ(errorsOf([&] { (config.*n.set)(n.refused); }),
+                  "Invalid " + std::string(n.refusal) + "\n");
+        EXPECT_EQ(errorsOf([&] { (config.*n.set)(n.stored); }), "");
+        EXPECT_FALSE(config.configActivated());
+        EXPECT_NE((config.*n.get)(), n.stored) << "pending until it is activated";
+        config.activateConfig();
+        EXPECT_EQ((config.*n.get)(), n.stored) << n.refusal;
+    }
+    const struct {
+        const char* name;
+        void (C::*set)(bool);
+        bool (C::*get)() const;
+    } flags[] = {{"FullScreen", &C::setFullScreen, &C::getFullScreen},
+                 {"AntiAlias", &C::setAntiAlias, &C::getAntiAlias},
+                 {"Compatibility", &C::setCompatibility, &C::getCompatibility},
+                 {"PlaySound", &C::setPlaySound, &C::getPlaySound},
+                 {"PlayMusic", &C::setPlayMusic, &C::getPlayMusic},
+                 {"UseJoystick", &C::setJoystickSupport, &C::getJoyStickSupport},
+                 {"InvertJoystickAxis", &C::setInvertJoystick, &C::getInvertJoystick},
+                 {"IgnoreTime", &C::setIgnoreTime, &C::getIgnoreTime},
+                 {"SaveCPU", &C::setSaveCPU, &C::getSaveCPU}};
+    for (const auto& f : flags) {
+        for (const bool on : {true, false}) {
+            (config.*f.set)(on);
+            config.activateConfig();
+            const bool stored = on || f.set == &C::setJoystickSupport;
+            EXPECT_EQ((config.*f.get)(), stored) << f.name;
+            EXPECT_EQ(config.getConfigValues().getBoolVal(f.name), stored) << f.name;
+        }
+    }
+}
+
+TEST_F(ConfigTest, ALostSettingFallsBack) {
+    ConfigClass config;
+    ConfigValuesT& table = config.getConfigValues();
+    table.intValues.clear();
+    table.boolValues.clear();
+    EXPECT_EQ(errorsOf([&] { config.setFullScreen(true); }), "Couldn't set FullScreen\n");
     config.activateConfig();
-    EXPECT_EQ(config.getScreenWidth(), 1024);
-    EXPECT_TRUE(config.getPlaySound()) << "a lost setting falls back";
+    EXPECT_TRUE(config.getPlaySound());
+    EXPECT_EQ(config.getScreenWidth(), 800);
+    EXPECT_EQ(config.getColourDepth(), 600) << "its neighbour's";
 }
 
 TEST_F(ConfigTest, ReadsTheFileLoosely) {
