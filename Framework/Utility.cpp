@@ -4,8 +4,6 @@
 #include <boost/locale/utf.hpp>
 
 #include <algorithm>
-#include <cstdlib>
-#include <iostream>
 
 namespace quorva::utility {
 
@@ -55,12 +53,6 @@ std::string printable(const std::string& text) {
         shown += escaped(*first);
     }
     return shown;
-}
-
-void insist(bool holds, const char* fault) {
-    if (holds) return;
-    std::cerr << "Assertion failed: " << fault << '\n';
-    std::abort();
 }
 
 } // namespace quorva::utility

@@ -18,8 +18,4 @@ std::vector<std::string> splitCompressed(const std::string& text, const char* se
 /// text from outside can't steer the terminal that it is shown on.
 std::string printable(const std::string& text);
 
-/// An assertion that a Release build keeps: unless `holds`, it ends the process, with `fault` on
-/// standard error. For our own mistakes that would write past an end.
-void insist(bool holds, const char* fault);
-
 } // namespace quorva::utility

@@ -1,9 +1,11 @@
 #include "Framework/input/InputHandler.h"
 
 #include "Framework/MessageHandler.h"
-#include "Framework/Utility.h"
 #include "Framework/input/Joystick.h"
 #include "Framework/input/KeyMapper.h"
+
+#include <cstdlib>
+#include <iostream>
 
 namespace quorva::input {
 
@@ -118,7 +120,10 @@ void InputHandler::moveAxes() {
 }
 
 messages::PlayerInput& InputHandler::renew(unsigned short player) {
-    utility::insist(player < playerInputs.size(), "no such player");
+    if (player >= playerInputs.size()) {
+        std::cerr << "No such player: " << player << '\n';
+        std::abort(); // a programming fault, also where assertions are left out
+    }
     dirty[player] = true;
     return playerInputs[player];
 }

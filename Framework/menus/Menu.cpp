@@ -13,11 +13,6 @@ namespace {
 
 constexpr unsigned short backdrop_index = 0, word_index = 1;
 
-primitives::Box viewBox() {
-    const auto& camera = graphics::Camera::Instance();
-    return {camera.top, camera.bottom, camera.left, camera.right};
-}
-
 const graphics::Colour* colourNamed(const char* name) {
     return &ColourManager::Instance().getV(name);
 }
@@ -29,7 +24,7 @@ Menu::Menu(Menu* parent_)
       wordOnColour(colourNamed("Main Menu Word On")),
       wordOffColour(colourNamed("Main Menu Word Off")), titleColour(colourNamed("Menu Title")),
       font(&FontManager::Instance().getV("Menu Font")), parent(parent_) {
-    bounds = viewBox();
+    bounds = graphics::Camera::Instance().getViewBox();
 }
 
 void Menu::addBackground(const graphics::Colour* colour) {
@@ -48,7 +43,7 @@ graphics::GWord* Menu::addWord(const char* text, const graphics::Colour* colour,
 }
 
 void Menu::fitBackground() {
-    bounds = viewBox();
+    bounds = graphics::Camera::Instance().getViewBox();
     background->box = bounds;
 }
 

@@ -173,9 +173,9 @@ TEST_F(InputTest, AFifthPlayerEndsTheProcess) {
     InputHandler handler;
     using H = InputHandler;
     for (const auto set : {&H::xDown, &H::yDown, &H::xDown2, &H::yDown2})
-        EXPECT_DEATH((handler.*set)(4, 1), "no such player");
+        EXPECT_DEATH((handler.*set)(4, 1), "No such player: 4");
     for (const auto set : {&H::xUp, &H::yUp, &H::xUp2, &H::yUp2})
-        EXPECT_DEATH((handler.*set)(4), "no such player");
+        EXPECT_DEATH((handler.*set)(4), "No such player: 4");
     handler.xDown(3, 32767);
     EXPECT_EQ(handler.playerInputs[3].move.x, 1.0);
 }
