@@ -107,38 +107,58 @@ const struct Eye {
      {{0.367322, 0.860646, -0.227968},
       {0.280085, 0.672501, 0.047413},
       {-0.011820, 0.042940, 0.968881}}},
+    {"tritanopic",
+     12.0,
+     {{1.255528, -0.076749, -0.178779},
+      {-0.078411, 0.930809, 0.147602},
+      {0.004733, 0.691367, 0.303900}}},
 };
 
+/// @return linear RGB
 Triple seenBy(const Eye& eye, const Triple& rgb) {
     Triple seen = times(eye.matrix, linear(rgb));
     for (double& v : seen)
         v = std::clamp(v, 0.0, 1.0);
-    return lab(seen);
+    return seen;
 }
 
-/// Ratio of luminances as WCAG 2 has it.
-double contrast(const Triple& one, const Triple& two) {
-    const auto luminance = [](const Triple& rgb) {
-        const Triple v = linear(rgb);
+/// Luminance of the first over that of the second, as WCAG 2 has it: below 1 if it is darker.
+double contrast(const Triple& one, const Triple& two, const Eye& eye = eyes[0]) {
+    const auto luminance = [&eye](const Triple& rgb) {
+        const Triple v = seenBy(eye, rgb);
         return 0.2126 * v[0] + 0.7152 * v[1] + 0.0722 * v[2] + 0.05;
     };
-    const auto [darker, lighter] = std::minmax({luminance(one), luminance(two)});
-    return lighter / darker;
+    return luminance(one) / luminance(two);
 }
 
-class Palette : public testing::Test {
+// All of these can be on the field at once, so every two of them meet.
+const char* const roles[] = {
+    "Player Colour", "Badguy Colour",          "Badguy Stuck Colour",     "Line Colour",
+    "Border Colour", "Clear Bomb Line Colour", "Immune Bomb Line Colour", "Square Line Effect",
+    "Score Font",    "PUP Line Colour",        "PUP Cooldown Colour"};
+const char* const* const rays = std::end(roles) - 2; ///< the roles from here throw rays
+
+/// Contrasts as bounds.
+struct File {
+    const char* path;
+    double weakestRole; ///< of any to the field, for every eye, at least
+    double rays;        ///< to the field, at most
+};
+
+class Palette : public testing::TestWithParam<File> {
 protected:
     Palette() {
-        std::ifstream file("data/Colour.kov");
+        std::ifstream file(GetParam().path);
         std::string line, name;
         for (Colour colour; std::getline(file, line);)
             if (quorva::resources::ResourceTraits<Colour>::parseLine(line, name, colour))
                 colours[name] = colour;
     }
     const Colour& colour(const std::string& name) {
-        EXPECT_EQ(colours.count(name), 1U) << name << " is not in data/Colour.kov";
+        EXPECT_EQ(colours.count(name), 1U) << name << " is missing";
         return colours[name];
     }
+    Triple onField(const std::string& name) { return over(colour(name), field); }
 
     const Triple field = {field_grey, field_grey, field_grey};
     std::map<std::string, Colour> colours;
@@ -161,29 +181,45 @@ TEST(ColourDifference, AgreesWithPublishedPairs) {
         EXPECT_NEAR(difference(pair.one, pair.two), pair.difference, 5e-5);
 }
 
-TEST_F(Palette, RolesOnTheFieldDifferForEveryEye) {
-    // All of these can be on the field at once, so every two of them meet.
-    const char* const roles[] = {"Player Colour",
-                                 "Badguy Colour",
-                                 "Badguy Stuck Colour",
-                                 "Line Colour",
-                                 "Border Colour",
-                                 "PUP Line Colour",
-                                 "PUP Cooldown Colour",
-                                 "Clear Bomb Line Colour",
-                                 "Immune Bomb Line Colour",
-                                 "Square Line Effect",
-                                 "Score Font"};
+INSTANTIATE_TEST_SUITE_P(Files, Palette,
+                         testing::Values(File{"data/Colour.kov", 3.5, 2.2},
+                                         File{"data/Colour-contrast.kov", 4.5, 2.6}),
+                         [](const auto& file) { return file.index == 0 ? "Usual" : "Contrast"; });
+
+TEST_P(Palette, RolesOnTheFieldDifferForEveryEye) {
     for (const Eye& eye : eyes)
         for (const auto* one = std::begin(roles); one != std::end(roles); ++one)
             for (const auto* two = std::begin(roles); two != one; ++two)
-                EXPECT_GE(difference(seenBy(eye, over(colour(*one), field)),
-                                     seenBy(eye, over(colour(*two), field))),
-                          eye.least)
+                EXPECT_GE(
+                    difference(lab(seenBy(eye, onField(*one))), lab(seenBy(eye, onField(*two)))),
+                    eye.least)
                     << *one << " and " << *two << " to the " << eye.name << " eye";
 }
 
-TEST_F(Palette, TextIsReadableAndTheSelectionStandsOut) {
+TEST_P(Palette, NothingIsLostOnTheFieldAndFreeTrianglesDrawTheEyeBeforeHeldOnes) {
+    for (const Eye& eye : eyes) {
+        for (const auto* role = std::begin(roles); role != rays; ++role)
+            EXPECT_GE(contrast(onField(*role), field, eye), GetParam().weakestRole)
+                << *role << " to the " << eye.name << " eye";
+        EXPECT_GE(contrast(onField("Badguy Colour"), onField("Badguy Stuck Colour"), eye), 1.5)
+            << "to the " << eye.name << " eye";
+    }
+}
+
+// Where rays cross, the first that is drawn hides the others: so this is a pixel under any number
+// of them. Only the circle that they come from shines through.
+TEST_P(Palette, RaysAreAVeil) {
+    for (const auto* ray = rays; ray != std::end(roles); ++ray) {
+        const Triple veil = onField(*ray);
+        EXPECT_LE(contrast(veil, field), GetParam().rays) << *ray;
+        EXPECT_GE(contrast(over(colour(*ray), veil), veil), 1.55) << "the circle of " << *ray;
+        for (const auto* role = std::begin(roles); role != rays; ++role)
+            EXPECT_GE(contrast(onField(*role), veil), 1.9) << *role << " before " << *ray;
+        EXPECT_GE(contrast(onField("Badguy Colour"), veil), 3.3) << *ray;
+    }
+}
+
+TEST_P(Palette, TextIsReadableAndTheSelectionStandsOut) {
     const struct {
         const char* backdrop; ///< nullptr: the bare field
         std::initializer_list<const char*> texts;
