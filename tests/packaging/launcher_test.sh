@@ -1,18 +1,28 @@
 #!/bin/sh
 # The launcher on a made-up installation whose "game" does what a round may do to the folder.
 # Usage: launcher_test.sh <launcher as configured>
+# shellcheck disable=SC2016 # rounds and doubles are scripts: they expand what they are given
 set -eu
 
+if [ "$(id -u)" -eq 0 ]; then # to root nothing is read-only
+    copies=$(mktemp -d)
+    trap 'rm -rf "$copies"' EXIT
+    cp "$0" "$1" "$copies" && chown -R nobody "$copies"
+    setpriv --reuid=nobody --regid=nogroup --clear-groups sh "$copies/${0##*/}" "$copies/${1##*/}"
+    exit
+fi
+
 root=$(mktemp -d)
-trap 'rm -rf "$root"' EXIT
+trap 'chmod -R u+w "$root"; rm -rf "$root"' EXIT
+cd "$root"
 bin=$root/usr/bin
-from_bin() { sed -n "s|^$1=.*\\\$here/\\(.*\\)\")|\\1|p" "$launcher"; } # what it looks for, seen from itself
 launcher=$1
-share=$root/usr/bin/$(from_bin share)
-programs=$root/usr/bin/$(from_bin programs)
-mkdir -p "$bin" && mkdir -p "$share" "$programs"
-share=$(readlink -f "$share")
+from_bin() { sed -n "s|^$1=.*\\\$here/\\(.*\\)\")|\\1|p" "$launcher"; } # what it looks for, seen from itself
+mkdir -p "$bin" && mkdir -p "$bin/$(from_bin share)" "$bin/$(from_bin programs)"
+share=$(readlink -f "$bin/$(from_bin share)")
+programs=$(readlink -f "$bin/$(from_bin programs)")
 cp "$launcher" "$bin/kov"
+mkdir "$share/docs"
 for folder in data fonts Sounds Songs textures; do
     mkdir "$share/$folder"
     echo shipped >"$share/$folder/one"
@@ -26,75 +36,164 @@ eval "${ROUND:-:}"
 GAME
 chmod +x "$programs/kov"
 
-export DISPLAY=:nowhere XDG_DATA_HOME="$root/home dir" TMPDIR="$root"
+# The machine's tools, but for those that show something; doubles take their places.
+mkdir tools && ln -sf /bin/* /usr/bin/* tools
+rm -f tools/notify-send tools/zenity tools/xmessage tools/xdg-open
+double() { # name, what it does
+    rm -f "tools/$1" && echo "#!/bin/sh
+$2" >"tools/$1" && chmod +x "tools/$1"
+}
+export PATH="$root/tools" DISPLAY=:nowhere XDG_DATA_HOME="$root/home dir" TMPDIR="$root"
 home=$XDG_DATA_HOME/kov
 failures=0
-kov() { "$bin/kov" "$@" >"$root/out" 2>&1; }
+fail() { echo "FAILED: $*" && failures=1; }
+kov() { "$bin/kov" "$@" >"$root/out" 2>&1 </dev/null; }
 expect() { # what, text that the last start must have printed
-    grep -qF -e "$2" "$root/out" && return
-    echo "FAILED: $1: expected '$2' in:" && cat "$root/out"
-    failures=1
+    grep -qF -e "$2" "$root/out" || { fail "$1: expected '$2' in:" && cat "$root/out"; }
 }
+expect_not() { ! grep -qF -e "$2" "$root/out" || { fail "$1: '$2' in:" && cat "$root/out"; }; }
 holds() { # what, file, content
-    [ "$(cat "$2" 2>/dev/null)" = "$3" ] && return
-    echo "FAILED: $1: $2 holds '$(cat "$2" 2>/dev/null)', not '$3'"
-    failures=1
+    [ "$(cat "$2" 2>/dev/null)" = "$3" ] || fail "$1: $2 holds '$(cat "$2" 2>/dev/null)', not '$3'"
+}
+soon() { # what, command that must succeed within five seconds
+    what=$1 tries=0
+    shift
+    while ! "$@" 2>/dev/null; do
+        tries=$((tries + 1))
+        [ $tries -lt 100 ] || { fail "$what" && return 0; }
+        sleep 0.05
+    done
 }
 
 ROUND='echo 1234 >s.dat; echo set >game.conf' kov -f --Rate=41000
 expect "first start" "arguments: -f --Rate=41000; colours: shipped; songs: one ; keys: Up, UP"
 holds "first start" "$home/s.dat" 1234
 holds "help page names it" "$home/manual.html" manual
+[ -d "$home/docs" ] || fail "the manual has no pictures"
 
 # What is the player's own outlives an upgrade; what is shipped follows it.
 echo mine >"$home/Songs/mine.ogg" && rm "$home/Songs/one" "$home/data/one" && echo own >"$home/data/one"
-ln -s /media/stick/away.ogg "$home/Songs/away.ogg"
+ln -s /media/stick/away.ogg "$home/Songs/away.ogg" && ln -sf "$root/mine/kov/Sounds/one" "$home/Sounds/one"
+rm "$home/manual.html" && echo notes >"$home/manual.html"
 echo new >"$share/Songs/two" && rm "$share/fonts/one" && echo "Up, W" >"$share/bind1.conf"
 kov
 expect "upgrade" "colours: own; songs: away.ogg mine.ogg two ; keys: Up, W"
-[ ! -L "$home/fonts/one" ] || { echo "FAILED: a link into nowhere was left" && failures=1; }
+[ ! -L "$home/fonts/one" ] || fail "a link into nowhere was left"
+[ "$(readlink "$home/Sounds/one")" = "$root/mine/kov/Sounds/one" ] || fail "the player's link was replaced"
+holds "a manual of the player's own" "$home/manual.html" notes
 echo "Up, U" >"$home/bind1.conf" && echo "Up, I" >"$share/bind1.conf"
 kov
 expect "changed bindings stay" "keys: Up, U"
+mkdir "$root/a:=b" && cp -r usr "$root/a:=b" && ln -s "$root/a:=b/usr/bin/kov" link
+bin=$root kov -x && fail "no launcher there"
+ROUND="readlink textures/one" kov && "$root/link" -x >out
+expect "through a link, below a colon" "arguments: -x; colours: own"
+[ "$(readlink "$home/textures/one")" = "$root/a:=b/${share#"$root/"}/textures/one" ] || fail "links stayed behind"
+mv "$programs/kov" away
+kov && fail "nothing was started, and that is success"
+expect "damaged" "kov: the installation is damaged"
+mv away "$programs/kov"
 rm -r "$home/Songs" && ln -s "$root" "$home/Songs" && echo new >"$share/Songs/three"
 kov
-[ ! -e "$root/three" ] || { echo "FAILED: songs were linked into the player's own folder" && failures=1; }
+[ ! -e "$root/three" ] || fail "songs were linked into the player's own folder"
+rm "$home/Songs"
 
 # The disk gets full while the game saves, and stays full until the player has made room.
+mv "$home/s.dat" elsewhere && ln -s "$root/elsewhere" "$home/s.dat"
 ROUND=': >s.dat; : >game.conf' kov
 kov
 expect "emptied score" "s.dat was empty"
-holds "emptied score" "$home/s.dat" 1234
+holds "emptied score, a link" elsewhere 1234
 holds "emptied settings" "$home/game.conf" set
+: >elsewhere && : >"$home/.kept/s.dat"
+kov
+expect_not "nothing to bring back" "was empty"
+rm "$home/s.dat" && kov && : >"$home/s.dat" && kov
+expect_not "thrown out, then begun anew" "was empty"
 echo 9999 >"$home/s.dat" && ln -s /dev/full "$home/.kept/s.dat.new"
-ROUND='cat s.dat; echo 5 >s.dat' kov -u
+ROUND='cat s.dat game.conf; echo 5 >s.dat' kov -u
 expect "full disk" "No space left on device). The game starts all the same"
 expect "full disk, the game" "arguments: -u; colours: own"
-expect "full disk, the score is known" 9999
+expect "full disk, the score is known" "9999
+set"
 holds "full disk" "$home/s.dat" 9999
 rm "$home/.kept/s.dat.new" && ln -s /dev/full "$home/.kept/room"
-ROUND='echo 5 >s.dat; kill $PPID' kov || true # ended from outside, too
+ROUND='echo 5 >s.dat; kill $PPID; sleep 1' kov || true # ended from outside, too
 expect "no room to save in" "No space left on device)"
 holds "no room to save in" "$home/s.dat" 9999
+rm "$home/data/one" && echo new >"$share/data/two" && chmod a-w "$home/data"
+ROUND='cat data/two' kov
+expect "a file can't be made" "Permission denied)"
+expect "a file can't be made" "colours: shipped; songs: three ;"
+expect "a file can't be made" new
+chmod u+w "$home/data"
+kov && chmod a-w "$home" "$home/s.dat" && kov
+expect "read-only folder" "$home is read-only"
+expect "read-only score" "$home/s.dat is read-only"
+chmod u+w "$home" "$home/s.dat"
 
-ROUND="echo second: && ROUND='echo 2 >s.dat' '$bin/kov'; kill -9 \$\$" kov || true
-expect "two games" "kov: a game is running already (process"
+ROUND="echo \"is (process \$PPID)\"; ROUND= '$bin/kov'; : >.kept/lock; '$bin/kov'; kill -9 \$\$" kov || true
+expect "two games" "kov: a game is running already $(sed -n 's/^is //p' out). One"
+expect "two games, the first has only begun" "kov: a game is running already. One"
 holds "two games" "$home/s.dat" 9999
 kov
 expect "the lock ends with a killed game" "arguments: ;"
 
-echo file >"$root/file"
+# What the game says comes at once, a repeated line once; it gets the launcher's signals, and the
+# launcher ends as it does.
+ROUND='for i in 1 2 3 4 5; do echo same; done >&2; echo other >&2; echo same >&2; exit 255' kov && fail "no exit code"
+[ "$(sed 1d out | tr '\n' ' ')" = "same other same " ] || { fail "repeated lines:" && cat out; }
+perl -e 'exit(system(@ARGV) & 127)' env ROUND='kill -SEGV $$' "$bin/kov" >out 2>&1 && code=0 || code=$?
+[ "$code" = 11 ] || fail "killed by a signal: $code"
+waits='for s in HUP INT TERM; do trap "echo $s >&2; exit 7" $s; done; echo ready >&2; while :; do sleep 0.05; done'
+for case in "HUP " "INT -" "TERM "; do # Ctrl-C reaches all in front of the terminal
+    for folder in "$home" /proc; do
+        : >out
+        XDG_DATA_HOME=${folder%/kov} ROUND=$waits setsid env --default-signal=INT "$bin/kov" >out 2>&1 </dev/null &
+        soon "not silent until the end" grep -q ready out
+        kill -s "${case% *}" -- "${case#* }$!"
+        wait $! && code=0 || code=$?
+        [ "$code" = 7 ] || fail "signal $case in $folder: exit code $code"
+        expect "signal $case in $folder" "${case% *}"
+    done
+done
+
+echo file >file
 for unusable in "$root/file" /proc; do
     XDG_DATA_HOME=$unusable kov || true
     expect "no folder in $unusable" "kov: can't write to $unusable/kov ("
     expect "no folder in $unusable" "colours: shipped; songs: one three two ; keys: Up, I"
 done
-[ -z "$(find "$root" -mindepth 1 -maxdepth 1 -name 'tmp.*')" ] || { echo "FAILED: scratch left" && failures=1; }
+[ -z "$(find "$root" -mindepth 1 -maxdepth 1 -name 'tmp.*')" ] || fail "scratch left"
 XDG_DATA_HOME=relative HOME="$root/home" kov
-[ -d "$root/home/.local/share/kov" ] || { echo "FAILED: a relative XDG_DATA_HOME counted" && failures=1; }
-DISPLAY='' kov && failures=1
+[ -d home/.local/share/kov ] || fail "a relative XDG_DATA_HOME counted"
+double getent "echo \"\$2:x:1:1::$root/real home:\""
+(unset HOME XDG_DATA_HOME && kov)
+[ -d "real home/.local/share/kov" ] || { fail "HOME unset:" && cat out; }
+DISPLAY='' kov && fail "no display, and that is success"
 expect "no display" "kov: there is no display here"
 DISPLAY='' kov --help
 expect "help needs no display" "arguments: --help"
+DISPLAY='' kov --version
+grep -qxE 'KOV [0-9.]+' out || fail "no version: $(cat out)"
+
+# Started by its icon: each way to tell the player is taken if those before it aren't there.
+for tool in xmessage zenity notify-send; do
+    double $tool "printf '%s ' $tool \"\$@\" >>'$root/shown'"
+    : >shown
+    XDG_DATA_HOME="$root/file" kov
+    soon "shown by $tool" grep -q "^$tool.*can't write to" shown
+done
+double notify-send false # nobody listens
+: >shown
+XDG_DATA_HOME="$root/file" ROUND='exit 3' kov || true
+soon "shown by zenity" grep -q "^zenity.*can't write to.*" shown
+soon "a failed game is shown" grep -q "The game has failed" shown
+: >shown && XDG_DATA_HOME="$root/file" script -qec "$bin/kov" /dev/null >out && sleep 0.2
+expect "in a terminal" "can't write to"
+holds "in a terminal" shown ""
+double xdg-open "echo opened \"\$@\""
+kov --manual
+expect "manual" "opened $share/manual.html"
 
 exit "$failures"
