@@ -76,14 +76,18 @@ void sortInPlace(std::vector<RenderableThing*>& things) {
             std::rotate(std::upper_bound(things.begin(), thing, *thing, less), thing, thing + 1);
 }
 
-void setupWindow() {
-    const char* const title = GameInfo::Instance().title.c_str();
-    SDL_WM_SetCaption(title, title);
+void setIcon() {
     const std::string file = utility::regularOrNone("data/kov.ico");
     // A missing icon is a null surface, which SDL takes.
     SDL_Surface* const icon = SDL_LoadBMP_RW(SDL_RWFromFile(file.c_str(), "rb"), 1);
     SDL_WM_SetIcon(icon, nullptr);
     SDL_FreeSurface(icon);
+}
+
+void setupWindow() {
+    const char* const title = GameInfo::Instance().title.c_str();
+    SDL_WM_SetCaption(title, title);
+    setIcon();
 }
 
 } // namespace
@@ -96,6 +100,9 @@ bool RenderObjectSort::operator()(const RenderableThing* a, const RenderableThin
 Renderer::Renderer(physics::PhysicsProcessor* physics_) : physics(physics_) {
     subscribe<messages::ResetVideo>(this);
     renderables.reserve(usual_renderables);
+    // Some window managers look for the icon only when the window comes up. SDL takes none before
+    // its video has started.
+    if (SDL_WasInit(SDL_INIT_VIDEO) != 0) setIcon();
     setupVideo();
     glewInit();
     setupWindow();

@@ -33,6 +33,9 @@ extern "C" {
 int SDL_Init(Uint32) {
     return 0;
 }
+Uint32 SDL_WasInit(Uint32 flags) {
+    return flags;
+}
 void SDL_Quit() {
     ++sdl().quits;
 }
