@@ -4,6 +4,10 @@
 set -eu
 cd "$(dirname "$0")"
 
+case " $* " in
+*" --version "*) exec sed -n 's/^project(kov VERSION \([0-9.]*\) .*/KOV \1/p' CMakeLists.txt ;;
+esac
+
 if [ ! -x build/release/kov ]; then
     echo "First start: missing Debian packages are installed (as root or through sudo) and the game"
     echo "is built. That takes about three minutes; later starts take a second."

@@ -7,7 +7,7 @@ void introduceGame() {
     quorva::GameInfoClass& info = quorva::GameInfo::Instance();
     info.name = "KOV";
     info.title = "KOV";
-    info.version = "1.0";
+    info.version = KOV_VERSION;
     info.homeDirectory = ".kov";
     info.configFile = STARTING_PATH + "game.conf";
 }

@@ -145,7 +145,7 @@ ln -sf /usr/bin/uniq tools/uniq
 perl -e 'exit(system(@ARGV) & 127)' env ROUND='kill -SEGV $$' "$bin/kov" >out 2>&1 && code=0 || code=$?
 [ "$code" = 11 ] || fail "killed by a signal: $code"
 waits='for s in HUP INT TERM; do trap "echo $s >&2; exit 7" $s; done; echo ready >&2; while :; do sleep 0.05; done'
-for case in "HUP " "INT -" "TERM "; do # Ctrl-C reaches all in front of the terminal
+for case in "HUP -" "INT " "TERM "; do # a closed terminal tells all in front of it
     for folder in "$home" /proc; do
         : >out
         XDG_DATA_HOME=${folder%/kov} ROUND=$waits setsid env --default-signal=INT "$bin/kov" >out 2>&1 </dev/null &
