@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/fmodex/Downmix.h"
+#include "platform/fmodex/SoundFile.h"
 #include "platform/fmodex/fmodex.h"
 
 #include <cstddef>
@@ -12,7 +14,8 @@ struct sf_private_tag;
 
 namespace platform::fmodex {
 
-/// A sound file read piece by piece as 16-bit stereo; a mono file sounds the same on both sides.
+/// A sound file read piece by piece as 16-bit stereo, whatever number of channels it has; a mono
+/// file sounds the same on both sides.
 class Decoder {
 public:
     ~Decoder();
@@ -33,18 +36,20 @@ public:
     unsigned int lengthMs() const;
 
 private:
-    FMOD_RESULT openFile(int descriptor);
-    FMOD_RESULT openMpeg(const std::string& path);
+    FMOD_RESULT openFile();
+    FMOD_RESULT openMpeg();
     std::size_t readFile(std::vector<std::int16_t>& samples, std::size_t frames);
     std::size_t readMpeg(std::vector<std::int16_t>& samples, std::size_t frames);
     void close();
 
+    SoundFile source; ///< what the libraries read
     // libmpg123 for MP3: libsndfile would guess the length of a variable-rate file that doesn't
     // tell it and stop there, and would write about bad files on standard error.
     sf_private_tag* file = nullptr;
     mpg123_handle_struct* mpeg = nullptr;
     bool isMpeg = false;
-    int channelCount = 0; ///< in `file`
+    int channelCount = 0;                    ///< in `file`
+    Downmix downmix{1, Downmix::Order::wav}; ///< of `file`
     int rate = 0;
     std::uint64_t frameCount = 0;
 };

@@ -13,8 +13,10 @@ namespace {
 
 constexpr std::size_t largest_effect = std::size_t{64} << 20; // bytes of samples
 constexpr std::size_t load_piece = 65536;                     // frames
-constexpr int index_bits = 12;                                // of a channel in its handle
-constexpr int loopback_rate = 44100;                          // Hz
+/// A refill ends here, but for the piece that it is at: with that, less than a tick.
+constexpr std::chrono::milliseconds longest_update{20};
+constexpr int index_bits = 12;       // of a channel in its handle
+constexpr int loopback_rate = 44100; // Hz
 
 bool loopback = false;
 
@@ -28,7 +30,7 @@ void submit(ALuint buffer, int sampleRate, const std::vector<std::int16_t>& samp
                  static_cast<ALsizei>(samples.size() * sizeof samples[0]), sampleRate);
 }
 
-/// Keeps what the libraries below say of a missing card off the player's terminal, unless their
+/// Keeps what OpenAL and ALSA write about a missing card off the player's terminal, unless their
 /// log was asked for.
 class Quiet {
 public:
@@ -50,7 +52,7 @@ public:
     Quiet& operator=(const Quiet&) = delete;
 
 private:
-    int errors = -1; ///< where standard error went to
+    int errors = -1; ///< a copy of standard error; -1 if it was left alone
 };
 
 ALCdevice* openDevice() {
@@ -102,10 +104,10 @@ FMOD_RESULT FMOD_SYSTEM::start(int maxChannels) {
     channels.resize(static_cast<std::size_t>(maxChannels));
     device = openDevice();
     if (device == nullptr) return FMOD_OK; // silent
-    // Where no thread is to be had, by who needs it first.
+    // If no thread can be started, the first caller that needs the output opens it.
     opening =
         std::async(std::launch::async | std::launch::deferred, openContext, device, maxChannels);
-    std::atexit(closeOutput); // else the library complains of a device left open
+    std::atexit(closeOutput); // OpenAL complains of a device that is left open
     return FMOD_OK;
 }
 
@@ -119,7 +121,8 @@ void FMOD_SYSTEM::awaitOutput() {
     for (Channel& channel : channels) {
         if (context == nullptr) break;
         alGenSources(1, &channel.source);
-        alSourcei(channel.source, AL_DIRECT_CHANNELS_SOFT, AL_TRUE); // left is left, unmixed
+        alSourcei(channel.source, AL_DIRECT_CHANNELS_SOFT,
+                  AL_TRUE); // left stays left, whatever the speakers
     }
     for (FMOD_SOUND* effect : early)
         submitSamples(*effect);
@@ -131,7 +134,7 @@ void FMOD_SYSTEM::close() {
     alcMakeContextCurrent(nullptr);
     alcDestroyContext(context);
     alcCloseDevice(device);
-    context = nullptr; // what may still come is silent
+    context = nullptr; // later calls are silent
     device = nullptr;
 }
 
@@ -139,7 +142,7 @@ FMOD_RESULT FMOD_SYSTEM::load(const char* path, FMOD_SOUND** result) {
     Decoder decoder;
     const FMOD_RESULT opened = decoder.open(path);
     if (opened != FMOD_OK) return opened;
-    // By pieces: a header that lies about its length must not ask for memory.
+    // In pieces: a length that the header invents must not claim the memory for it.
     std::vector<std::int16_t> samples;
     while (decoder.read(samples, load_piece) == load_piece)
         if (samples.size() * sizeof samples[0] > largest_effect) return FMOD_ERR_MEMORY;
@@ -157,7 +160,7 @@ FMOD_RESULT FMOD_SYSTEM::load(const char* path, FMOD_SOUND** result) {
     return FMOD_OK;
 }
 
-/// Without room for them the effect stays silent.
+/// If OpenAL has no room for the samples, the effect stays silent.
 void FMOD_SYSTEM::submitSamples(FMOD_SOUND& effect) {
     if (!isSilent()) {
         alGenBuffers(1, &effect.buffer);
@@ -188,7 +191,7 @@ FMOD_SYSTEM::Channel* FMOD_SYSTEM::find(FMOD_CHANNEL* handle) {
 
 FMOD_CHANNEL* FMOD_SYSTEM::handleOf(const Channel& channel) const {
     const auto index = static_cast<std::uintptr_t>(&channel - channels.data());
-    // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle, which nobody follows
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle, which is never dereferenced
     return reinterpret_cast<FMOD_CHANNEL*>(std::uintptr_t{channel.generation} << index_bits |
                                            (index + 1));
 }
@@ -261,9 +264,9 @@ void FMOD_SYSTEM::queueNextPiece(Channel& channel) {
     alSourceQueueBuffers(channel.source, 1, &buffer);
 }
 
-void FMOD_SYSTEM::pump(Channel& channel) {
+void FMOD_SYSTEM::refill(Channel& channel, Clock::time_point until) {
     FMOD_SOUND& sound = *channel.sound;
-    // Asked first: a source that stops later is seen to at the next call.
+    // Asked first: a source that stops from here on is started again by the next call.
     ALint state = AL_PLAYING, processed = 0;
     alGetSourcei(channel.source, AL_SOURCE_STATE, &state);
     alGetSourcei(channel.source, AL_BUFFERS_PROCESSED, &processed);
@@ -273,15 +276,19 @@ void FMOD_SYSTEM::pump(Channel& channel) {
         sound.spare.push_back(buffer);
     }
     if (sound.spare.empty() || sound.atEnd) return;
-    queueNextPiece(channel); // one a call: a call stays short
+    do
+        queueNextPiece(channel);
+    while (!sound.spare.empty() && !sound.atEnd && Clock::now() < until);
     // After a stall longer than the queue it goes on where it stood.
     if (state == AL_STOPPED) alSourcePlay(channel.source);
 }
 
 void FMOD_SYSTEM::update() {
     if (opening.valid() || isSilent()) return; // no stream plays before it is open
+    const Clock::time_point until = Clock::now() + longest_update;
     for (Channel& channel : channels)
-        if (channel.sound != nullptr && channel.sound->isStream() && !channel.paused) pump(channel);
+        if (channel.sound != nullptr && channel.sound->isStream() && !channel.paused)
+            refill(channel, until);
 }
 
 FMOD_RESULT FMOD_SYSTEM::setVolume(FMOD_CHANNEL* handle, float volume) {
@@ -300,8 +307,8 @@ FMOD_RESULT FMOD_SYSTEM::setPaused(FMOD_CHANNEL* handle, bool paused) {
         channel->paused = paused;
         return FMOD_OK;
     }
-    // One that a stall has stopped goes on first: only what plays can be halted.
-    if (paused && channel->sound->isStream()) pump(*channel);
+    // A stream that a stall has stopped goes on first: only what plays can be halted.
+    if (paused && channel->sound->isStream()) refill(*channel, Clock::now());
     channel->paused = paused;
     if (paused)
         alSourcePause(channel->source);

@@ -6,6 +6,7 @@
 #include <AL/alc.h>
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <future>
 #include <memory>
@@ -21,7 +22,7 @@ struct FMOD_SOUND {
     std::vector<std::int16_t> samples;                  ///< of an effect, until the output is open
     int sampleRate = 0;                                 ///< Hz, of those
     std::array<ALuint, queue_length> queue{};           ///< of a stream
-    std::vector<ALuint> spare;                          ///< those of `queue` that hold nothing
+    std::vector<ALuint> spare;                          ///< buffers of `queue` that are not queued
     std::vector<std::int16_t> piece;                    ///< scratch of a stream
     unsigned int length = 0;                            ///< ms
     bool atEnd = false;                                 ///< a stream has nothing more to decode
@@ -29,8 +30,8 @@ struct FMOD_SOUND {
     bool isStream() const { return decoder != nullptr; }
 };
 
-/// The channels and the output. Silent, and always successful, without a device. The output opens
-/// in the background, and whatever needs it waits: the library below takes its time for that.
+/// The channels and the output. Without a device everything succeeds in silence. The output opens
+/// in the background, as that takes OpenAL some time; whatever needs it waits.
 struct FMOD_SYSTEM {
     FMOD_RESULT start(int maxChannels);
     FMOD_RESULT load(const char* path, FMOD_SOUND** sound);
@@ -40,13 +41,14 @@ struct FMOD_SYSTEM {
     FMOD_RESULT setPaused(FMOD_CHANNEL* channel, bool paused);
     FMOD_RESULT release(FMOD_SOUND* sound);
     void update();
-    void close();       ///< at process exit: silent from then on
+    void close();       ///< at process exit; later calls are silent
     void awaitOutput(); ///< returns once the output is open, or known to be missing
 
     ALCdevice* device = nullptr;
     ALCcontext* context = nullptr;
 
 private:
+    using Clock = std::chrono::steady_clock;
     struct Channel {
         ALuint source = 0;
         FMOD_SOUND* sound = nullptr; ///< null: free
@@ -65,11 +67,12 @@ private:
     Channel* freeChannel();
     void stop(Channel& channel);
     bool hasEnded(const Channel& channel);
-    void pump(Channel& channel);
+    /// Fills the buffers of a stream that have been played: one at least, more `until` then.
+    void refill(Channel& channel, Clock::time_point until);
     void queueNextPiece(Channel& channel);
 
     std::future<ALCcontext*> opening; ///< valid until somebody has waited for it
-    std::vector<FMOD_SOUND*> early;   ///< effects that were loaded meanwhile; the game's
+    std::vector<FMOD_SOUND*> early;   ///< effects loaded before the output was open, not owned
     std::vector<Channel> channels;
     std::uint64_t starts = 0;
 };

@@ -36,8 +36,9 @@ FMOD_RESULT FMOD_System_Create(FMOD_SYSTEM** system);
 /// `extra` are not used
 FMOD_RESULT FMOD_System_Init(FMOD_SYSTEM* system, int maxChannels, unsigned int flags, void* extra);
 
-/// Loads a file whole, mono or stereo, up to 64 MiB of samples. `mode` and `exInfo` are not used.
-/// FILE_NOTFOUND, FORMAT, FILE_BAD (no sound, or not as much as it says), MEMORY
+/// Loads a file whole, up to 64 MiB of samples; more than two channels are mixed down. `mode` and
+/// `exInfo` are not used. FILE_NOTFOUND (also no regular file), FORMAT, FILE_BAD (no sound, or not
+/// as much as it says), MEMORY
 FMOD_RESULT FMOD_System_CreateSound(FMOD_SYSTEM* system, const char* path, unsigned int mode,
                                     void* exInfo, FMOD_SOUND** sound);
 
@@ -62,9 +63,9 @@ FMOD_RESULT FMOD_Sound_GetLength(FMOD_SOUND* sound, unsigned int* length, unsign
 /// Stops the sound at once, wherever it plays, and frees it: the pointer must not be used again.
 FMOD_RESULT FMOD_Sound_Release(FMOD_SOUND* sound);
 
-/// Decodes the next piece of each stream, an eighth of a second. To be called every frame; a stall
-/// of up to about two seconds is not heard, and after a longer one the stream goes on where it
-/// stood.
+/// Decodes what each stream needs to fill its queue again, but for no longer than about 20 ms in
+/// all. To be called every frame; a stall of up to about two seconds is not heard, and after a
+/// longer one the stream goes on where it stood.
 FMOD_RESULT FMOD_System_Update(FMOD_SYSTEM* system);
 
 /// A short text for codes 0 to 73; "Unknown error." for any other.

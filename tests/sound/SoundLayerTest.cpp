@@ -3,8 +3,10 @@
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 #include <sndfile.h>
+#include <sys/stat.h>
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <fstream>
 #include <limits>
@@ -19,6 +21,7 @@ namespace fs = boost::filesystem;
 constexpr int rate = 44100;
 constexpr double pi = 3.141592653589793;
 constexpr unsigned int sample_mode = 0x4149, stream_mode = 64;
+constexpr int no_updates = 0;
 
 struct Wave {
     double hertz, seconds;
@@ -31,6 +34,21 @@ struct Wave {
 std::string bytesOf(const char* path) {
     std::ifstream file(path, std::ios::binary);
     return std::string(std::istreambuf_iterator<char>(file), {});
+}
+
+void put(const char* path, const std::string& content) {
+    std::ofstream(path, std::ios::binary) << content;
+}
+
+std::string zeros(std::size_t count) {
+    return std::string(count, '\0');
+}
+
+const std::string unknown = "\xff\xff\xff\xff"; // a size that a pipe's writer leaves open
+
+/// A WAV with other sizes of the whole and of its sound.
+std::string resized(std::string file, const std::string& whole, const std::string& sound) {
+    return file.replace(4, 4, whole).replace(40, 4, sound);
 }
 
 /// The left side of a file, -1 to 1.
@@ -99,12 +117,12 @@ protected:
         EXPECT_EQ(FMOD_System_PlaySound(system, -1, sound, 0, &channel), FMOD_OK);
         return channel;
     }
-    /// The left side of what is heard in that time, frame by frame; an update every 10 ms.
-    static std::vector<std::int16_t> hear(double seconds, bool updating = true) {
-        constexpr int step = rate / 100;
-        std::vector<std::int16_t> left, both(step * 2);
+    /// The left side of what is heard in that time, frame by frame.
+    static std::vector<std::int16_t> hear(double seconds, int updatesPerSecond = 100) {
+        const int step = rate / (updatesPerSecond > 0 ? updatesPerSecond : 100);
+        std::vector<std::int16_t> left, both(static_cast<std::size_t>(step) * 2);
         for (int done = 0; done < seconds * rate; done += step) {
-            if (updating) FMOD_System_Update(system);
+            if (updatesPerSecond > 0) FMOD_System_Update(system);
             platform::fmodex::render(system, both.data(), step);
             for (int i = 0; i < step; ++i)
                 left.push_back(both[static_cast<std::size_t>(i) * 2]);
@@ -245,12 +263,12 @@ TEST_F(SoundLayer, SurvivesAStallAndGoesOnWhereItStood) {
     FMOD_SOUND* const song = open("long.wav");
     play(song);
     hear(0.5);
-    const auto stalled = hear(1.0, false);
+    const auto stalled = hear(1.0, no_updates);
     EXPECT_NEAR(levelOf(stalled, 400), 0.25, 0.02) << "half a second of each";
     EXPECT_NEAR(levelOf(stalled, 600), 0.25, 0.02);
     EXPECT_NEAR(levelOf(hear(0.5), 600), 0.5, 0.02);
-    hear(4.0, false); // longer than the queue, which ends at 4 s
-    EXPECT_LT(levelOf(hear(0.1, false), 1000), 0.01);
+    hear(4.0, no_updates); // longer than the queue, which ends at 4 s
+    EXPECT_LT(levelOf(hear(0.1, no_updates), 1000), 0.01);
     const auto after = hear(0.2), later = hear(0.7);
     EXPECT_LT(levelOf(after, 800), 0.02) << "nothing is heard twice";
     EXPECT_GT(levelOf(after, 1200), 0.15);
@@ -258,10 +276,104 @@ TEST_F(SoundLayer, SurvivesAStallAndGoesOnWhereItStood) {
     FMOD_Sound_Release(song);
 }
 
+TEST_F(SoundLayer, HasNoGapAtTwoFramesASecond) {
+    write("slow.wav", wav, {400, 9});
+    FMOD_SOUND* const song = open("slow.wav");
+    play(song);
+    const auto heard = hear(8, 2);
+    for (auto tenth = heard.begin(); tenth < heard.end(); tenth += rate / 10)
+        EXPECT_NEAR(levelOf({tenth, tenth + rate / 10}, 400), 0.5, 0.05)
+            << "at frame " << tenth - heard.begin();
+    FMOD_Sound_Release(song);
+}
+
+TEST_F(SoundLayer, AnUpdateEndsBeforeACostlyQueueIsFull) {
+    write("dear.wav", wav, {0, 0.001, 0, 1024}); // a second is 90 MB, of which none is on the disk
+    put("dear.wav", resized(bytesOf("dear.wav"), unknown, unknown));
+    fs::resize_file("dear.wav", 400'000'000);
+    FMOD_SOUND* const song = open("dear.wav");
+    play(song);
+    hear(1.9, no_updates);
+    FMOD_System_Update(system);
+    EXPECT_GT(song->spare.size(), 0U);
+    EXPECT_LT(song->spare.size(), 15U);
+    FMOD_Sound_Release(song);
+}
+
+TEST(Downmix, KeepsEachSpeakerOnItsSide) {
+    using platform::fmodex::Downmix;
+    const struct {
+        const char* what;
+        int channels;
+        Downmix::Order order;
+        std::size_t speaker;
+        float left, right;
+    } cases[] = {
+        {"mono", 1, Downmix::Order::wav, 0, 1, 1},
+        {"stereo", 2, Downmix::Order::wav, 1, 0, 1},
+        {"right of 5.1", 6, Downmix::Order::wav, 1, 0, 0.3694F}, // 1 / (1 + 0.7071 + 1)
+        {"middle of 5.1", 6, Downmix::Order::wav, 2, 0.2612F, 0.2612F},
+        {"low of 5.1", 6, Downmix::Order::wav, 3, 0, 0},
+        {"middle of 5.1, Vorbis", 6, Downmix::Order::vorbis, 1, 0.2612F, 0.2612F},
+        {"low of 5.1, Vorbis", 6, Downmix::Order::vorbis, 5, 0, 0},
+        {"back left of 7.1", 8, Downmix::Order::wav, 4, 0.2697F, 0}, // 1 / 3.7071
+        {"any of nine", 9, Downmix::Order::vorbis, 8, 1 / 9.0F, 1 / 9.0F},
+    };
+    for (const auto& c : cases) {
+        std::vector<float> frame(static_cast<std::size_t>(c.channels));
+        frame[c.speaker] = 1;
+        const auto mixed = Downmix(c.channels, c.order)(frame.data());
+        EXPECT_NEAR(mixed[0], c.left, 0.0001) << c.what;
+        EXPECT_NEAR(mixed[1], c.right, 0.0001) << c.what;
+    }
+}
+
+TEST_F(SoundLayer, PlaysWhateverAnyPlayerOpens) {
+    write("one.wav", wav, {440, 1});
+    write("one.mp3", mp3, {440, 1, 0.5, 2});
+    write("six.wav", wav, {440, 1, 0.5, 6});
+    write("six.ogg", ogg, {440, 1, 0.5, 6});
+    write("adpcm.wav", SF_FORMAT_WAV | SF_FORMAT_MS_ADPCM, {440, 1, 0.5, 2});
+    write("odd.wav", SF_FORMAT_WAV | SF_FORMAT_PCM_24, {440, 0.9999});
+    const std::string plain = bytesOf("one.wav"), song = bytesOf("one.mp3");
+    const std::string pictures(300'000, '\x5a'); // 0x0493e0, in sevens 0x12 0x27 0x60
+    const std::string id3 = std::string("ID3\3\0\0\0\x12\x27\x60", 10) + pictures;
+    const std::string ape =
+        std::string("APETAGEX\xd0\7\0\0\xe0\x93\4\0", 16) + zeros(16) + pictures;
+    const struct {
+        const char* what;
+        std::string content;
+    } cases[] = {
+        {"zeros in front", zeros(40'000) + song},
+        {"junk in front", std::string(5000, '\x5a') + song},
+        {"ID3 in front", id3 + song},
+        {"APE in front", ape + song},
+        {"both and zeros", ape + id3 + zeros(100) + song},
+        {"ID3 before an Ogg", id3 + bytesOf("six.ogg")},
+        {"six channels", bytesOf("six.wav")},
+        {"sizes of 0", resized(plain, zeros(4), zeros(4))},
+        {"sizes unknown", resized(plain, unknown, unknown)},
+        {"MS-ADPCM, other bytes a second", bytesOf("adpcm.wav").replace(28, 4, "abc", 4)},
+        {"an odd number of bytes", bytesOf("odd.wav")},
+    };
+    for (const auto& c : cases) {
+        put("any", c.content);
+        FMOD_SOUND* const sound = open("any");
+        ASSERT_NE(sound, nullptr) << c.what;
+        unsigned int length = 0;
+        FMOD_Sound_GetLength(sound, &length, 1);
+        EXPECT_NEAR(length, 1000, 60) << c.what;
+        play(sound);
+        hear(0.1);
+        EXPECT_NEAR(levelOf(hear(0.5), 440), 0.5, 0.05) << c.what;
+        FMOD_Sound_Release(sound);
+    }
+}
+
 TEST_F(SoundLayer, TellsTheLengthOfAVariableRateSongThatHidesIt) {
     write("full.mp3", mp3, {5000, 12, 0.9, 2, 37, 0.001}); // the rate falls after two seconds
     const std::string whole = bytesOf("full.mp3");
-    std::ofstream("bare.mp3", std::ios::binary) << whole.substr(whole.find("\xff\xfb", 4));
+    put("bare.mp3", whole.substr(whole.find("\xff\xfb", 4)));
     for (const char* path : {"full.mp3", "bare.mp3"}) {
         FMOD_SOUND* const song = open(path);
         unsigned int length = 0;
@@ -301,8 +413,8 @@ TEST_F(SoundLayer, APauseLosesAndRepeatsNothing) {
 TEST_F(SoundLayer, RefusesBadFilesWithACode) {
     write("good.wav", wav, {440, 0.5});
     const std::string good = bytesOf("good.wav");
-    std::string lying = good;
-    lying.replace(40, 4, "\xff\xff\xff\x7f"); // says two gigabytes
+    write("good.mp3", mp3, {440, 0.5, 0.5, 2});
+    const std::string gigabytes = "\xff\xff\xff\x7f";
     const struct {
         const char* what;
         std::string content;
@@ -315,12 +427,18 @@ TEST_F(SoundLayer, RefusesBadFilesWithACode) {
          FMOD_ERR_FORMAT},
         {"a header alone", good.substr(0, 44), false, FMOD_ERR_FILE_BAD},
         {"cut short", good.substr(0, 5000), false, FMOD_ERR_FILE_BAD},
-        {"lying about its size", lying, false, FMOD_ERR_FILE_BAD},
+        {"lying about its size", resized(good, good.substr(4, 4), gigabytes), false,
+         FMOD_ERR_FILE_BAD},
+        {"lying, and open", resized(good, unknown, gigabytes), false, FMOD_ERR_FILE_BAD},
+        {"open, without sound", resized(good.substr(0, 44), unknown, unknown), false,
+         FMOD_ERR_FILE_BAD},
+        {"a tag longer than the file", "ID3\3" + std::string(5000, '\x5a'), false, FMOD_ERR_FORMAT},
+        {"an MP3 behind too much", zeros(70'000) + bytesOf("good.mp3"), false, FMOD_ERR_FORMAT},
         {"whole", good, true, FMOD_OK},
     };
     testing::internal::CaptureStderr();
     for (const auto& c : cases) {
-        std::ofstream("bad.wav", std::ios::binary) << c.content;
+        put("bad.wav", c.content);
         FMOD_SOUND* sound = nullptr;
         const FMOD_RESULT result =
             FMOD_System_CreateSound(system, "bad.wav", sample_mode, nullptr, &sound);
@@ -332,17 +450,30 @@ TEST_F(SoundLayer, RefusesBadFilesWithACode) {
     for (const int format : {ogg, mp3}) {
         write("song", format, {440, 4, 0.5, 2});
         const std::string song = bytesOf("song");
-        std::ofstream("half", std::ios::binary) << song.substr(0, song.size() / 2);
+        put("half", song.substr(0, song.size() / 2));
         FMOD_SOUND* half = nullptr;
         EXPECT_EQ(FMOD_System_CreateStream(system, "half", stream_mode, nullptr, &half),
                   FMOD_ERR_FILE_BAD)
             << format;
     }
-    fs::create_directory("folder.wav");
-    for (const char* path : {"none.wav", "folder.wav"}) {
+    put("zeros.mp3", "");
+    fs::resize_file("zeros.mp3", 2'000'000'000);
+    fs::create_directory("folder.mp3");
+    mkfifo("pipe.mp3", 0600);
+    const struct {
+        const char* path;
+        FMOD_RESULT code;
+    } paths[] = {{"none.mp3", FMOD_ERR_FILE_NOTFOUND},
+                 {"folder.mp3", FMOD_ERR_FILE_NOTFOUND},
+                 {"pipe.mp3", FMOD_ERR_FILE_NOTFOUND},
+                 {"/dev/zero", FMOD_ERR_FILE_NOTFOUND},
+                 {"zeros.mp3", FMOD_ERR_FORMAT}};
+    const auto start = std::chrono::steady_clock::now();
+    for (const auto& [path, code] : paths) {
         FMOD_SOUND* sound = nullptr;
-        EXPECT_EQ(FMOD_System_CreateStream(system, path, stream_mode, nullptr, &sound),
-                  FMOD_ERR_FILE_NOTFOUND);
+        EXPECT_EQ(FMOD_System_CreateStream(system, path, stream_mode, nullptr, &sound), code)
+            << path;
         EXPECT_EQ(sound, nullptr);
     }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 }
