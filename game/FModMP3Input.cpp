@@ -16,13 +16,15 @@ namespace {
 
 math::MTRand_int32 Rand;
 
-constexpr std::uint16_t no_song = 37626;     // simply no index that occurs
+constexpr std::uint16_t no_song = 37626;     // an index that no song has
 constexpr unsigned int effect_mode = 0x4149; // no loop, 2D, software, loaded whole
 constexpr unsigned int stream_mode = 64;     // software
 constexpr unsigned int length_in_ms = 1;
 constexpr int any_channel = -1;
 constexpr std::size_t ending_length = 4; // ".mp3"
 constexpr float full_volume = 100.0F;
+/// ms. Beyond half the clock's range, an end that has long passed would count as one to come.
+constexpr std::int32_t longest_overdue = 1 << 30;
 
 /// The effects in the order of loading.
 const struct {
@@ -89,7 +91,10 @@ void FModMP3Input::loadSongList() {
     try {
         for (const fs::directory_entry& entry : fs::directory_iterator(mp3_directory)) {
             const std::string name = entry.path().filename().string();
-            if (!fs::is_directory(entry.path()) && isSong(name)) songs.push_back(name);
+            boost::system::error_code ignored; // of a link to itself, say
+            const fs::file_type type = fs::status(entry.path(), ignored).type();
+            const bool isFile = type != fs::directory_file && type != fs::status_error;
+            if (isFile && isSong(name)) songs.push_back(name);
         }
     } catch (...) {
         std::cerr << "Song directory is missing\n"; // the game goes on without music
@@ -125,7 +130,7 @@ void FModMP3Input::playSong(unsigned short id) {
     result = FMOD_System_PlaySound(system, any_channel, song, 0, &musicChannel);
     FMOD_Channel_SetVolume(musicChannel, config.getMusicVolume() / full_volume);
     if (!isKnownToFail) FModSystem::Instance().isFModOk(result);
-    // One that can't be opened leaves the length of the song before: so long is the silence.
+    // If it can't be opened, the previous length stays, and the silence lasts that long.
     FMOD_Sound_GetLength(song, &songLength, length_in_ms);
     songEndTime = SDL_GetTicks() + songLength;
     songPlaying = true;
@@ -138,7 +143,10 @@ void FModMP3Input::stopSong() {
 }
 
 void FModMP3Input::update() {
-    if (songPlaying && SDL_GetTicks() > songEndTime + pausedTime) playSong(getRandomSongID());
+    // By signed difference: the clock may be set back, and wraps after 49.7 days.
+    const auto overdue = static_cast<std::int32_t>(SDL_GetTicks() - (songEndTime + pausedTime));
+    if (overdue > longest_overdue) songEndTime += overdue - longest_overdue;
+    if (songPlaying && overdue > 0) playSong(getRandomSongID());
     FMOD_System_Update(system);
 }
 

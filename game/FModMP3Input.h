@@ -28,7 +28,7 @@ class FModMP3Input : public quorva::Component,
                      public quorva::MessageInterface<SoundPause>,
                      public quorva::MessageInterface<quorva::messages::ResetAudio> {
 public:
-    FModMP3Input(); ///< loads the effects; one that can't be loaded is reported and stays silent
+    FModMP3Input(); ///< an effect that can't be loaded is reported and stays silent
 
     void update() override; ///< every pass: the next song, when one is due
     void process() override {}
@@ -69,7 +69,7 @@ public:
                *hitSound = nullptr, *squareSound = nullptr, *clearSound = nullptr,
                *immuneSound = nullptr, *pupSound = nullptr, *badSound = nullptr,
                *pauseSound = nullptr;
-    /// ms. Before the first song a second, or one that can't be read would be told of at every
+    /// ms. A second before the first song, so that a folder of broken songs is not tried at every
     /// pass.
     std::uint32_t songLength = 1000;
     std::uint32_t songEndTime = 0;  ///< clock at which the song ends, but for pauses
@@ -85,5 +85,5 @@ private:
     void loadEffects();
     void playEffect(FMOD_SOUND* sound);
 
-    std::set<std::string> brokenSongs; ///< paths; their failure is told once
+    std::set<std::string> brokenSongs; ///< paths whose failure has been reported
 };

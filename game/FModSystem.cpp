@@ -11,7 +11,7 @@ constexpr int channel_count = 40;
 FModSystemClass::FModSystemClass() {
     result = FMOD_System_Create(&system);
     isFModOk(result);
-    result = FMOD_System_Init(system, channel_count, 0, nullptr); // not looked at
+    result = FMOD_System_Init(system, channel_count, 0, nullptr); // kept, but not checked
 }
 
 bool FModSystemClass::isFModOk(FMOD_RESULT& value) const {

@@ -48,7 +48,7 @@ bool isUnreadable(const std::string& path) {
     return std::find(list.begin(), list.end(), path) != list.end();
 }
 
-/// Samples are shared by path: the game never gives one back.
+/// Samples are shared by path: the game never releases one.
 FMOD_SOUND* sampleOf(const std::string& path) {
     static auto* const samples = new std::map<std::string, FMOD_SOUND>;
     return &samples->insert({path, FMOD_SOUND{path, false}}).first->second;
@@ -81,7 +81,8 @@ FMOD_RESULT FMOD_System_Create(FMOD_SYSTEM** system) {
     return 0;
 }
 
-FMOD_RESULT FMOD_System_Init(FMOD_SYSTEM*, int, unsigned int, void*) {
+FMOD_RESULT FMOD_System_Init(FMOD_SYSTEM*, int maxChannels, unsigned int flags, void*) {
+    note("init ", maxChannels, " ", flags);
     return 0;
 }
 
@@ -104,10 +105,11 @@ FMOD_RESULT FMOD_System_CreateStream(FMOD_SYSTEM*, const char* path, unsigned in
     return 0;
 }
 
-FMOD_RESULT FMOD_System_PlaySound(FMOD_SYSTEM*, int, FMOD_SOUND* played, int,
+FMOD_RESULT FMOD_System_PlaySound(FMOD_SYSTEM*, int channelIndex, FMOD_SOUND* played, int paused,
                                   FMOD_CHANNEL** channel) {
     if (played == nullptr) return 37;
-    note("play ", played->path);
+    const std::string where = channelIndex == -1 ? "" : " on " + std::to_string(channelIndex);
+    note("play ", played->path, where, paused != 0 ? " paused" : "");
     *channel = channelOf(played->path);
     return 0;
 }
@@ -122,8 +124,8 @@ FMOD_RESULT FMOD_Channel_SetPaused(FMOD_CHANNEL* channel, int paused) {
     return 0;
 }
 
-FMOD_RESULT FMOD_Sound_GetLength(FMOD_SOUND* of, unsigned int* length, unsigned int) {
-    if (of == nullptr) return 37;
+FMOD_RESULT FMOD_Sound_GetLength(FMOD_SOUND* of, unsigned int* length, unsigned int unit) {
+    if (of == nullptr || unit != 1) return 37;
     *length = sound().songLength;
     return 0;
 }
@@ -138,6 +140,7 @@ FMOD_RESULT FMOD_Sound_Release(FMOD_SOUND* released) {
 }
 
 FMOD_RESULT FMOD_System_Update(FMOD_SYSTEM*) {
+    ++sound().updates;
     return 0;
 }
 

@@ -8,13 +8,16 @@
 namespace quorva::standins {
 
 struct SoundRecorder {
-    std::vector<std::string> calls; ///< such as "play Sounds/hit.wav", while recording
+    /// While recording, such as "play Sounds/hit.wav": on any channel and at once, unless more
+    /// follows.
+    std::vector<std::string> calls;
     bool recording = false;
     std::vector<std::string> unreadable; ///< paths that can't be opened: result 23
     unsigned int songLength = 90000;     ///< ms, of every stream
     unsigned int openStreams = 0;
+    unsigned int updates = 0; ///< calls of FMOD_System_Update, which are not written down
 
-    /// What was called since the last time, a call each with "; " behind it.
+    /// The calls since the last `take`, each followed by "; ".
     std::string take();
 };
 

@@ -2,14 +2,17 @@
 
 #include "Framework/Config.h"
 #include "Framework/math/MTRand.h"
+#include "game/FModSystem.h"
 #include "platform/standins/SoundRecorder.h"
 #include "platform/standins/VirtualSDL.h"
 #include "tests/support/Errors.h"
 
+#include <boost/algorithm/string/replace.hpp>
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <functional>
 #include <set>
 
 using namespace quorva;
@@ -18,15 +21,36 @@ using standins::sound;
 
 namespace {
 
+/// In the order of loading.
+const struct {
+    void (*send)();
+    const char* file;
+    const char* failure;
+} effects[] = {
+    {[] { publish(SoundAlive()); }, "Sounds/alive.wav", "Can't read alive sound"},
+    {[] { publish(SoundBullet()); }, "Sounds/bullet.wav", "Can't read bullet sound"},
+    {[] { publish(SoundDeath()); }, "Sounds/death.wav", "Can't read death sound"},
+    {[] { publish(SoundBuletHit()); }, "Sounds/hit.wav", "Can't read hit sound"},
+    {[] { publish(SoundSquare()); }, "Sounds/square.wav", "Can't read square sound"},
+    {[] { publish(SoundClearBomb()); }, "Sounds/Clear.wav", "Can't read clear sound"},
+    {[] { publish(SoundImmuneBomb()); }, "Sounds/Immune.wav", "Can't read immune sound"},
+    {[] { publish(SoundPup()); }, "Sounds/Pup.wav", "Can't read Power up sound"},
+    {[] { publish(SoundBad()); }, "Sounds/Bad.wav", "Can't read Bad sound"},
+    {[] { publish(SoundPause()); }, "Sounds/Pause.wav", "Can't read Bad sound"},
+};
+
 class AudioTest : public testing::Test {
 protected:
     void SetUp() override {
         sdl().ticks = 1000;
-        sound().calls.clear();
+        sound().take();
+        sound().recording = true;
     }
     void TearDown() override {
         sound().recording = false;
         sound().unreadable.clear();
+        settings.setDefaults();
+        settings.activateConfig();
         boost::filesystem::remove_all("Songs");
         boost::filesystem::create_directory("Songs");
     }
@@ -34,14 +58,14 @@ protected:
         for (const char* name : names)
             std::ofstream(std::string("Songs/") + name) << "song";
     }
-    /// What happens from here on is written down.
-    static void listen() {
-        sound().calls.clear();
-        sound().recording = true;
-    }
-    void turn(const char* setting) {
-        settings.getConfigValues().setValue(setting, 0);
+    void set(const char* setting, int value) {
+        settings.getConfigValues().setValue(setting, value);
         settings.activateConfig();
+    }
+    static void pause(bool paused) {
+        PauseGame message;
+        message.paused = paused;
+        publish(message);
     }
 
     config::ConfigClass& settings = config::Config::Instance();
@@ -49,29 +73,53 @@ protected:
 
 } // namespace
 
+TEST_F(AudioTest, LoadsEveryEffectAndReportsEachThatCannotBeRead) {
+    std::string calls = "init 40 0; ", errors;
+    for (const auto& effect : effects) {
+        calls += std::string("load ") + effect.file + " 16713; ";
+        errors += std::string("FMOD error!23recorded failure\n") + effect.failure + "\n";
+    }
+    FModSystem::Instance();
+    sound().take();
+    const FModSystemClass another;
+    FModMP3Input audio;
+    EXPECT_EQ(sound().take(), calls);
+    for (const auto& effect : effects)
+        sound().unreadable.push_back(effect.file);
+    EXPECT_EQ(errorsOf([] { FModMP3Input silent; }), errors);
+}
+
 TEST_F(AudioTest, PlaysAnEffectForEachMessageAndSetsTheVolumeInEveryCase) {
     sound().unreadable = {"Sounds/Pup.wav"};
-    testing::internal::CaptureStderr();
     FModMP3Input audio;
-    testing::internal::GetCapturedStderr();
-    settings.setFXVolume(50);
-    settings.activateConfig();
-    listen();
-    publish(SoundBuletHit());
-    EXPECT_EQ(sound().take(), "play Sounds/hit.wav; volume Sounds/hit.wav 0.5; ");
-    publish(SoundPup()); // missing: the level goes to the effect before
-    EXPECT_EQ(sound().take(), "volume Sounds/hit.wav 0.5; ");
-    turn("NoPlaySound");
-    publish(SoundSquare());
-    EXPECT_EQ(sound().take(), "volume Sounds/hit.wav 0.5; ");
+    set("EffectsVolume", 50);
+    sound().take();
+    std::string last;
+    for (const auto& effect : effects) {
+        const bool isThere = effect.file != sound().unreadable[0];
+        if (isThere) last = effect.file; // else the level goes to the effect before
+        effect.send();
+        EXPECT_EQ(sound().take(),
+                  (isThere ? "play " + last + "; " : "") + "volume " + last + " 0.5; ")
+            << effect.file;
+    }
+    set("NoPlaySound", 0);
+    for (const auto& effect : effects) {
+        effect.send();
+        EXPECT_EQ(sound().take(), "volume " + last + " 0.5; ") << effect.file << ", off";
+    }
 }
 
 TEST_F(AudioTest, ListsSongsByTheirExactEnding) {
     songs({"a.mp3", ".mp3", "b.ogg", "LOUD.MP3", "notes.txt", "mp3", "c.mp3.bak"});
     boost::filesystem::create_directory("Songs/folder.mp3");
-    const FModMP3Input audio;
-    EXPECT_EQ(std::set<std::string>(audio.songs.begin(), audio.songs.end()),
-              (std::set<std::string>{"a.mp3", "b.ogg"}));
+    boost::filesystem::create_symlink("circle.mp3", "Songs/circle.mp3");
+    EXPECT_EQ(errorsOf([] {
+                  const FModMP3Input audio;
+                  EXPECT_EQ(std::set<std::string>(audio.songs.begin(), audio.songs.end()),
+                            (std::set<std::string>{"a.mp3", "b.ogg"}));
+              }),
+              "");
     boost::filesystem::remove_all("Songs");
     EXPECT_EQ(errorsOf([] { FModMP3Input silent; }), "Song directory is missing\n");
 }
@@ -91,77 +139,80 @@ TEST_F(AudioTest, DrawsFromTheSharedStreamOnlyWhereThereIsAChoice) {
     FModMP3Input one;
     EXPECT_EQ(drawsOf(one), 1);
     EXPECT_EQ(one.getRandomSongID(), 0);
-    songs({"b.mp3"});
-    FModMP3Input two;
-    std::string order;
-    for (int i = 0; i < 6; ++i) {
-        two.playSong(two.getRandomSongID());
-        order += std::to_string(two.lastSongID);
-    }
-    EXPECT_TRUE(order == "010101" || order == "101010") << order;
-    two.stopSong();
 }
 
-TEST_F(AudioTest, StartsTheNextSongByTheClockWithPausesTakenOut) {
+TEST_F(AudioTest, PlaysSongsByTheClockWithPausesTakenOut) {
+    constexpr std::uint32_t ten_days = 864'000'000, near_wrap = 4'294'960'000; // ms
     songs({"a.mp3", "b.ogg"});
     FModMP3Input audio;
-    settings.setMusicVolume(25);
-    settings.activateConfig();
-    publish(PlaySong());
-    listen();
-    sdl().ticks += 40000;
-    PauseGame pause;
-    pause.paused = true;
-    publish(pause);
-    sdl().ticks += 10000;
-    publish(PauseGame());
-    EXPECT_EQ(sound().calls.size(), 2U);
-    sdl().ticks += 50000; // the very end is not past it
-    audio.update();
-    EXPECT_EQ(sound().calls.size(), 2U);
-    sound().take();
-    const bool first = audio.lastSongID == 0;
-    ++sdl().ticks;
-    audio.update();
-    const std::string old = "Songs/" + audio.songs[first ? 0 : 1];
-    const std::string next = "Songs/" + audio.songs[first ? 1 : 0];
-    EXPECT_EQ(sound().take(), "release " + old + "; open " + next + " 64; play " + next +
-                                  "; volume " + next + " 0.25; ");
-    EXPECT_EQ(audio.pausedTime, 0U);
-    publish(StopSong());
-    sdl().ticks += 1000000;
-    audio.update();
-    EXPECT_EQ(sound().take(), "release " + next + "; ");
-    EXPECT_EQ(sound().openStreams, 0U);
-}
-
-TEST_F(AudioTest, WaitsForTheSettingWhileMusicIsOff) {
-    songs({"a.mp3"});
-    FModMP3Input audio;
-    turn("NoPlayMusic");
-    listen();
-    publish(PlaySong());
-    for (int pass = 0; pass < 5; ++pass)
+    set("EffectsVolume", 50);
+    set("MusicVolume", 25);
+    const auto start = [] { publish(PlaySong()); };
+    const auto nothing = [] {};
+    const struct {
+        const char* what;
+        std::uint32_t later; ///< ms
+        std::function<void()> act;
+        const char* calls; ///< A is the song that comes first
+    } steps[] = {
+        {"start", 0, start, "open A 64; play A; volume A 0.25; "},
+        {"pause", 40000, [] { pause(true); }, "pause A; "},
+        {"in the pause", 9000, nothing, ""},
+        {"resume", 1000, [] { pause(false); }, "resume A; "},
+        {"the very end is not past it", 50000, nothing, ""},
+        {"end", 1, nothing, "release A; open B 64; play B; volume B 0.25; "},
+        {"the pause counts once", 90000, nothing, ""},
+        {"end again", 1, nothing, "release B; open A 64; play A; volume A 0.25; "},
+        {"level", 0, [&] { set("MusicVolume", 75); }, ""},
+        {"level of the next", 90001, nothing, "release A; open B 64; play B; volume B 0.75; "},
+        {"off", 1, [&] { set("NoPlayMusic", 0); }, ""},
+        {"end while off", 90001, nothing, ""},
+        {"on again", 1, [&] { set("PlayMusic", 0); },
+         "release B; open A 64; play A; volume A 0.75; "},
+        {"clock set back, below its start", 0, [] { sdl().ticks = near_wrap; }, ""},
+        {"start there", 0, start, "release A; open B 64; play B; volume B 0.75; "},
+        {"not anew at each pass", 1, nothing, ""},
+        {"wrapped", 89999, nothing, ""},
+        {"end behind the wrap", 1, nothing, "release B; open A 64; play A; volume A 0.75; "},
+        {"stop", 1, [] { publish(StopSong()); }, "release A; "},
+        {"long after", 1'000'000, nothing, ""},
+        {"start while off", 0, [&] { set("NoPlayMusic", 0), start(); }, ""},
+        {"off for ten days", ten_days, nothing, ""},
+        {"for twenty", ten_days, nothing, ""},
+        {"for thirty", ten_days, nothing, ""},
+        {"on after a month", 0, [&] { set("PlayMusic", 0); }, "open B 64; play B; volume B 0.75; "},
+        {"stop at last", 0, [] { publish(StopSong()); }, "release B; "},
+    };
+    std::string first, second;
+    for (const auto& step : steps) {
+        const unsigned int updates = sound().updates;
+        sdl().ticks += step.later;
+        sound().take();
+        step.act();
         audio.update();
-    EXPECT_EQ(sound().take(), "");
-    turn("PlayMusic");
-    audio.update();
-    EXPECT_EQ(sound().take().substr(0, 20), "open Songs/a.mp3 64;");
-    audio.stopSong();
+        if (first.empty()) {
+            first = "Songs/" + audio.songs[audio.lastSongID];
+            second = "Songs/" + audio.songs[1 - audio.lastSongID];
+        }
+        std::string calls = boost::replace_all_copy(sound().take(), first, "A");
+        EXPECT_EQ(boost::replace_all_copy(calls, second, "B"), step.calls) << step.what;
+        EXPECT_EQ(sound().updates, updates + 1) << step.what;
+    }
+    EXPECT_EQ(sound().openStreams, 0U);
 }
 
 TEST_F(AudioTest, ReportsASongThatIsNotThere) {
     songs({"a.mp3", "b.mp3"});
     FModMP3Input audio;
     const struct {
-        int id;
+        std::int16_t id;
         const char* errors;
     } cases[] = {{1, ""},
                  {2, "Can't play song id: 2. Only 2 songs exist.\n"},
                  {-2, "Can't play song id: -2. Only 2 songs exist.\n"}};
     for (const auto& c : cases) {
         PlaySong message;
-        message.songId = static_cast<std::int16_t>(c.id);
+        message.songId = c.id;
         EXPECT_EQ(errorsOf([&] { publish(message); }), c.errors);
         EXPECT_EQ(audio.lastSongID, 1);
     }
