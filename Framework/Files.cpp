@@ -40,7 +40,7 @@ bool writeAll(int file, const std::string& contents) {
     return true;
 }
 
-/// Gives a new file the owner and the permissions of the one that it is to replace, if any.
+/// Gives a new file the owner and the permissions of the file that it is to replace, if any.
 bool dress(int file, const struct stat* replaced) {
     if (replaced == nullptr) return fchmod(file, newFileMode()) == 0;
     struct stat own {};

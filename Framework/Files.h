@@ -6,7 +6,7 @@
 
 namespace quorva::utility {
 
-/// Bytes. No text file of the game comes near it; one that is larger holds something else.
+/// Bytes. No text file of the game comes near it; a larger file holds something else.
 constexpr std::uintmax_t largest_text_file = 16U << 20U;
 
 /// The path if it leads to a regular file, else the empty path, which no library can open. A pipe

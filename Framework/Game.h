@@ -5,7 +5,7 @@
 namespace quorva {
 
 /// From now on SIGHUP and SIGTERM end the main loop as a closed window does, even if they come
-/// before it has begun. One that the program was started to ignore stays ignored.
+/// before it has begun. A signal that the program was started to ignore stays ignored.
 void endOnSignals();
 
 /// The program itself. An Entity for the sake of `dead`, the main loop's only stop signal: it is

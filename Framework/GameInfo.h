@@ -6,7 +6,7 @@
 
 namespace quorva {
 
-/// Who the program is. Written by `main` alone, before anything else runs.
+/// The identity of the program. Written by introduceGame() alone, before anything else runs.
 class GameInfoClass {
 public:
     std::string name;

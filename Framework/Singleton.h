@@ -10,7 +10,7 @@ template <class T>
 using DefaultSingleton =
     Loki::SingletonHolder<T, Loki::CreateUsingNew, Loki::DefaultLifetime, Loki::SingleThreaded>;
 
-/// The same, but a use after its end brings it back to life, empty.
+/// The same, but a use after its end creates it anew, empty.
 template <class T>
 using ReturningSingleton =
     Loki::SingletonHolder<T, Loki::CreateUsingNew, Loki::PhoenixSingleton, Loki::SingleThreaded>;

@@ -28,7 +28,8 @@ public:
 
     /// A second call before unPauseGame forgets the pause so far: game time then keeps it.
     void pauseGame();
-    void unPauseGame(); ///< also without a pause: `correction` then takes a meaningless sum
+    void
+    unPauseGame(); ///< safe when not paused, but adds the time since the last pause to `correction`
 
     bool paused = false;          ///< no tick runs while this is set
     std::uint32_t pauseStart = 0; ///< clock at the last pauseGame

@@ -24,18 +24,18 @@ namespace {
 
 constexpr int direction_keys[] = {SDLK_RIGHT, SDLK_LEFT, SDLK_UP, SDLK_DOWN};
 
-constexpr double edge_margin = 1.0; // kept from the edges of the field, world units
-constexpr double arrival = 0.3;     // this near is there, world units
-constexpr double walk_beside = 0.8; // from the fence, on the way along it
+constexpr double edge_margin = 1.0; // distance kept from the edges of the field, world units
+constexpr double arrival = 0.3;     // closer than this counts as arrived, world units
+constexpr double walk_beside = 0.8; // distance from the fence on the way along it
 constexpr double smallest_half = 3.0, largest_half = 6.0; // of a rectangle
-constexpr double look_ahead = 1.5;                        // what a move is judged by, world units
-constexpr double fear_distance = 5.0;                     // of a triangle
-constexpr double fear = 12.0;                             // weight against the way to go
-constexpr unsigned int plan_patience = 200;               // ticks
-constexpr unsigned int defence_chance = 12;               // one tick in so many, if there is reason
-constexpr unsigned int pause_chance = 1000;               // one tick in so many
-constexpr unsigned int leave_chance = 10000;              // the same, for giving a game up
-constexpr unsigned int page_chance = 2;                   // one visit to the menu in so many
+constexpr double look_ahead = 1.5;    // a move is judged by the place this far ahead, world units
+constexpr double fear_distance = 5.0; // of a triangle
+constexpr double fear = 12.0;         // weight of flight against the planned way
+constexpr unsigned int plan_patience = 200;  // ticks
+constexpr unsigned int defence_chance = 12;  // one tick in this many, while a triangle is near
+constexpr unsigned int pause_chance = 1000;  // one tick in this many
+constexpr unsigned int leave_chance = 10000; // likewise, for leaving a game
+constexpr unsigned int page_chance = 2;      // one visit to the menu in this many
 
 // Items of the main menu, from the top.
 constexpr unsigned int start_game = 0, first_page = 1, page_count = 3, undecided = 99;
@@ -55,7 +55,7 @@ Point onField(Point p) {
     return p;
 }
 
-/// The middle of a triangle's outline: its place is that of the base.
+/// The middle of a triangle's outline; its position is that of the base.
 Point middleOf(const Entity* triangle) {
     Point middle = placeOf(triangle);
     for (const Point& corner : triangle->physics->vertices) {
@@ -117,7 +117,7 @@ void Bot::playMenu() {
     if (wasInLevel) {
         releaseAll();
         plan.active = false;
-        wait = 2 + draw(6); // it takes a look at the menu
+        wait = 2 + draw(6); // as if it looked at the menu
     }
     if (menu == nullptr) return; // the program is about to end
     if (wait > 0) {
@@ -182,7 +182,7 @@ void Bot::playLevel() {
         steerTo(math::zero_point);
 }
 
-/// The keys of the last game may have been let go in the menu, which the game hasn't seen.
+/// Keys of the last game may have been released in the menu, unseen by the game.
 void Bot::syncDirections() {
     for (const int key : direction_keys)
         press(key);

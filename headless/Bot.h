@@ -19,8 +19,8 @@ class MainMenu;
 
 namespace quorva::headless {
 
-/// Plays the game by key events, for ever, as a person at the screen would: starts a game, fences
-/// triangles in between two corners, picks up what lies about, keeps away from what hunts it,
+/// Plays the game by key events, for ever, as a person at the screen would: starts a game, closes
+/// rectangles around triangles from two corners, collects power-ups, keeps away from triangles,
 /// dies, reads the verdict and starts again. The same seed and game give the same keys.
 class Bot {
 public:
@@ -41,7 +41,7 @@ private:
         bool active = false;
         unsigned long target = 0; ///< the triangle's id
         math::Point first, second;
-        std::vector<math::Point> way; ///< still to go, next one last
+        std::vector<math::Point> way; ///< points still to pass, the next at the back
         bool firstFired = false;
         unsigned int age = 0; ///< ticks
     };
@@ -64,7 +64,7 @@ private:
     double danger(const math::Point& place) const;
     const Entity* nearestPowerUp() const;
 
-    void hold(int symbol, bool down); ///< no event if it is so already
+    void hold(int symbol, bool down); ///< no event if nothing changes
     void releaseAll();
     void press(int symbol);
     void send(int symbol, bool down);
@@ -79,7 +79,7 @@ private:
     bool wasInLevel = false;
     bool wasLyingDead = false;
 
-    // What it sees in this pass.
+    // The state of the game in this pass.
     menus::MainMenu* menu = nullptr;
     GameLevel* level = nullptr; ///< null in the menus
     PlayerCharacter* player = nullptr;

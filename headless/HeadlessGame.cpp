@@ -20,7 +20,7 @@ namespace quorva::headless {
 
 namespace {
 
-/// What a process has at its start, and a second run in it has not any more.
+/// Resets static state to that of a fresh process.
 void forgetLastRun() {
     Triangle::seeded = SquareIndicator::seeded = BombIndicator::seeded = false;
     PowerUpLines::pupzindex = 0.0;

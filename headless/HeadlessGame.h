@@ -12,7 +12,7 @@ class EngineClass;
 namespace quorva::headless {
 
 /// The real game on virtual time, without window, wall clock or sound card. One at a time; the
-/// program must link the stand-ins of this folder.
+/// program must link platform/standins, the input at least.
 class HeadlessGame {
 public:
     /// Starts a run as a fresh process would: clock at `startTicks` ms, an unseeded random
@@ -20,7 +20,7 @@ public:
     /// @param width, height of the screen, in pixels; 0 for the default setting
     explicit HeadlessGame(std::uint32_t startTicks = 0, unsigned short width = 0,
                           unsigned short height = 0);
-    ~HeadlessGame(); ///< every entity has gone afterwards
+    ~HeadlessGame(); ///< deletes every entity
     HeadlessGame(const HeadlessGame&) = delete;
     HeadlessGame& operator=(const HeadlessGame&) = delete;
 
@@ -39,8 +39,8 @@ public:
     GameBase& game() { return *base; }
     const GameBase& game() const { return *base; }
 
-    /// Hash of all that play depends on: positions, lines, score, lives, random state. What it
-    /// is made of: stateParts().
+    /// Hash of all that play depends on: positions, lines, score, lives, random state. See
+    /// stateParts() for the whole list.
     std::uint32_t stateHash() const;
 
 private:

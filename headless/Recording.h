@@ -14,9 +14,9 @@ struct KeyEvent {
     bool down;
 };
 
-/// A game as it was played: the keys, and what came of them at every tick. On disk it is two
+/// A game as it was played: the keys, and the state that followed at every tick. On disk it is two
 /// files: `.keys`, text, and `.hashes`, binary, a byte for each part of the state so that a
-/// failing replay can name the one that differs.
+/// failing replay can name the part that differs.
 class Recording {
 public:
     std::uint32_t startTicks = 0; ///< ms, the clock at the start of the program

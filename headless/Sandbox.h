@@ -6,8 +6,8 @@
 
 namespace quorva::headless {
 
-/// A folder to play in, made and entered: the game's read-only data linked in, no songs, no
-/// settings, no high score. So no run writes into the tree or reads what another has left.
+/// A folder to play in, created and entered: the game's read-only data linked in, no songs, no
+/// settings, no high score. Thus no run writes into the tree or reads what another has left.
 class Sandbox {
 public:
     /// @param source the folder of the game's data

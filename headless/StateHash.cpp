@@ -60,7 +60,7 @@ private:
         else
             mix(static_cast<std::uint64_t>(value));
     }
-    /// What no comparison can tell apart goes in alike: zeros of both signs, any not-a-number.
+    /// Values that no comparison can tell apart hash alike: zeros of both signs, any not-a-number.
     void addNumber(double value) {
         if (std::isnan(value)) value = std::numeric_limits<double>::infinity();
         value += 0.0;
@@ -148,7 +148,7 @@ std::pair<const std::type_index, AddState> row() {
     return {typeid(T), [](Mixer& m, const Entity& e) { addState(m, static_cast<const As&>(e)); }};
 }
 
-/// What there is beside the body; the classes that are not here have nothing more.
+/// The state beside the body; classes that are missing here have none.
 void addOwnState(Mixer& m, const Entity& entity) {
     static const std::unordered_map<std::type_index, AddState> rows = {
         row<PlayerCharacter>(),

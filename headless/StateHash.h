@@ -12,14 +12,14 @@ namespace quorva::headless {
 /// every build.
 struct StatePart {
     const char* kind; ///< "score", or the implementation's name of an entity's class
-    unsigned long id; ///< the engine's; 0 for what is no entity
+    unsigned long id; ///< the engine's; 0 if it isn't an entity
     std::uint32_t hash;
 };
 
 /// Score and lives, random stream, clock, lines, then every entity by rising id.
 std::vector<StatePart> stateParts(const GameBase& game);
 
-/// All parts in one.
+/// One hash of all parts.
 std::uint32_t combined(const std::vector<StatePart>& parts);
 
 /// The part's name for a reader, such as "Triangle 57", with its place if it has one.

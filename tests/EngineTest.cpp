@@ -203,7 +203,7 @@ TEST(MessageBus, TakesMoreSubscribersDuringADeliveryThanItHasRoomFor) {
     bus.subscribe(&second);
     bus.publish(nullptr);
     EXPECT_EQ(second.received, 1);
-    EXPECT_EQ(crowd.front()->received, 0) << "one that came during the delivery";
+    EXPECT_EQ(crowd.front()->received, 0) << "a subscriber that came during the delivery";
 }
 
 TEST(MessageBus, ForgetsASubscriberThatEnds) {

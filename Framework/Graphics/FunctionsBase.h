@@ -26,8 +26,8 @@ enum BlendModeEnum : int { BLEND_STANDARD = 0 };
 /// How geometry goes to GL. There is one way; both values select it.
 enum RenderMode : int { RENDER_IMMEDIATE = 0, RENDER_OTHER = 1 };
 
-/// A way of sending geometry and state to GL: what the functions of `draw` forward to, one each,
-/// and where their meaning is told. Lengths in world units.
+/// A way of sending geometry and state to GL. Each function of `draw` forwards to the operation of
+/// its name, and explains it. Lengths in world units.
 class FunctionsBase {
 public:
     virtual ~FunctionsBase() = default;

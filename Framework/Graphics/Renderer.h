@@ -29,7 +29,7 @@ public:
     void update() override;    ///< one frame, paused or not
     void process() override {} ///< nothing is drawn at a tick
     /// Takes its layers that are active just now. A layer that is made or activated later is
-    /// never drawn; one that is deactivated later is hidden.
+    /// never drawn; a layer that is deactivated later is hidden.
     void addEntity(Entity* entity) override;
     void removeEntity(Entity* entity) override; ///< before it is deleted: the engine sees to it
     void removeAllEntities() override;

@@ -4,7 +4,7 @@
 
 namespace quorva::resources {
 
-/// What all resource managers can be asked without knowing their type.
+/// The operations that all resource managers share, whatever their type.
 class ResourceManagerInterface {
 public:
     virtual ~ResourceManagerInterface() = default;

@@ -6,7 +6,7 @@
 
 namespace quorva::resources {
 
-/// A texture as a line of a resource file asks for it.
+/// A texture as a line of a resource file names it.
 struct TextureObject {
     std::string file;      ///< as the line has it, in the texture folder
     unsigned int name = 0; ///< of OpenGL

@@ -18,7 +18,7 @@ namespace {
 constexpr const char* path = "textures/image.tga";
 using Bytes = std::vector<int>;
 
-/// A header with the fields that matter here; 2 by 2 pixels unless told otherwise.
+/// A header with the fields that matter here; 2 by 2 pixels unless set otherwise.
 struct Header {
     int type = 2, bits = 24, width = 2, height = 2, descriptor = 0x20;
     int idLength = 0, mapType = 0, mapFirst = 0, mapLength = 0, mapBits = 0, x = 0, y = 0;
