@@ -126,9 +126,8 @@ protected:
             char name[] = "kov";
             char* arguments[] = {name, argument.data(), nullptr};
             const int code = gameMain(argument.empty() ? 1 : 2, arguments);
-            if (sdl().quits != 1)
-                std::cerr << "SDL_Quit: " << sdl().quits << '
-'; std::exit(code == 0 && passes - lastPass > 1 ? stopped_elsewhere : code);
+            if (sdl().quits != 1) std::cerr << "SDL_Quit: " << sdl().quits << '\n';
+            std::exit(code == 0 && passes - lastPass > 1 ? stopped_elsewhere : code);
         }
         close(ends[1]);
         Outcome outcome;
