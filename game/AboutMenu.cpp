@@ -17,7 +17,7 @@ const PageLine lines[] = {
     {4.0, "Small rectangles pay far more than large ones, and two triangles pay double."},
     {3.0, "A triangle that touches you costs a life. The edge glows where one will come in."},
     {2.0, "Green rays make your lines last longer, violet rays make your guns recover faster."},
-    {1.0, "Bombs pulse, then go: orange bursts every triangle, but for no points;"},
+    {1.0, "Bombs pulse, then go: pale orange bursts every triangle, but for no points;"},
     {0.0, "blue keeps you safe for three seconds."},
     {-2.0, "Escape ends a game at once, and its score isn't kept. Lose your last life instead,"},
     {-3.0, "and a new high score is saved."},
