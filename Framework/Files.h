@@ -18,8 +18,10 @@ std::string regularOrNone(const std::string& path);
 std::ifstream openForReading(const std::string& path, std::uintmax_t largest = UINTMAX_MAX);
 
 /// Replaces the file's contents, creating it if necessary; its owner and its permissions stay.
-/// If that fails, or the process is killed meanwhile, the file holds what it held. Only a regular
-/// file is written; a link is followed.
+/// If that fails, the file holds what it held. If the process is killed meanwhile, it holds the old
+/// contents or the new ones, behind which the end of a longer old file may stand where it has to be
+/// written in place: a link, a hard link, a full disk or a folder that can't be written. Only a
+/// regular file is written; a link is followed.
 /// @return whether the file holds `contents` now
 bool replaceContents(const std::string& path, const std::string& contents);
 
