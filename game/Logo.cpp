@@ -9,40 +9,21 @@ namespace {
 
 constexpr float line_width = 10.0F; // pixels, whatever the screen
 
-/// Ends of the straight strokes, in pairs. Strokes end bluntly, so those of a joint run on a
-/// little, which closes its notch at every size of screen.
-constexpr double strokes[][2] = {
-    // K: its back, and the two arms from the tip of the arrows
-    {-7.5, 3.0},
-    {-7.5, -3.0},
-    {-3.05, 3.0},
-    {-5.05, -0.08},
-    {-3.05, -3.0},
-    {-5.05, 0.08},
-    // O: with cut corners, like the letters of the fonts
-    {-1.73, 3.0},
-    {-0.52, 3.0},
-    {-0.6, 3.0},
-    {0.2, 2.2},
-    {0.2, 2.28},
-    {0.2, -2.28},
-    {0.2, -2.2},
-    {-0.6, -3.0},
-    {-0.52, -3.0},
-    {-1.73, -3.0},
-    {-1.65, -3.0},
-    {-2.45, -2.2},
-    {-2.45, -2.28},
-    {-2.45, 2.28},
-    {-2.45, 2.2},
-    {-1.65, 3.0},
-    // V: its left arm touches the ring from outside and the right one ends on it, so that the
-    // ring hangs in the letter instead of crossing it out
-    {0.82, 3.0},
-    {2.79, -3.0},
-    {2.67, -3.0},
-    {4.65, 3.0},
-};
+using Corner = double[2];
+
+// Middles of the straight strokes.
+constexpr Corner k_back[] = {{-7.5, 3.0}, {-7.5, -3.0}};
+constexpr Corner k_arms[] = {{-3.35, 3.0}, {-4.95, 0.0}, {-3.35, -3.0}};
+constexpr Corner o_corners[] = {{-1.65, 2.87}, {0.15, 2.87},   {0.95, 2.07},   {0.95, -2.07},
+                                {0.15, -2.87}, {-1.65, -2.87}, {-2.45, -2.07}, {-2.45, 2.07}};
+// The V stands in the ring as on a coin. Two of its corners are on the ring, which covers their
+// ends, and the third on the ring's axis.
+constexpr Corner v_arms[] = {{2.42, 2.3}, {3.535, -2.075}, {4.65, 2.3}};
+
+// Strokes end bluntly. Where two meet, short ones at angles between theirs round the corner off:
+// they are as wide as the strokes on every screen.
+constexpr int join_steps = 5;
+constexpr double half_join = 0.04;
 
 constexpr unsigned int circle_points = 40;
 constexpr double circle_x = 4.5, circle_y = 0.5, circle_radius = 2.75;
@@ -57,10 +38,39 @@ constexpr double arrows[][4][2] = {
     {{-7.6, -0.3}, {-7.6, -0.6}, {-7.1, 0.0}, {-7.5, 0.0}},
 };
 
+void drawStroke(const Corner& from, const Corner& to) {
+    draw::vertex2D(from[0], from[1]);
+    draw::vertex2D(to[0], to[1]);
+}
+
+void drawJoin(const Corner& before, const Corner& corner, const Corner& after) {
+    const double arrives = std::atan2(corner[1] - before[1], corner[0] - before[0]);
+    const double turn = std::remainder(
+        std::atan2(after[1] - corner[1], after[0] - corner[0]) - arrives, 2.0 * math::pi);
+    for (int step = 1; step < join_steps; ++step) {
+        const double angle = arrives + turn * step / join_steps;
+        const double dx = half_join * std::cos(angle), dy = half_join * std::sin(angle);
+        drawStroke({corner[0] - dx, corner[1] - dy}, {corner[0] + dx, corner[1] + dy});
+    }
+}
+
+template <std::size_t count>
+void drawLetter(const Corner (&corners)[count], bool closed = false) {
+    for (std::size_t i = 0; i < count; ++i) {
+        const Corner& before = corners[(i + count - 1) % count];
+        const Corner& after = corners[(i + 1) % count];
+        const bool ends = !closed && i + 1 == count;
+        if (!ends) drawStroke(corners[i], after);
+        if (closed || (i > 0 && !ends)) drawJoin(before, corners[i], after);
+    }
+}
+
 void drawStrokes() {
     draw::begin(SHAPE_LINES);
-    for (const auto& end : strokes)
-        draw::vertex2D(end[0], end[1]);
+    drawLetter(k_back);
+    drawLetter(k_arms);
+    drawLetter(o_corners, true);
+    drawLetter(v_arms);
     draw::end();
 }
 

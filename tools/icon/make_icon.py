@@ -14,15 +14,16 @@ WINDOW_SIZE = 32  # pixels
 DESKTOP_SIZES = [16, 22, 24, 32, 48, 64, 128, 256]  # pixels
 
 # World units of the logo.
-CENTRE = (-5.28, 0.0)
+CENTRE = (-5.45, 0.0)
 REACH = 3.95  # from the centre to the icon's edge
 CORNER = 1.3  # radius of the plate's corners
 HALF_STROKE = 0.46  # heavier than the logo's, so that it holds at 16 pixels
 ARROW_INSET = 0.25
+BLUNT_FROM = 64  # pixels: smaller icons have round ends, which hold their shape there
 
 PLATE = (18, 20, 24)
 LINE = (26, 237, 255)  # "Line Colour"
-PREY = (255, 61, 34)  # "Badguy Colour"
+PREY = (254, 134, 76)  # "Badguy Colour"
 
 PAIR = re.compile(r"\{(-?[\d.]+), (-?[\d.]+)\}")
 
@@ -31,12 +32,16 @@ def read_logo(root):
     """The three strokes of the K, and the corners of the outer arrow."""
     with open(os.path.join(root, "game/Logo.cpp"), encoding="utf-8") as file:
         text = file.read()
-    ends = [(float(x), float(y)) for x, y in PAIR.findall(text.split("strokes[][2]")[1])[:6]]
-    upper = [(float(x), float(y)) for x, y in PAIR.findall(text.split("arrows[][4][2]")[1])[:4]]
+
+    def pairs(table, count):
+        return [(float(x), float(y)) for x, y in PAIR.findall(text.split(table)[1])[:count]]
+
+    back, arms = pairs("k_back[]", 2), pairs("k_arms[]", 3)
+    upper = pairs("arrows[][4][2]", 4)
     top, tip = upper[0], upper[3]
-    left = ends[0][0] + HALF_STROKE + ARROW_INSET
+    left = back[0][0] + HALF_STROKE + ARROW_INSET
     arrow = [(left, top[1]), (tip[0] + ARROW_INSET, tip[1]), (left, -top[1])]
-    return [(ends[i], ends[i + 1]) for i in (0, 2, 4)], arrow
+    return [tuple(back), (arms[1], arms[0]), (arms[1], arms[2])], arrow
 
 
 def segment_distance(p, a, b):
@@ -44,6 +49,18 @@ def segment_distance(p, a, b):
     t = ((p[0] - a[0]) * dx + (p[1] - a[1]) * dy) / (dx * dx + dy * dy)
     t = max(0.0, min(1.0, t))
     return math.hypot(p[0] - a[0] - t * dx, p[1] - a[1] - t * dy)
+
+
+def stroke_distance(p, stroke, blunt):
+    """To the outline of a stroke, negative inside. Blunt ends are cut at its far end; the near one
+    of an arm is the tip of the K, where the two join in a round."""
+    a, b = stroke
+    length = math.hypot(b[0] - a[0], b[1] - a[1])
+    beyond = ((p[0] - a[0]) * (b[0] - a[0]) + (p[1] - a[1]) * (b[1] - a[1])) / length - length
+    cuts = [beyond]
+    if a[0] == b[0]:  # the back has two free ends
+        cuts.append(-beyond - length)
+    return max([segment_distance(p, a, b) - HALF_STROKE] + (cuts if blunt else []))
 
 
 def triangle_distance(p, corners):
@@ -80,8 +97,8 @@ def pixels(logo, size):
         for column in range(size):
             p = (CENTRE[0] - REACH + (column + 0.5) * step, y)
             colour = mix(PLATE, PREY, cover(triangle_distance(p, arrow)))
-            nearest = min(segment_distance(p, a, b) for a, b in strokes)
-            colour = mix(colour, LINE, cover(nearest - HALF_STROKE))
+            nearest = min(stroke_distance(p, s, size >= BLUNT_FROM) for s in strokes)
+            colour = mix(colour, LINE, cover(nearest))
             line.append((*colour, 255 * cover(plate_distance(p))))
         yield [tuple(round(v) for v in pixel) for pixel in line]
 
@@ -117,13 +134,14 @@ def svg(logo):
     def colour(rgb):
         return "#%02x%02x%02x" % rgb
 
-    lines = " ".join(f"M{place(a)}L{place(b)}" for a, b in strokes)
+    (top, bottom), (tip, upper), (_, lower) = strokes
+    lines = f"M{place(top)}L{place(bottom)} M{place(upper)}L{place(tip)}L{place(lower)}"
     triangle = "L".join(place(p) for p in arrow)
     side = 2 * REACH
     return f"""<svg xmlns="http://www.w3.org/2000/svg" width="256" height="256" viewBox="0 0 {side} {side}">
 <rect width="{side}" height="{side}" rx="{CORNER}" fill="{colour(PLATE)}"/>
 <path d="M{triangle}Z" fill="{colour(PREY)}"/>
-<path d="{lines}" stroke="{colour(LINE)}" stroke-width="{2 * HALF_STROKE}" stroke-linecap="round"/>
+<path d="{lines}" stroke="{colour(LINE)}" stroke-width="{2 * HALF_STROKE}" stroke-linejoin="round" fill="none"/>
 </svg>
 """
 
