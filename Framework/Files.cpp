@@ -43,7 +43,7 @@ bool writeAll(int file, const std::string& contents) {
 /// Gives a new file the owner and the permissions of the file that it is to replace, if any.
 bool dress(int file, const struct stat* replaced) {
     if (replaced == nullptr) return fchmod(file, newFileMode()) == 0;
-    struct stat own {};
+    struct stat own = {};
     if (fstat(file, &own) != 0) return false;
     const bool isSameOwner = own.st_uid == replaced->st_uid && own.st_gid == replaced->st_gid;
     if (!isSameOwner && fchown(file, replaced->st_uid, replaced->st_gid) != 0) return false;
@@ -66,7 +66,7 @@ bool exchange(const std::string& path, const std::string& contents, const struct
 /// Takes no new room for what the file has room for, so that it works on a full disk. A file whose
 /// bytes it can't read, and so could not bring back, it leaves alone.
 bool overwriteOrRestore(int file, const std::string& contents) {
-    struct stat before {};
+    struct stat before = {};
     if (fstat(file, &before) != 0 || !S_ISREG(before.st_mode)) return false;
     std::string head(std::min(contents.size(), static_cast<std::size_t>(before.st_size)), '\0');
     if (pread(file, head.data(), head.size(), 0) != static_cast<ssize_t>(head.size())) return false;
@@ -106,7 +106,7 @@ bool replaceContents(const std::string& path, const std::string& contents) {
     std::error_code ignored;
     const fs::file_type type = fs::status(path, ignored).type();
     if (type != fs::file_type::regular && type != fs::file_type::not_found) return false;
-    struct stat old {};
+    struct stat old = {};
     if (lstat(path.c_str(), &old) != 0) return exchange(path, contents, nullptr);
     const bool hasOneName = S_ISREG(old.st_mode) && old.st_nlink == 1;
     if (hasOneName && access(path.c_str(), W_OK) == 0 && exchange(path, contents, &old))

@@ -35,7 +35,7 @@ void rest(const TimerClass& timer) {
 
 void endOnSignals() {
     for (const int signal : {SIGHUP, SIGTERM}) {
-        struct sigaction action {};
+        struct sigaction action = {};
         sigaction(signal, nullptr, &action);
         if (action.sa_handler == SIG_IGN) continue; // by nohup, for example
         action = {};

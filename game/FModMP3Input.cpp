@@ -26,9 +26,11 @@ constexpr float full_volume = 100.0F;
 /// ms. Beyond half the clock's range, an end that has long passed would count as one to come.
 constexpr std::int32_t longest_overdue = 1 << 30;
 
+using Effect = FMOD_SOUND* FModMP3Input::*;
+
 /// The effects in the order of loading.
 const struct {
-    FMOD_SOUND* FModMP3Input::*sound;
+    Effect sound;
     const char* file;
     const char* failure;
 } effects[] = {

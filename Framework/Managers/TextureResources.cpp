@@ -18,10 +18,13 @@ using graphics::Material;
 
 namespace {
 
+using ColourOfMaterial = const graphics::Colour* Material::*;
+using FlagOfMaterial = bool Material::*;
+
 const struct {
     const char* key;
-    const graphics::Colour* Material::*colour;
-    bool Material::*flag;
+    ColourOfMaterial colour;
+    FlagOfMaterial flag;
 } colour_keys[] = {
     {"MAT_AMBIENT", &Material::ambient, &Material::hasAmbient},
     {"MAT_DIFFUSE", &Material::diffuse, &Material::hasDiffuse},

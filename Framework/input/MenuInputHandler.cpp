@@ -12,7 +12,9 @@ namespace {
 
 constexpr short repeat_delay = 5; // ticks between two steps up or down
 
-void publishMove(bool messages::MenuMove::*flag) {
+using Flag = bool messages::MenuMove::*;
+
+void publishMove(Flag flag) {
     messages::MenuMove move;
     if (flag != nullptr) move.*flag = true;
     publish(move);

@@ -204,10 +204,12 @@ TEST(ResourceLines, OfFontsInEachMode) {
 
 TEST(ResourceLines, OfMaterials) {
     const auto& colour = ColourManager::Instance().getV("Line Colour");
+    using ColourOfMaterial = const Colour* graphics::Material::*;
+    using FlagOfMaterial = bool graphics::Material::*;
     const struct {
         const char* key;
-        const Colour* graphics::Material::*colour;
-        bool graphics::Material::*counts;
+        ColourOfMaterial colour;
+        FlagOfMaterial counts;
     } cases[] = {
         {"MAT_AMBIENT", &graphics::Material::ambient, &graphics::Material::hasAmbient},
         {"MAT_DIFFUSE", &graphics::Material::diffuse, &graphics::Material::hasDiffuse},

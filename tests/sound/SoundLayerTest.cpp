@@ -14,6 +14,11 @@
 
 // What the layer plays is rendered into memory and looked at there.
 
+// The coder's library, which the game doesn't use, loses a table at each file of six channels.
+extern "C" const char* __lsan_default_suppressions() { // NOLINT: the sanitizer's name
+    return "leak:vorbis_encode_setup_init";
+}
+
 namespace {
 
 namespace fs = boost::filesystem;
