@@ -1,17 +1,28 @@
 #!/bin/sh
-# Makes the Debian package of this tree: build/package/kov_*.deb.
+# Makes the Debian package of this tree, and its source package: build/package/kov_*. The tests are
+# left out; `dpkg-buildpackage` in a copy of the tree runs them as well.
 set -eu
 cd "$(dirname "$0")/.."
 
 tools/install_packages.sh build package
-# The package depends on the tree alone, not on its folder or the time of day.
-SOURCE_DATE_EPOCH=$(dpkg-parsechangelog --file packaging/changelog --show-field Timestamp)
-export SOURCE_DATE_EPOCH DEB_BUILD_MAINT_OPTIONS=hardening=+all
-cmake -G Ninja -S . -B build/package -DCMAKE_BUILD_TYPE=Release -DKOV_TESTS=OFF \
-    -DCMAKE_INSTALL_PREFIX=/usr -DCMAKE_INSTALL_BINDIR=games \
-    -DCMAKE_CXX_FLAGS="$(dpkg-buildflags --get CPPFLAGS) $(dpkg-buildflags --get CXXFLAGS) \"-ffile-prefix-map=$PWD=.\"" \
-    -DCMAKE_EXE_LINKER_FLAGS="$(dpkg-buildflags --get LDFLAGS)" >/dev/null
-cmake --build build/package
-cd build/package
-umask 022
-cpack -G DEB
+result=$PWD/build/package
+source=$result/kov
+rm -rf "$result"
+mkdir -p "$source"
+
+# What belongs to the project: what a player's own game has left in the folder doesn't.
+files() {
+    git ls-files -z --cached --others --exclude-standard 2>/dev/null ||
+        find . -name .git -prune -o -path ./build -prune -o -path './build-*' -prune -o \
+            -path ./game.conf -o -path ./s.dat -o -path ./bind1.conf -o -type f -print0
+}
+# The packages depend on the tree alone, not on the dates in this folder.
+date=$(dpkg-parsechangelog --show-field Timestamp)
+files | tar --create --null --files-from=- --mtime="@$date" --mode=go=rX,u+rw |
+    tar --extract --directory "$source"
+
+cd "$source"
+DEB_BUILD_OPTIONS="nocheck noautodbgsym terse ${DEB_BUILD_OPTIONS:-}" \
+    dpkg-buildpackage --no-sign >"$result/build.log" 2>&1 || { cat "$result/build.log"; exit 1; }
+rm -rf "$source"
+ls "$result"

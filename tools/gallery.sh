@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 wide_seed=5 narrow_seed=5
 
 tools/install_packages.sh build gallery
-cmake -B build/gallery -G Ninja -DCMAKE_BUILD_TYPE=Release -DKOV_GALLERY=ON -DKOV_TESTS=OFF >/dev/null
+cmake -B build/gallery -G Ninja -DCMAKE_BUILD_TYPE=Release -DKOV_GALLERY=ON >/dev/null
 cmake --build build/gallery --target gallery >build/gallery.log || { cat build/gallery.log; exit 1; }
 program=$PWD/build/gallery/tools/gallery/gallery
 gallery=$PWD/docs/gallery

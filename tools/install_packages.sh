@@ -1,49 +1,70 @@
 #!/bin/sh
 # Installs those of the named groups' Debian packages that are missing: build, test, check, fuzz,
-# demo, package, gallery, assets.
+# demo, package, portable, gallery, assets. Of "one|other" one will do: the one that is installed,
+# else the first that this release has.
 set -eu
+
+if ! command -v apt-get >/dev/null; then
+    exec "$(dirname "$0")/find_libraries.sh" "$@"
+fi
+
+# The number in the names of the compiler that `clang` stands for here.
+clang_version() {
+    apt-cache depends clang 2>/dev/null | sed -n 's/.*Depends: clang-\([0-9]*\)$/\1/p' | head -n 1
+}
 
 packages=""
 for group in "$@"; do
     case "$group" in
-    build) packages="$packages g++ cmake ninja-build pkg-config libsdl1.2-dev libglew-dev
-        libgl-dev libx11-dev libglu1-mesa-dev libftgl-dev libfreetype-dev libloki-dev libboost-dev
-        libboost-filesystem-dev libopenal-dev libsndfile1-dev libmpg123-dev
-        libgl1-mesa-dri" ;;
+    build) packages="$packages g++ cmake ninja-build pkgconf|pkg-config
+        libsdl1.2-dev|libsdl1.2-compat-dev libglew-dev libgl-dev libx11-dev libglu1-mesa-dev
+        libftgl-dev libfreetype-dev libloki-dev libboost-dev libboost-filesystem-dev libopenal-dev
+        libsndfile1-dev libmpg123-dev libgl1-mesa-dri" ;;
     test) packages="$packages libgtest-dev clang-format xvfb" ;;
     check) packages="$packages clang-tidy cppcheck" ;;
-    fuzz) packages="$packages clang libclang-rt-14-dev" ;;
+    fuzz) packages="$packages clang libclang-rt-$(clang_version)-dev" ;;
     demo) packages="$packages xvfb xdotool imagemagick" ;;
-    package) packages="$packages dpkg-dev file" ;;
+    package) packages="$packages debhelper dpkg-dev" ;;
+    portable) packages="$packages patchelf xz-utils" ;;
     gallery) packages="$packages xvfb xauth imagemagick optipng gifsicle python3" ;;
     assets) packages="$packages python3-fonttools python3-shapely" ;;
     *) echo "install_packages.sh: no such group: $group" >&2; exit 2 ;;
     esac
 done
 
-# The compatibility library's headers do as well.
-if dpkg-query -W -f '${db:Status-Status}' libsdl1.2-compat-dev 2>/dev/null | grep -qx installed; then
-    packages=$(echo "$packages" | sed 's/libsdl1.2-dev//')
-fi
-
-# shellcheck disable=SC2086 # a list of words
-installed=$(dpkg-query -W -f ' ${Package}=${db:Status-Status} ' $packages 2>/dev/null || true)
+# shellcheck disable=SC2046 # a list of words
+installed=$(dpkg-query -W -f ' ${Package}=${db:Status-Status} ' \
+    $(echo "$packages" | tr '|' ' ') 2>/dev/null || true)
 missing=""
-for package in $packages; do
-    case $installed in
-    *" $package=installed "*) ;;
-    *) missing="$missing $package" ;;
-    esac
+for choice in $packages; do
+    for package in $(echo "$choice" | tr '|' ' '); do
+        case $installed in
+        *" $package=installed "*) continue 2 ;;
+        esac
+    done
+    missing="$missing $choice"
 done
 [ -n "$missing" ] || exit 0
 
-echo "Installing:$missing"
 as_root=""
 if [ "$(id -u)" -ne 0 ]; then
-    command -v sudo >/dev/null || { echo "Please install these packages as root first." >&2; exit 1; }
     as_root=sudo
+    if ! command -v sudo >/dev/null; then
+        echo "As root, please: apt-get install$(echo "$missing" | sed 's/|[^ ]*//g')" >&2
+        exit 1
+    fi
 fi
-export DEBIAN_FRONTEND=noninteractive
 $as_root apt-get update -qq
+
+chosen=""
+for choice in $missing; do
+    name=${choice%%|*}
+    for package in $(echo "$choice" | tr '|' ' '); do
+        if apt-cache show "$package" >/dev/null 2>&1; then name=$package && break; fi
+    done
+    chosen="$chosen $name"
+done
+echo "Installing:$chosen"
 # shellcheck disable=SC2086 # a list of words
-$as_root apt-get install -y -qq --no-install-recommends $missing >/dev/null
+$as_root env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -qq --no-install-recommends $chosen >/dev/null

@@ -4,6 +4,7 @@ manual is linked from folders where those files are not, so it carries them itse
 import base64
 import pathlib
 import re
+import textwrap
 
 root = pathlib.Path(__file__).resolve().parent.parent
 kinds = {".png": "image/png", ".svg": "image/svg+xml"}
@@ -11,7 +12,7 @@ kinds = {".png": "image/png", ".svg": "image/svg+xml"}
 
 def embedded(image):
     file = root / image["file"]
-    data = base64.b64encode(file.read_bytes()).decode()
+    data = "\n".join(textwrap.wrap(base64.b64encode(file.read_bytes()).decode(), 120))
     return f'{image["before"]}src="data:{kinds[file.suffix]};base64,{data}"'
 
 

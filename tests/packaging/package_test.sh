@@ -10,10 +10,10 @@ says() { # file, text
 for asset in data/* fonts/* Sounds/* Songs/* textures/*; do
     case $asset in
     */LICENSE*) ;;
-    *) says packaging/copyright " $asset" ;;
+    *) says debian/copyright " $asset" ;;
     esac
 done
-says packaging/changelog "kov ($version)"
+says debian/changelog "kov ($version)"
 says packaging/org.kovgame.kov.metainfo.xml "<release version=\"$version\""
 says packaging/kov.6 "\"KOV $version\""
 says manual.html "version $version"
