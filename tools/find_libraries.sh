@@ -39,7 +39,6 @@ for group in "$@"; do
         module_is openal "OpenAL Soft" openal-soft-devel openal
         module_is sndfile "libsndfile" libsndfile-devel libsndfile
         module_is libmpg123 "libmpg123" mpg123-devel mpg123
-        header_is loki/Singleton.h "Loki" loki-lib-devel "loki (from its user repository)"
         header_is boost/filesystem.hpp "Boost" boost-devel boost
         ;;
     test)

@@ -1,7 +1,7 @@
 #!/bin/sh
 # Installs those of the named groups' Debian packages that are missing: build, test, check, fuzz,
 # demo, package, portable, gallery, assets. Of "one|other" one will do: the one that is installed,
-# else the first that this release has.
+# else the first that this release has. "one|" is left out where the release hasn't got it.
 set -eu
 
 if ! command -v apt-get >/dev/null; then
@@ -18,7 +18,7 @@ for group in "$@"; do
     case "$group" in
     build) packages="$packages g++ cmake ninja-build pkgconf|pkg-config
         libsdl1.2-dev|libsdl1.2-compat-dev libglew-dev libgl-dev libx11-dev libglu1-mesa-dev
-        libftgl-dev libfreetype-dev libloki-dev libboost-dev libboost-filesystem-dev libopenal-dev
+        libftgl-dev libfreetype-dev libloki-dev| libboost-dev libboost-filesystem-dev libopenal-dev
         libsndfile1-dev libmpg123-dev libgl1-mesa-dri" ;;
     test) packages="$packages libgtest-dev clang-format xvfb" ;;
     check) packages="$packages clang-tidy cppcheck" ;;
@@ -35,6 +35,9 @@ done
 # shellcheck disable=SC2046 # a list of words
 installed=$(dpkg-query -W -f ' ${Package}=${db:Status-Status} ' \
     $(echo "$packages" | tr '|' ' ') 2>/dev/null || true)
+is_known() { apt-cache show "$1" 2>/dev/null | grep -q .; }
+have_lists() { [ -n "$(find /var/lib/apt/lists -name '*_Packages*' -print -quit)" ]; }
+
 missing=""
 for choice in $packages; do
     for package in $(echo "$choice" | tr '|' ' '); do
@@ -42,6 +45,9 @@ for choice in $packages; do
         *" $package=installed "*) continue 2 ;;
         esac
     done
+    case $choice in
+    *"|") if have_lists && ! is_known "${choice%"|"}"; then continue; fi ;;
+    esac
     missing="$missing $choice"
 done
 [ -n "$missing" ] || exit 0
@@ -58,12 +64,18 @@ $as_root apt-get update -qq
 
 chosen=""
 for choice in $missing; do
-    name=${choice%%|*}
     for package in $(echo "$choice" | tr '|' ' '); do
-        if apt-cache show "$package" >/dev/null 2>&1; then name=$package && break; fi
+        if is_known "$package"; then
+            chosen="$chosen $package"
+            continue 2
+        fi
     done
-    chosen="$chosen $name"
+    case $choice in
+    *"|") ;;
+    *) chosen="$chosen ${choice%%|*}" ;; # apt says that there is none
+    esac
 done
+[ -n "$chosen" ] || exit 0
 echo "Installing:$chosen"
 # shellcheck disable=SC2086 # a list of words
 $as_root env DEBIAN_FRONTEND=noninteractive \
