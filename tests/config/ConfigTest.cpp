@@ -121,6 +121,7 @@ TEST_F(ConfigTest, EverySettingHasItsSetterAndGetter) {
         EXPECT_FALSE(config.configActivated());
         EXPECT_NE((config.*n.get)(), n.stored) << "pending until it is activated";
         config.activateConfig();
+        EXPECT_TRUE(config.configActivated());
         EXPECT_EQ((config.*n.get)(), n.stored) << n.refusal;
     }
     const struct {

@@ -4,6 +4,7 @@
 #include "Framework/input/Joystick.h"
 #include "Framework/input/KeyMapper.h"
 #include "Framework/input/MenuInputHandler.h"
+#include "headless/HeadlessGame.h"
 #include "platform/standins/VirtualSDL.h"
 #include "tests/support/Errors.h"
 
@@ -101,6 +102,10 @@ protected:
         pushAxisMotion();
         return play(handler);
     }
+    static std::string heldBy(const InputHandler& h) {
+        return std::string(h.rightHeld ? " right" : "") + (h.leftHeld ? " left" : "") +
+               (h.upHeld ? " up" : "") + (h.downHeld ? " down" : "");
+    }
     std::string bind(const std::string& text) {
         std::ofstream("bind1.conf") << text;
         return errorsOf([&] { keys.readBindFiles(); });
@@ -159,14 +164,18 @@ TEST_F(InputTest, AxesCountBeyondTheirThresholdUnalike) {
     InputHandler handler;
     const struct {
         int x, y;
-        const char* published;
-    } cases[] = {{3200, -3200, "0,0; "},         {3201, 0, "0.0976897,0; "},
-                 {-32768, 0, "-1.00003,0; "},    {0, -3201, "0,3.05185e-05; "},
-                 {0, 32767, "0,-3.05185e-05; "}, {0, 0, "0,0; "}};
-    for (const auto& c : cases)
-        EXPECT_EQ(stick(handler, c.x, c.y), c.published);
-    EXPECT_TRUE(handler.leftHeld && handler.rightHeld && handler.upHeld && handler.downHeld)
-        << "only keys clear these";
+        const char* published; ///< and what is held from then on: only keys clear it
+    } cases[] = {{3200, 3200, "0,0; "},
+                 {-3200, -3200, "0,0; "},
+                 {3201, 0, "0.0976897,0;  right"},
+                 {-3201, 0, "-0.0976897,0;  right left"},
+                 {0, -3201, "0,3.05185e-05;  right left up"},
+                 {0, 32767, "0,-3.05185e-05;  right left up down"},
+                 {-32768, 0, "-1.00003,0;  right left up down"}};
+    for (const auto& c : cases) {
+        const std::string published = stick(handler, c.x, c.y);
+        EXPECT_EQ(published + heldBy(handler), c.published);
+    }
 }
 
 TEST_F(InputTest, AFifthPlayerEndsTheProcess) {
@@ -176,8 +185,33 @@ TEST_F(InputTest, AFifthPlayerEndsTheProcess) {
         EXPECT_DEATH((handler.*set)(4, 1), "No such player: 4");
     for (const auto set : {&H::xUp, &H::yUp, &H::xUp2, &H::yUp2})
         EXPECT_DEATH((handler.*set)(4), "No such player: 4");
-    handler.xDown(3, 32767);
-    EXPECT_EQ(handler.playerInputs[3].move.x, 1.0);
+}
+
+TEST_F(InputTest, EachPlayersAxesAreSetByTheirOwnFunctions) {
+    using H = InputHandler;
+    using Input = messages::PlayerInput;
+    const struct {
+        void (H::*down)(unsigned short, short);
+        void (H::*up)(unsigned short);
+        math::Vector Input::*vector;
+        double math::Vector::*axis;
+        const char* held[2]; ///< by a negative and by a positive value
+    } cases[] = {{&H::xDown, &H::xUp, &Input::move, &math::Vector::x, {" left", " right"}},
+                 {&H::yDown, &H::yUp, &Input::move, &math::Vector::y, {" down", " up"}},
+                 {&H::xDown2, &H::xUp2, &Input::fire, &math::Vector::x, {"", ""}},
+                 {&H::yDown2, &H::yUp2, &Input::fire, &math::Vector::y, {"", ""}}};
+    for (const auto& c : cases) {
+        for (const int positive : {0, 1}) {
+            H handler;
+            const double& axis = handler.playerInputs[3].*c.vector.*c.axis;
+            (handler.*c.down)(3, positive ? 32767 : -32767);
+            EXPECT_EQ(axis, positive ? 1.0 : -1.0);
+            EXPECT_EQ(heldBy(handler), c.held[positive]);
+            EXPECT_EQ(handler.dirty, (boost::array<bool, 4>{{false, false, false, true}}));
+            (handler.*c.up)(3);
+            EXPECT_EQ(axis, 0.0);
+        }
+    }
 }
 
 TEST_F(InputTest, MenusMatchByKeyOrButton) {
@@ -222,23 +256,40 @@ TEST_F(InputTest, MenusStepByTheStickWithADelayUpAndDownAlone) {
 
 TEST_F(InputTest, KnowsTheWordsOfKeysAndButtons) {
     const struct {
-        const char* word;
-        int key;
-        const char* errors;
-    } words[] = {{"return", 13, ""},
-                 {"5", 53, ""},
-                 {"z", 122, ""},
-                 {"num=", 272, ""},
-                 {"F1", 282, ""},
-                 {"RWINDOWS", 312, ""},
-                 {"f2", 323, "Key not found: F2\n"},
-                 {"\x7f\xc3\xa4", 323, "Key not found: \\x7f\xc3\xa4\n"},
-                 {"JOY", 323, "Key not found: JOY\n"}};
-    for (const auto& w : words) {
-        EXPECT_EQ(errorsOf([&] { EXPECT_EQ(keyFromWord(w.word), w.key) << w.word; }), w.errors);
-    }
-    EXPECT_EQ(jsbuttonFromWord("JOY1"), 0);
-    EXPECT_EQ(jsbuttonFromWord("JOY16"), 15);
+        int first; ///< key, the words' own follow it
+        std::vector<std::string> words;
+    } rows[] = {
+        {SDLK_BACKSPACE, {"BACKSPACE", "TAB"}},
+        {SDLK_RETURN, {"ENTER"}},
+        {SDLK_RETURN, {"return"}},
+        {SDLK_ESCAPE, {"ESCAPE"}},
+        {SDLK_SPACE, {"SPACE"}},
+        {SDLK_0, {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}},
+        {SDLK_SEMICOLON, {";"}},
+        {SDLK_KP0,
+         {"NUM0", "NUM1",  "NUM2", "NUM3",   "NUM4", "NUM5", "NUM6",     "NUM7",     "NUM8",
+          "NUM9", "NUM.",  "NUM/", "NUM*",   "NUM-", "NUM+", "NUMENTER", "num=",     "UP",
+          "DOWN", "RIGHT", "LEFT", "INSERT", "HOME", "END",  "PAGEUP",   "PAGEDOWN", "F1"}},
+        {SDLK_RSHIFT,
+         {"RSHIFT", "LSHIFT", "RCTRL", "LCTRL", "RALT", "LALT", "RMETA", "LMETA", "LWINDOWS",
+          "RWINDOWS"}},
+    };
+    for (const auto& row : rows)
+        for (std::size_t i = 0; i < row.words.size(); ++i)
+            EXPECT_EQ(keyFromWord(row.words[i]), row.first + i) << row.words[i];
+    for (char c = 'a'; c <= 'z'; ++c)
+        EXPECT_EQ(keyFromWord({c}), c);
+    for (const auto& [word, told] : {std::pair{"f2", "F2"},
+                                     {"\x7f\xc3\xa4", "\\x7f\xc3\xa4"},
+                                     {"JOY", "JOY"},
+                                     {":", ":"},
+                                     {"[", "["},
+                                     {"@", "@"},
+                                     {"/", "/"}})
+        EXPECT_EQ(errorsOf([word = word] { EXPECT_EQ(keyFromWord(word), 323) << word; }),
+                  std::string("Key not found: ") + told + "\n");
+    for (int button = 0; button < 16; ++button)
+        EXPECT_EQ(jsbuttonFromWord("JOY" + std::to_string(button + 1)), button);
     for (const char* word : {"JOY0", "JOY17", "joy1", "JOY"})
         EXPECT_EQ(jsbuttonFromWord(word), no_button) << word;
     EXPECT_FALSE(keys.addMappableKey("Up", 1, 1, 0));
@@ -261,17 +312,12 @@ TEST_F(InputTest, BindsByFile) {
     EXPECT_EQ(errorsOf([&] { keys.readBindFiles(); }), "Can't read bind1.conf\n");
 }
 
-TEST_F(InputTest, TheShippedFileGivesEachKeyAndButtonItsOwnAlone) {
-    keys.keys.clear();
-    for (const char* action : {"Up", "Down", "Left", "Right", "Fire Up", "Fire Down", "Fire Left",
-                               "Fire Right", "Game Pause", "Menu Select", "Menu Escape"})
-        keys.addMappableKey(action, unknown_key, no_button, 0);
-    std::ifstream shipped(KOV_SOURCE_DIR "/packaging/bind1.conf");
-    EXPECT_EQ(bind({std::istreambuf_iterator<char>(shipped), {}}), "");
+TEST_F(InputTest, EachKeyAndButtonDoesItsOwnAloneByDefaultAndByTheShippedFile) {
     struct Own {
         std::string inMenus, inGames;
     };
-    std::map<int, Own> buttons = {
+    std::map<int, Own> defaultButtons = {{2, {"select; ", ""}}, {8, {"escape; ", "EndLevel; "}}};
+    std::map<int, Own> shippedButtons = {
         {0, {"select; ", "0,0 fire 0,-1; "}}, // South
         {1, {"", "0,0 fire 1,0; "}},          // East; in menus it is the number that keys match
         {2, {"", "0,0 fire -1,0; "}},         // West
@@ -299,10 +345,18 @@ TEST_F(InputTest, TheShippedFileGivesEachKeyAndButtonItsOwnAlone) {
         push(i, true);
         EXPECT_EQ(play(game), own.inGames) << i;
     };
-    for (int i = 0; i < 16; ++i)
-        expectOwn(pushButton, i, buttons[i]);
-    for (int i = 0; i < SDLK_LAST; ++i)
-        expectOwn(pushKey, i, symbols[i]);
+    const auto expectEach = [&](std::map<int, Own>& buttons) {
+        for (int i = 0; i < 16; ++i)
+            expectOwn(pushButton, i, buttons[i]);
+        for (int i = 0; i < SDLK_LAST; ++i)
+            expectOwn(pushKey, i, symbols[i]);
+    };
+    keys.keys.clear();
+    EXPECT_EQ(errorsOf([] { const headless::HeadlessGame run; }), "Can't read bind1.conf\n");
+    expectEach(defaultButtons);
+    std::ifstream shipped(KOV_SOURCE_DIR "/packaging/bind1.conf");
+    EXPECT_EQ(bind({std::istreambuf_iterator<char>(shipped), {}}), "");
+    expectEach(shippedButtons);
 }
 
 TEST_F(InputTest, JoysticksThatDoNotOpenAreLeftOut) {

@@ -8,15 +8,19 @@
 #include "Framework/menus/MainMenu.h"
 #include "game/GameBase.h"
 #include "game/GameLevel.h"
+#include "game/GameOverScreen.h"
 #include "game/Marvo.h"
 #include "platform/standins/VirtualSDL.h"
 #include "tests/support/Errors.h"
+#include "tests/support/FieldTest.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
 #include <fstream>
 #include <memory>
+#include <string>
+#include <vector>
 
 using namespace quorva;
 using namespace quorva::menus;
@@ -37,6 +41,12 @@ protected:
         press({SDLK_DOWN, SDLK_RETURN});
         return static_cast<ConfigMenu&>(*main.subMenu);
     }
+    static std::vector<std::string> wordsOf(const ConfigMenu& menu) {
+        std::vector<std::string> words;
+        for (const auto* value : menu.values)
+            words.push_back(value->word);
+        return words;
+    }
 
     headless::HeadlessGame run;
     MainMenu& main;
@@ -55,21 +65,6 @@ TEST_F(MenusTest, TheSelectionWraps) {
     EXPECT_TRUE(run.isOver());
 }
 
-TEST_F(MenusTest, PagesOpenAndCloseBackToTheFirstItem) {
-    press({SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
-    ASSERT_NE(main.helpMenu, nullptr);
-    press({SDLK_DOWN, SDLK_ESCAPE});
-    ASSERT_NE(main.helpMenu, nullptr);
-    press({SDLK_RETURN});
-    EXPECT_EQ(main.helpMenu, nullptr);
-    EXPECT_EQ(main.selection, 0);
-
-    press({SDLK_DOWN, SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
-    ASSERT_NE(main.aboutMenu, nullptr);
-    press({SDLK_RETURN, SDLK_UP});
-    EXPECT_EQ(Engine::Instance().entities.size(), 1U);
-}
-
 TEST_F(MenusTest, TheHighScoreIsReadAtEachReturn) {
     EXPECT_EQ(main.highScoreWord->word.substr(0, 13), "HighScore    ");
     Marvo::Instance().highScore = 4711;
@@ -78,44 +73,81 @@ TEST_F(MenusTest, TheHighScoreIsReadAtEachReturn) {
     Marvo::Instance().highScore = 0;
 }
 
-TEST_F(MenusTest, ConfigurationStepsTogglesAndHolds) {
+TEST_F(MenusTest, ConfigurationStepsThroughTheSizesOfScreens) {
     ConfigMenu& menu = openConfig();
-    EXPECT_EQ(menu.getResIndex(), 4);
-    press({SDLK_RIGHT, SDLK_RIGHT});
-    EXPECT_EQ(menu.values[0]->word, "1024 x 768");
-    menu.width = 801;
+    menu.width = 801; // is in no table: steps like the first
     menu.moveLeft();
-    EXPECT_EQ(menu.values[0]->word, "2048 x 1536");
-    menu.moveRight();
-    EXPECT_EQ(menu.values[0]->word, "320 x 240");
-    menu.width = 801;
-    menu.moveRight();
-    EXPECT_EQ(menu.values[0]->word, "640 x 480");
-    press({SDLK_DOWN, SDLK_LEFT});
-    EXPECT_EQ(menu.values[1]->word, "Fullscreen");
+    EXPECT_EQ(wordsOf(menu)[0], "2048 x 1536");
+    std::string sizes;
+    for (std::size_t i = 0; i < 24; ++i) {
+        press({SDLK_RIGHT});
+        sizes += wordsOf(menu)[0] + ' ';
+    }
+    EXPECT_EQ(sizes, "320 x 240 640 x 480 720 x 480 720 x 576 800 x 600 960 x 600 1024 x 768 "
+                     "1088 x 612 1152 x 864 1280 x 720 1280 x 768 1280 x 800 1280 x 960 "
+                     "1280 x 1024 1366 x 768 1440 x 900 1440 x 1050 1600 x 1024 1600 x 1200 "
+                     "1680 x 1050 1920 x 1080 1920 x 1200 1920 x 1440 2048 x 1536 ");
+    press({SDLK_RIGHT});
+    EXPECT_EQ(wordsOf(menu)[0], "320 x 240");
+}
 
-    press({SDLK_DOWN});
-    std::string volumes;
-    run.key(SDLK_LEFT, true);
-    for (int tick = 0; tick < 9; ++tick) {
+TEST_F(MenusTest, EachRowOfTheConfigurationChangesItsOwnSettingWithinItsBounds) {
+    ConfigMenu& menu = openConfig();
+    std::uint16_t ConfigMenu::*const sliders[] = {nullptr,
+                                                  nullptr,
+                                                  &ConfigMenu::musicVolume,
+                                                  &ConfigMenu::fxVolume,
+                                                  &ConfigMenu::collisionAccuracy,
+                                                  nullptr};
+    const struct {
+        ConfigMenu::Row row;
+        int key; ///< held for longer than a slider takes
+        const char* before;
+        const char* after;
+    } cases[] = {
+        {ConfigMenu::row_resolution, SDLK_LEFT, "800 x 600", "720 x 576"},
+        {ConfigMenu::row_fullscreen, SDLK_LEFT, "Windowed", "Fullscreen"},
+        {ConfigMenu::row_fullscreen, SDLK_RIGHT, "Fullscreen", "Windowed"},
+        {ConfigMenu::row_music_volume, SDLK_RIGHT, "97", "100"},
+        {ConfigMenu::row_music_volume, SDLK_LEFT, "3", "0"},
+        {ConfigMenu::row_fx_volume, SDLK_RIGHT, "97", "100"},
+        {ConfigMenu::row_fx_volume, SDLK_LEFT, "3", "0"},
+        {ConfigMenu::row_accuracy, SDLK_RIGHT, "997", "1000"},
+        {ConfigMenu::row_accuracy, SDLK_LEFT, "4", "1"},
+        {ConfigMenu::row_save_cpu, SDLK_RIGHT, "No", "Yes"},
+        {ConfigMenu::row_save_cpu, SDLK_LEFT, "Yes", "No"},
+    };
+    for (const auto& c : cases) {
+        while (menu.selection != c.row)
+            press({SDLK_DOWN});
+        if (const auto slider = sliders[c.row])
+            menu.*slider = static_cast<std::uint16_t>(std::stoi(c.before));
         run.tick();
-        volumes += menu.values[2]->word + " ";
+        std::vector<std::string> words = wordsOf(menu);
+        EXPECT_EQ(words[c.row], c.before);
+        run.key(c.key, true);
+        run.ticks(20);
+        run.key(c.key, false);
+        run.ticks(3);
+        words[c.row] = c.after; // and all others stay
+        EXPECT_EQ(wordsOf(menu), words) << c.row << ", key " << c.key;
     }
     // The key arrives with the second pass: a step at once, five ticks without, then one a tick.
-    EXPECT_EQ(volumes.substr(volumes.find("99")), "99 99 99 99 99 99 98 97 ");
-    run.key(SDLK_LEFT, false);
-    run.ticks(3);
-    const std::string still = menu.values[2]->word;
-    run.ticks(10);
-    EXPECT_EQ(menu.values[2]->word, still);
-
-    menu.collisionAccuracy = 2;
-    press({SDLK_DOWN, SDLK_DOWN});
-    run.key(SDLK_LEFT, true);
-    run.ticks(20);
-    EXPECT_EQ(menu.collisionAccuracy, 1) << "not below 1";
-    press({SDLK_DOWN, SDLK_RIGHT});
-    EXPECT_EQ(menu.values[5]->word, "Yes");
+    for (const auto& [key, stepped] : {std::pair{SDLK_LEFT, "50 49 49 49 49 49 49 48 47 "},
+                                       {SDLK_RIGHT, "47 48 48 48 48 48 48 49 50 "}}) {
+        menu.selection = ConfigMenu::row_music_volume;
+        menu.musicVolume = key == SDLK_LEFT ? 50 : 47;
+        std::string volumes;
+        run.key(key, true);
+        for (int tick = 0; tick < 9; ++tick) {
+            run.tick();
+            volumes += wordsOf(menu)[2] + ' ';
+        }
+        run.key(key, false);
+        run.ticks(2);
+        EXPECT_EQ(volumes, stepped);
+    }
+    menu.fullScreen = true;
     press({SDLK_ESCAPE});
     EXPECT_EQ(main.subMenu, nullptr);
     EXPECT_TRUE(main.shown);
@@ -123,51 +155,47 @@ TEST_F(MenusTest, ConfigurationStepsTogglesAndHolds) {
     EXPECT_FALSE(std::ifstream("game.conf"));
 }
 
-TEST_F(MenusTest, SavingWritesActivatesAndRebuildsTheVideo) {
+TEST_F(MenusTest, SavingActivatesRebuildsTheVideoAndComesBackFromTheFile) {
+    auto& settings = config::Config::Instance();
+    settings.setPlaySound(false); // not in the menu
     ConfigMenu& menu = openConfig();
     menu.setNewResolutionStuff(11);
+    for (const auto row : {ConfigMenu::row_fullscreen, ConfigMenu::row_save_cpu}) {
+        menu.selection = row;
+        menu.moveRight();
+    }
+    menu.selection = ConfigMenu::row_resolution;
+    menu.musicVolume = 33;
+    menu.fxVolume = 44;
+    menu.collisionAccuracy = 77;
     standins::sdl().modes.clear();
-    press({SDLK_UP, SDLK_UP, SDLK_RETURN});
-    EXPECT_EQ(config::Config::Instance().getScreenWidth(), 1280);
-    ASSERT_EQ(standins::sdl().modes.size(), 1U);
-    EXPECT_EQ(standins::sdl().modes[0].height, 800);
-    EXPECT_TRUE(std::ifstream("game.conf"));
-    EXPECT_EQ(main.background->box.right, 24.0) << "the backdrop fits the new shape";
-    EXPECT_TRUE(main.shown);
-    EXPECT_GT(main.startWord->font->getBoundingBox("text").right, 0.0) << "fonts are there again";
-    config::Config::Instance().setDefaults();
-    config::Config::Instance().activateConfig();
-    publish(messages::ResetVideo());
-}
-
-TEST_F(MenusTest, TheFileComesBackThroughTheMenuAsItWas) {
-    auto& settings = config::Config::Instance();
-    settings.setScreenWidth(1024);
-    settings.setScreenHeight(768);
-    settings.setMusicVolume(33);
-    settings.setCollisionAccuracy(77);
-    settings.setSaveCPU(true);
-    settings.setPlaySound(false); // not in the menu
-    settings.activateConfig();
-    settings.saveConfig();
-    const auto text = [] {
+    const auto save = [this] {
+        press({SDLK_UP, SDLK_UP, SDLK_RETURN});
         std::ifstream file("game.conf");
         return std::string(std::istreambuf_iterator<char>(file), {});
     };
-    const std::string before = text();
+    const Count<messages::ResetAudio> audioResets;
+    const std::string saved = save();
+    EXPECT_EQ(audioResets.count, 1);
+    ASSERT_EQ(standins::sdl().modes.size(), 1U);
+    EXPECT_EQ(standins::sdl().modes[0].height, 800);
+    EXPECT_EQ(main.background->box.right, 24.0) << "the backdrop fits the new shape";
+    EXPECT_TRUE(main.shown);
+    EXPECT_GT(main.startWord->font->getBoundingBox("text").right, 0.0) << "fonts are there again";
+
     settings.setDefaults();
     settings.activateConfig();
     settings.file = std::make_unique<config::ConfigFile>("game.conf");
     settings.readFile();
-    const ConfigMenu& menu = openConfig();
-    EXPECT_EQ(menu.values[0]->word, "1024 x 768");
-    EXPECT_EQ(menu.values[2]->word, "33");
-    EXPECT_EQ(menu.values[4]->word, "77");
-    EXPECT_EQ(menu.values[5]->word, "Yes");
+    EXPECT_EQ(wordsOf(openConfig()),
+              (std::vector<std::string>{"1280 x 800", "Fullscreen", "33", "44", "77", "Yes"}));
+    EXPECT_FALSE(settings.getPlaySound());
     std::remove("game.conf");
-    press({SDLK_UP, SDLK_UP, SDLK_RETURN});
-    EXPECT_EQ(text(), before);
+    EXPECT_EQ(save(), saved);
     settings.file.reset();
+    settings.setDefaults();
+    settings.activateConfig();
+    publish(messages::ResetVideo());
 }
 
 TEST_F(MenusTest, ASecondLevelIsRefused) {
@@ -202,4 +230,20 @@ TEST_F(MenusTest, AMenuOverTheLevelFreezesIt) {
     run.press(SDLK_p);
     run.ticks(10);
     EXPECT_GT(run.game().level->tickCount, tick);
+}
+
+TEST_F(MenusTest, EscapeInThePassOfTheLastDeathDoesNotEndTheNextGame) {
+    run.startLevel();
+    Marvo::Instance().lives = 0;
+    for (int tick = 0; Marvo::Instance().lives == 0 && tick < 20000; ++tick) {
+        run.process();
+        if (Marvo::Instance().lives < 0) run.press(SDLK_ESCAPE);
+        run.frame();
+    }
+    ASSERT_NE(main.gameOverScreen, nullptr) << "the game was lost all the same";
+    run.press(SDLK_RETURN);
+    run.frame();
+    run.startLevel();
+    run.ticks(3);
+    EXPECT_NE(run.game().level, nullptr);
 }
