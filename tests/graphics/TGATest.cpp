@@ -141,14 +141,16 @@ TEST_F(TGATest, ReachesGLRedFirstAndTurnedUnlessFlagged) {
 }
 
 TEST_F(TGATest, KeepsAPaletteRedFirstButMakesNoTextureOfIt) {
-    Bytes map;
+    Bytes map = {1, 2, 3}; // an identification
     for (int i = 0; i < 256; ++i)
         map.insert(map.end(), {i, 7, 255 - i}); // blue, green, red
     for (const int type : {1, 9}) {
         Bytes data = map;
         data.insert(data.end(), type == 1 ? std::initializer_list<int>{5, 5, 5, 6}
                                           : std::initializer_list<int>{0x82, 5, 0x00, 6});
-        EXPECT_EQ(load(file(mappedHeader(type), data), image), 1);
+        Header h = mappedHeader(type);
+        h.idLength = 3;
+        EXPECT_EQ(load(file(h, data), image), 1);
         EXPECT_EQ(pixelsOf(image, 4), (Bytes{5, 5, 5, 6}));
         for (int i = 0; i < 256; ++i)
             EXPECT_EQ(Bytes(image.getPalette() + 3 * i, image.getPalette() + 3 * i + 3),

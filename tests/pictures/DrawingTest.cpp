@@ -2,6 +2,7 @@
 
 #include "tests/pictures/Pictures.h"
 
+#include "Framework/DebugBar.h"
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/Draw.h"
 #include "Framework/Graphics/DrawPrimitives.h"
@@ -299,6 +300,7 @@ const Row figures[] = {
          Circle3D(1, 2, 3, 2, 4);
          filledCylinder(1, 2, 3, 2, 5, 4);
      }},
+    {"bar for developers", [] { debug::drawBar(4, 1, 2); }},
 };
 
 } // namespace
