@@ -87,55 +87,6 @@ struct Listener : MessageInterface<Note> {
 
 } // namespace
 
-TEST_F(EngineTest, GivesIdsFromOneAndNeverAgain) {
-    EXPECT_EQ(engine.addEntity(nullptr), 0U);
-    Probe* const first = add("a");
-    EXPECT_EQ(first->id, 1U);
-    first->dead = true;
-    engine.process();
-    EXPECT_EQ(engine.getEntity(1), nullptr);
-    EXPECT_EQ(add("b")->id, 2U);
-}
-
-TEST_F(EngineTest, RunsEntitiesByIdThenComponentsInListOrder) {
-    Service one("one"), two("two");
-    engine.addComponent(&two);
-    engine.addComponent(&one);
-    engine.addComponent(&two); // no effect
-    add("a");
-    add("b");
-    EXPECT_EQ(run(&EngineClass::process),
-              (Journal{"process a", "process b", "process two", "process one"}));
-    EXPECT_EQ(run(&EngineClass::update),
-              (Journal{"update a", "update b", "update two", "update one"}));
-}
-
-TEST_F(EngineTest, ShowsEntitiesToComponentsWithoutAnIdYetAndReplaysThemToLateOnes) {
-    Service early("early"), late("late");
-    engine.addComponent(&early);
-    add("a");
-    add("b");
-    engine.addComponent(&late);
-    engine.delComponent(&early);
-    engine.delComponent(&early); // not active any more
-    EXPECT_EQ(journal,
-              (Journal{"early + a0", "early + b0", "late + a1", "late + b2", "early - all"}));
-}
-
-TEST_F(EngineTest, KeepsTheDeadToTheNextTickAndRunsTheNewbornInTheSameSweep) {
-    Service service("s");
-    engine.addComponent(&service);
-    Probe* a = nullptr;
-    a = add("a", [&] {
-        a->dead = true;
-        add("new");
-    });
-    EXPECT_EQ(run(&EngineClass::process),
-              (Journal{"process a", "s + new0", "process new", "process s"}));
-    EXPECT_EQ(run(&EngineClass::update), (Journal{"update a", "update new", "update s"}));
-    EXPECT_EQ(run(&EngineClass::process), (Journal{"s - a", "end a", "process new", "process s"}));
-}
-
 TEST_F(EngineTest, SweepsComponentsByPositionWhileTheyComeAndGo) {
     Service last("last"), added("added");
     Service changer("changer", [&] {

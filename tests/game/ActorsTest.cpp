@@ -43,23 +43,6 @@ protected:
 
 } // namespace
 
-TEST_F(ActorsTest, AGunCoolsDownByItselfWhileTheOthersFire) {
-    messages::PlayerInput input;
-    input.fire = math::Vector(1, 1, 0);
-    publish(input);
-    EXPECT_EQ(countOf<Bullet>(), 2) << "one on each axis";
-    for (int tick = 0; tick < 19; ++tick)
-        player->process();
-    publish(input);
-    EXPECT_EQ(countOf<Bullet>(), 2);
-    player->process();
-    publish(input);
-    EXPECT_EQ(countOf<Bullet>(), 4) << "twenty ticks after the shot";
-    const TrapLine* const line = newest<TrapLine>();
-    EXPECT_DOUBLE_EQ(line->start.y, -0.15);
-    EXPECT_FALSE(line->horizontal);
-}
-
 TEST_F(ActorsTest, ArrowsGrowBackInFourSteps) {
     messages::PlayerInput input;
     input.fire = math::Vector(-1, 0, 0);
@@ -74,7 +57,27 @@ TEST_F(ActorsTest, ArrowsGrowBackInFourSteps) {
     EXPECT_EQ(shown, "01111122222333334444");
 }
 
+TEST_F(ActorsTest, AShotADeathAndTheReturnHaveTheirSounds) {
+    const Count<SoundBullet> shots;
+    const Count<SoundDeath> deaths;
+    const Count<SoundAlive> returns;
+    const auto heard = [&] { return std::vector<int>{shots.count, deaths.count, returns.count}; };
+    messages::PlayerInput input;
+    input.fire = math::Vector(1, 0, 0);
+    publish(input);
+    EXPECT_EQ(heard(), (std::vector<int>{1, 0, 0}));
+    publish(PlayerDead());
+    EXPECT_EQ(heard(), (std::vector<int>{1, 1, 0}));
+    for (int tick = 0; tick < 201; ++tick)
+        player->process();
+    EXPECT_EQ(heard(), (std::vector<int>{1, 1, 1}));
+    EXPECT_TRUE(player->graphics->enabled) << "it ends visible";
+}
+
 TEST_F(ActorsTest, PickUpsImproveWithinTheirBounds) {
+    const Count<SoundPup> pups;
+    const Count<SoundClearBomb> clears;
+    const Count<SoundImmuneBomb> immunes;
     const auto lengths = [&] { return player->lineLength; };
     give<PupLine>();
     EXPECT_EQ(lengths(), 225);
@@ -92,86 +95,38 @@ TEST_F(ActorsTest, PickUpsImproveWithinTheirBounds) {
     give<BombImmune>();
     EXPECT_TRUE(player->invulnerable);
     EXPECT_EQ(player->invulnerableTicks, 100);
+    EXPECT_EQ((std::vector<int>{pups.count, clears.count, immunes.count}),
+              (std::vector<int>{23, 1, 1}));
     EXPECT_EQ(Marvo::Instance().numLinePUPS(), 3);
     EXPECT_EQ(Marvo::Instance().numCDPUPS(), 22) << "bombs count as cooldowns";
-}
-
-TEST_F(ActorsTest, APickUpWaitsForItsLock) {
-    auto* const gift = engine().createEntity<PupLine>("Gift", math::Point());
-    body(player).hitBox = true;
-    body(player).collidedWith = gift;
-    player->pickupLock = 2;
-    player->process();
-    EXPECT_FALSE(gift->dead);
-    EXPECT_TRUE(body(player).hitBox);
-    player->process();
-    EXPECT_TRUE(gift->dead);
-    EXPECT_EQ(player->pickupLock, 2);
-}
-
-TEST_F(ActorsTest, DiesLiesAndComesBackInvulnerable) {
-    messages::PlayerInput right;
-    right.move = math::Vector(1, 0, 0);
-    publish(right);
-    body(player).position = math::Point(5, 5, 0);
-    player->invulnerable = false;
-    Marvo::Instance().killPlayer();
-    Marvo::Instance().killPlayer(); // once
-    EXPECT_EQ(Marvo::Instance().lives, 1);
-    EXPECT_EQ(body(player).position, math::zero_point);
-    for (int tick = 0; tick < 100; ++tick) {
-        publish(right); // deaf
-        player->process();
-        EXPECT_FALSE(player->moveRight);
-    }
-    int alive = 0;
-    for (; player->invulnerable && alive < 200; ++alive)
-        player->process();
-    EXPECT_EQ(alive, 101);
-    EXPECT_TRUE(player->graphics->enabled) << "it ends visible";
 }
 
 TEST_F(ActorsTest, StaysOnTheFieldAndIgnoresInputOnceDead) {
     body(player).position = math::Point(99, -99, 0);
     player->process();
     EXPECT_EQ(body(player).position, math::Point(19.5, -14.5, 0));
-    player->dead = true;
     messages::PlayerInput input;
-    input.fire = math::Vector(1, 0, 0);
+    input.move = input.fire = math::Vector(1, 1, 0);
+    player->dead = true;
+    publish(input);
+    player->dead = false;
+    player->deathTicks = 1;
     publish(input);
     EXPECT_EQ(countOf<Bullet>(), 0);
+    EXPECT_FALSE(player->moveRight || player->moveUp);
 }
 
-TEST_F(ActorsTest, ALineStandsItsTimeAndBlinksAtItsEnd) {
-    TrapLine* const line = across(5, -20, 20);
-    int toggles = 0, ticks = 0, firstToggle = 0;
-    for (bool last = true; !line->fakeDone && ticks < 500; ++ticks) {
-        line->process();
-        if (line->graphics->enabled == last) continue;
-        last = !last;
-        if (++toggles == 1) firstToggle = line->lifeTicks;
+TEST_F(ActorsTest, BulletsAreFiredByCallInTheGunsDirectionsAlone) {
+    for (const math::Vector& way : {math::Vector(1, 0, 0), math::Vector(-1, 0, 0),
+                                    math::Vector(0, 1, 0), math::Vector(0, -1, 0)}) {
+        player->fireBullet(way);
+        player->fireBullet(way);
+        EXPECT_EQ(body(newest<Bullet>()).velocity, way);
     }
-    EXPECT_EQ(ticks, 200);
-    EXPECT_EQ(firstToggle, 71);
-    EXPECT_EQ(toggles, 18) << "every fourth tick of the last 74";
-}
-
-TEST_F(ActorsTest, ALineLetsGoOfItsBulletInTheSubStepAfterItsEnd) {
-    messages::PlayerInput input;
-    input.fire = math::Vector(1, 0, 0);
-    publish(input);
-    auto* const bullet = newest<Bullet>();
-    TrapLine* const line = newest<TrapLine>();
-    EXPECT_EQ(line->end, math::zero_point) << "until the first update";
-    line->update();
-    body(bullet).position = math::Point(3, 0, 0);
-    bullet->fakeKill();
-    line->updateBullet();
-    EXPECT_EQ(line->bullet, nullptr);
-    EXPECT_EQ(line->line->end, math::Point(3, 0, 0)) << "the drawn end snaps";
-    EXPECT_EQ(line->end, math::zero_point) << "the other stays as the last update left it";
-    EXPECT_FALSE(bullet->dead) << "it fades by itself";
-    EXPECT_EQ(ticksToDeath(*bullet), 10);
+    player->fireBullet(math::Vector(1, 1, 0));
+    player->deathTicks = 1;
+    player->fireBullet(math::Vector(1, 0, 0));
+    EXPECT_EQ(countOf<Bullet>(), 8);
 }
 
 TEST_F(ActorsTest, ALineWhoseBulletEndsAfterTheTickKillsItOutright) {
@@ -180,18 +135,12 @@ TEST_F(ActorsTest, ALineWhoseBulletEndsAfterTheTickKillsItOutright) {
     publish(input);
     TrapLine* const line = newest<TrapLine>();
     line->fakeKill(true);
+    body(newest<Bullet>()).position = math::Point(0, 3, 0);
     line->update();
     EXPECT_TRUE(newest<Bullet>()->dead);
     EXPECT_EQ(line->bullet, nullptr);
+    EXPECT_EQ(line->end, math::Point(0, 3, 0));
     EXPECT_TRUE(line->finished);
-}
-
-TEST_F(ActorsTest, ABulletEndsAQuarterUnitPastTheEdge) {
-    for (const double x : {20.25, 20.2500001}) {
-        Bullet bullet(math::Point(x, 0, 0), math::Vector());
-        bullet.process();
-        EXPECT_EQ(bullet.fakeKilled, x > 20.25) << x;
-    }
 }
 
 TEST_F(ActorsTest, ABombMayRunOutUnderAPlayerThatLiesDead) {
@@ -223,29 +172,6 @@ TEST_F(ActorsTest, ABurstMayGoBeforeItsPowerUp) {
     pup->lines->dead = pup->dead = true;
     engine().cleanupDeadEntities(); // a sanitizer sees it if the power-up still reaches for it
     EXPECT_EQ(countOf<PowerUpLines>(), 0);
-}
-
-TEST_F(ActorsTest, ATriangleTurnsAndCrawlsLikeAnInchworm) {
-    PointManager::Instance().getV("Player Location").value = math::Point(0, -100, 0);
-    auto* const triangle = engine().createEntity<Triangle>("Triangle", math::Point(), 5.0, 1.0);
-    EXPECT_NEAR(triangle->angle, -2.5 * math::pi / 180, 1e-12) << "from behind it turns right";
-    for (int i = 0; i < 75; ++i)
-        triangle->reposition();
-    EXPECT_NEAR(std::cos(triangle->angle), -1.0, 1e-3) << "it has come around";
-    EXPECT_NEAR(triangle->step.length(), 0.1, 1e-12) << "1 / (15 - 5)";
-
-    std::string gait;
-    for (int tick = 0; tick < 200; ++tick) {
-        triangle->process();
-        gait += std::to_string(triangle->state);
-    }
-    // Nose to base is between 2 and 2.236: over the root of 1.1, at 0.1 a tick, 20 to 22 ticks.
-    const std::size_t contracted = gait.find('2');
-    EXPECT_GE(contracted, 19U);
-    EXPECT_LE(contracted, 21U);
-    const std::string cycle = std::string(16, '2') + std::string(contracted + 1, '0') +
-                              std::string(16, '3') + std::string(contracted + 1, '1') + "2";
-    EXPECT_EQ(gait.substr(contracted, cycle.size()), cycle);
 }
 
 TEST_F(ActorsTest, ATriangleOnThePlayersVeryPlaceCrashesNothing) {

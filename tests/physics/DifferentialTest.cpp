@@ -114,8 +114,9 @@ private:
         const double size = chance(4) ? 0.05 : 1.5;
         const auto corner = [&] {
             if (numbersFail && chance(60)) return Point(not_a_number, 0, 0);
+            if (chance(3)) return Point(below(5) - 2, below(5) - 2, 0); // often meets a bound
             const double x = (below(2001) - 1000) / 1000.0 * size;
-            return Point(x, chance(8) ? 0.0 : (below(2001) - 1000) / 1000.0 * size, 0);
+            return Point(x, (below(2001) - 1000) / 1000.0 * size, 0);
         };
         const Point a = corner(), b = chance(10) ? a : corner(), c = chance(20) ? b : corner();
         Triangle* const triangle = field.lay(a, b, c);
