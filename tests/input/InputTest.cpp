@@ -123,7 +123,8 @@ TEST_F(InputTest, NewestOfTwoOppositeKeysWinsAndFallsBack) {
         int key;
         bool down;
         const char* published;
-    } steps[] = {{SDLK_LEFT, true, "-1,0; "},   {SDLK_RIGHT, true, "1,0; "},
+    } steps[] = {{SDLK_LEFT, false, ""}, // held since before
+                 {SDLK_LEFT, true, "-1,0; "},   {SDLK_RIGHT, true, "1,0; "},
                  {SDLK_RIGHT, false, "-1,0; "}, {SDLK_RIGHT, true, "1,0; "},
                  {SDLK_LEFT, false, "1,0; "},   {SDLK_RIGHT, false, "0,0; "},
                  {SDLK_UP, true, "0,1; "},      {SDLK_DOWN, true, "0,-1; "},

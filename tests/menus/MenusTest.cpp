@@ -147,6 +147,8 @@ TEST_F(MenusTest, EachRowOfTheConfigurationChangesItsOwnSettingWithinItsBounds) 
         run.ticks(2);
         EXPECT_EQ(volumes, stepped);
     }
+    menu.show(menu_load_pause);
+    EXPECT_TRUE(menu.shown && menu.loadMode == menu_load_pause);
     menu.fullScreen = true;
     press({SDLK_ESCAPE});
     EXPECT_EQ(main.subMenu, nullptr);

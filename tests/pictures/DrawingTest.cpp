@@ -147,6 +147,7 @@ const Row shapes[] = {
          }
      }},
     {"grid of no parts", drawGrid<0>},
+    {"grid of one", drawGrid<1>},
     {"grid of three", drawGrid<3>},
     {"axes",
      [] {
