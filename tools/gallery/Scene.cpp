@@ -9,7 +9,6 @@
 #include "game/BombIndicator.h"
 #include "game/GameBase.h"
 #include "game/GameLevel.h"
-#include "game/Marvo.h"
 #include "game/PlayerCharacter.h"
 #include "game/PowerUpLines.h"
 #include "game/PupCooldown.h"
@@ -41,10 +40,12 @@ const T* as(const Entity* entity) {
 
 } // namespace
 
-Scene::Scene(const GameBase& game) : score(Marvo::Instance().score) {
+Scene::Scene(const GameBase& game) {
     if (game.level == nullptr) return;
+    tick = game.level->tickCount;
     const PlayerCharacter& player = *game.level->player;
     deathTicks = player.deathTicks;
+    playerHigh = player.physics->position.y > graphics::Camera::Instance().top - 3.2;
     playerVisible = deathTicks == 0 && (!player.invulnerable || player.graphics->enabled);
     for (const auto& [id, e] : Engine::Instance().entities) {
         if (const auto* const triangle = as<Triangle>(e); triangle != nullptr && inView(*e)) {

@@ -18,7 +18,8 @@ struct Scene {
     float pulse = 0.0F;  ///< the same of a bomb's pulse
     int deathTicks = 0;  ///< left of the player's death
     bool playerVisible = false;
-    unsigned long score = 0;
+    bool playerHigh = false; ///< in the row of the display, or just below
+    unsigned int tick = 0;   ///< of the game
 };
 
 } // namespace gallery
