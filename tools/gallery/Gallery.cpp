@@ -31,12 +31,12 @@ namespace {
 constexpr unsigned int ten_minutes = 20000, measure_interval = 50, late_tick = 9000;
 constexpr unsigned int time_in_menu = 5;     ///< the clock at the start of a level seeds its game
 constexpr unsigned int harmless_start = 101; ///< the cube blinks so long
-constexpr unsigned int look_about = 40;      ///< the triangles turn towards the cube meanwhile
-constexpr unsigned int splinters_fly = 6;    ///< after a catch
+constexpr unsigned int look_about = 25;      ///< the triangles turn towards the cube meanwhile
+constexpr unsigned int splinters_fly = 2;    ///< after a catch
 constexpr unsigned int pause_later = 30;     ///< after a catch
 constexpr unsigned int arrows_fly = 6;       ///< after a death
 constexpr unsigned int pulse_arrives = 63;   ///< its lines are close to the bombs
-constexpr unsigned int film_ticks = 240, ticks_per_frame = 2;
+constexpr unsigned int film_ticks = 216, ticks_per_frame = 2;
 constexpr std::int16_t spare_lives = 3;
 
 class Gallery {
@@ -138,8 +138,6 @@ void Gallery::fence() {
     while (Marvo::Instance().score == 0) {
         before = shot();
         playTick();
-        static int n=0; if (++n%20==0 && n<400) save("dbg"+std::to_string(1000+n));
-        if (n>400) return;
     }
     before.save(folder + "/fence.ppm");
     playTicks(splinters_fly);
@@ -149,14 +147,23 @@ void Gallery::fence() {
     save("pause");
 }
 
+/// One catch, a power-up, another catch.
 void Gallery::film() {
+    unsigned int tick = 0;
+    const auto filmUntil = [&](auto&& isOver) {
+        for (; tick < film_ticks && !isOver(); ++tick) {
+            playTick();
+            if (tick % ticks_per_frame == 0)
+                save("frame-" + std::to_string(10000 + tick)); // in order by name
+        }
+    };
+    const MarvoClass& marvo = Marvo::Instance();
     startFence();
-    for (unsigned int tick = 0; tick < film_ticks; ++tick) {
-        playTick();
-        if (Marvo::Instance().score > 0) player.release();
-        if (tick % ticks_per_frame == 0)
-            save("frame-" + std::to_string(10000 + tick)); // in order by name
-    }
+    filmUntil([&] { return marvo.score > 0; });
+    player.goTo(gallery::power_up_place);
+    filmUntil([&] { return marvo.numLinePUPS() > 0; });
+    player.fence(gallery::second_corner, gallery::second_opposite);
+    filmUntil([] { return false; });
 }
 
 void Gallery::powerUps() {

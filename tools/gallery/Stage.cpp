@@ -25,16 +25,17 @@ void putTriangle(double x, double y, double speed, double size) {
 } // namespace
 
 const Point fence_corner(-4.5, 3.5, 0.0), fence_opposite(4.5, -3.0, 0.0);
+const Point power_up_place(9.0, -7.5, 0.0);
+const Point second_corner(6.0, -2.0, 0.0), second_opposite(15.0, 4.0, 0.0);
 const Point death_place(-6.0, -3.0, 0.0);
 
 void stageFence() {
-    putTriangle(-1.5, -1.8, 1.0, 0.9);
-    putTriangle(0.8, 1.2, 1.0, 1.0);
-    putTriangle(2.6, -1.2, 1.0, 0.8);
-    // For what comes after the catch.
-    put<PupLine>("Line Powerup", 9.0, -1.0);
-    putTriangle(-15.0, -9.0, 4.0, 1.2);
-    putTriangle(16.0, 8.0, 4.0, 1.1);
+    putTriangle(-1.5, -3.2, 1.0, 1.1);
+    putTriangle(0.8, -1.6, 1.0, 1.2);
+    putTriangle(2.8, -3.2, 1.0, 1.0);
+    putTriangle(14.0, 3.0, 1.0, 1.2); // for the second catch
+    putTriangle(11.5, 5.5, 1.0, 1.0);
+    put<PupLine>("Line Powerup", power_up_place.x, power_up_place.y);
 }
 
 void stageDeath() {
