@@ -2,7 +2,9 @@
 """Makes the game's two faces from one set of strokes: fonts/KovMenu.ttf, low enough for rows that
 stand 0.75 apart, and fonts/KovText.ttf, taller and heavier for pages, which are drawn at scale
 0.75. Corners lie on 64ths of the em, the grid on which the game's renderer places them, so that
-strokes keep one weight. Needs python3-fonttools and python3-shapely; the same bytes each time."""
+strokes keep one weight. Bearings, advances and the kerning of pairs that occur in the game's texts
+put the stems where they get one width in pixels. Needs python3-fonttools and python3-shapely; the
+same bytes each time."""
 
 import math
 import os
@@ -10,16 +12,22 @@ import sys
 
 from fontTools.fontBuilder import FontBuilder
 from fontTools.pens.ttGlyphPen import TTGlyphPen
+from fontTools.ttLib import newTable
+from fontTools.ttLib.tables._k_e_r_n import KernTable_format_0
 from shapely.geometry import CAP_STYLE, JOIN_STYLE, LineString, Polygon
 from shapely.geometry.polygon import orient
 from shapely.ops import unary_union
 
 from glyphs import GLYPHS
+from kerning import KERNING
 
 GRID = 64  # steps per em
 UNITS = 1024  # font units per em
 DIGITS = "0123456789"
 MITRE_LIMIT = 1.5  # of half a stroke: corners of 90 degrees stay sharp
+# The game's renderer looks up the kerning of the glyphs before this one when the face has no size
+# yet, and gets none.
+FIRST_KERNED = 128
 EPOCH = 3786825600  # seconds from 1904 to 2024: a fixed date
 COPYRIGHT = "Made for KOV. CC0 1.0: no rights reserved."
 
@@ -27,16 +35,16 @@ COPYRIGHT = "Made for KOV. CC0 1.0: no rights reserved."
 class Style:
     """Lengths in 64ths of the em."""
 
-    def __init__(self, name, scale, stroke, bearings, digit_left, digit_advance, blank):
+    def __init__(self, name, scale, stroke, bearings, digit_left, digit_advance, blank, step):
         self.name, self.scale, self.half = name, scale, stroke / 2
         self.left, self.right = bearings
         self.digit_left, self.digit_advance = digit_left, digit_advance
-        self.blank = blank
+        self.blank, self.step = blank, step  # the advances of all others are multiples of the step
 
 
 STYLES = [
-    Style("KovMenu", 1.0, 6, (3, 4), 2, 24, 15),
-    Style("KovText", 4 / 3, 8, (4, 5), 4, 34, 20),
+    Style("KovMenu", 1.0, 7, (4, 5), 2, 24, 16, 8),
+    Style("KovText", 4 / 3, 9, (5, 6), 4, 34, 20, 4),
 ]
 
 
@@ -80,13 +88,25 @@ def draw(character, style):
                     pen.lineTo(placed[i])
             pen.closePath()
     fixed = {" ": style.blank, **dict.fromkeys(DIGITS, style.digit_advance)}
-    return pen.glyph(), on_grid(fixed.get(character, advance))
+    stepped = math.floor(advance / style.step + 0.5) * style.step
+    return pen.glyph(), on_grid(fixed.get(character, stepped))
+
+
+def kerning_table(pairs, names):
+    """The only form of kerning that the game's renderer reads."""
+    part = KernTable_format_0()
+    part.coverage, part.apple = 1, False
+    part.kernTable = {(names[ord(a)], names[ord(b)]): on_grid(by) for (a, b), by in pairs.items()}
+    table = newTable("kern")
+    table.version, table.kernTables = 0, [part]
+    return table
 
 
 def make(style, folder):
     characters = sorted(GLYPHS)
     names = {ord(c): f"uni{ord(c):04X}" for c in characters}
     drawn = {".notdef": draw(" ", style)}
+    drawn.update((f"unused{i}", draw(" ", style)) for i in range(1, FIRST_KERNED))
     drawn.update((names[ord(c)], draw(c, style)) for c in characters)
     builder = FontBuilder(UNITS, isTTF=True)
     builder.setupGlyphOrder(list(drawn))
@@ -111,7 +131,9 @@ def make(style, folder):
     )
     builder.setupOS2(fsType=0, sTypoAscender=ascent, sTypoDescender=-descent, usWinAscent=ascent,
                      usWinDescent=descent)
-    builder.setupPost()
+    builder.setupPost(keepGlyphNames=False)
+    if KERNING.get(style.name):
+        builder.font["kern"] = kerning_table(KERNING[style.name], names)
     builder.font["head"].created = builder.font["head"].modified = EPOCH
     builder.font.recalcTimestamp = False
     builder.save(os.path.join(folder, style.name + ".ttf"))

@@ -1,83 +1,59 @@
-// Makes the pictures of docs/gallery: plays one game by a fixed clock and fixed rules, and keeps of
-// each kind of moment the one that shows most.
+// Makes the pictures of docs/gallery, on a virtual clock and by fixed rules.
 //
-//   gallery pictures FOLDER WIDTH HEIGHT SEED   all pages and moments
-//   gallery film FOLDER WIDTH HEIGHT SEED       the frames of the game's liveliest seconds
+//   gallery SCENE FOLDER WIDTH HEIGHT
 //
-// All as PPM. WIDTH and HEIGHT are the screen's, in pixels; SEED is how
-// many ticks pass in the menu: the clock at the start of a level seeds its game.
+// SCENE is one of the table below. Its pictures go into FOLDER as PPM; WIDTH and HEIGHT are the
+// screen's, in pixels. Moments that explain are set up by hand (Stage.h) and then played; the late
+// field is the fullest of one long game.
 
-#include "Framework/MessageHandler.h"
-#include "Framework/Messages.h"
 #include "game/GameBase.h"
 #include "game/Marvo.h"
 #include "headless/HeadlessGame.h"
 #include "tools/gallery/Picture.h"
 #include "tools/gallery/Player.h"
+#include "tools/gallery/Rays.h"
 #include "tools/gallery/Scene.h"
+#include "tools/gallery/Stage.h"
 
 #include <SDL.h>
 
 #include <cmath>
 #include <cstdint>
 #include <iostream>
-#include <memory>
 #include <string>
-#include <vector>
 
 using gallery::Picture;
 using gallery::Scene;
 
 namespace {
 
-constexpr unsigned int game_ticks = 6000, pause_tick = 1500;
-constexpr unsigned int film_ticks = 240, ticks_per_frame = 2;
-constexpr double worth_of_catch = 60.0, cost_of_death = 20.0; ///< for the film, in crowds
-
-/// 1 at the middle of a fade's best part, 0 outside.
-double near(float alpha, double best) {
-    return std::fmax(0.0, 1.0 - 10.0 * std::fabs(alpha - best));
-}
-
-double crowd(const Scene& s) {
-    return 2.0 * s.triangles + 2.0 * s.stuck + s.lines;
-}
-
-/// A kind of moment; the merit says how well one shows it, 0 for not at all.
-struct Moment {
-    const char* name;
-    double (*merit)(const Scene& s);
-    double best = 0.0;
-    Picture picture = {};
-};
-
-Moment moments[] = {
-    {"busy", [](const Scene& s) { return s.playerVisible ? crowd(s) : 0.0; }},
-    {"square", [](const Scene& s) { return near(s.square, 0.7) * (crowd(s) + 3.0 * s.splinters); }},
-    {"death", [](const Scene& s) { return near(0.01F * s.deathTicks, 0.9) * s.splinters; }},
-    {"clear-bomb",
-     [](const Scene& s) { return s.clearBombs * near(s.pulse, 0.45) * (10.0 + crowd(s)); }},
-    {"immune-bomb",
-     [](const Scene& s) { return s.immuneBombs * near(s.pulse, 0.45) * (10.0 + crowd(s)); }},
-    {"power-ups",
-     [](const Scene& s) {
-         const bool both = s.linePowerUps > 0 && s.cooldownPowerUps > 0;
-         const bool any = s.linePowerUps > 0 || s.cooldownPowerUps > 0;
-         return any && s.playerVisible ? (both ? 100.0 : 0.0) + s.rays + crowd(s) : 0.0;
-     }},
-};
+// In ticks.
+constexpr unsigned int ten_minutes = 20000, measure_interval = 50, late_tick = 9000;
+constexpr unsigned int time_in_menu = 5;     ///< the clock at the start of a level seeds its game
+constexpr unsigned int harmless_start = 101; ///< the cube blinks so long
+constexpr unsigned int look_about = 25;      ///< the triangles turn towards the cube meanwhile
+constexpr unsigned int splinters_fly = 2;    ///< after a catch
+constexpr unsigned int pause_later = 30;     ///< after a catch
+constexpr unsigned int arrows_fly = 6;       ///< after a death
+constexpr unsigned int pulse_arrives = 63;   ///< its lines are close to the bombs
+constexpr unsigned int film_ticks = 216, ticks_per_frame = 2;
+constexpr std::int16_t spare_lives = 3;
 
 class Gallery {
 public:
-    Gallery(std::string folder_, unsigned short width_, unsigned short height_, unsigned int seed_)
-        : folder(std::move(folder_)), width(width_), height(height_), seed(seed_),
-          run(0, width, height), player(run) {}
+    Gallery(std::string folder_, unsigned short width_, unsigned short height_)
+        : folder(std::move(folder_)), width(width_), height(height_), run(0, width, height),
+          player(run) {}
 
-    void pictures();
-    /// Plays without a camera.
-    /// @return the tick of the game from which the film is to run
-    unsigned int findFilm();
-    void film(unsigned int firstTick);
+    // The scenes.
+    void pages();
+    void fence();
+    void film();
+    void powerUps();
+    void death();
+    void late();
+    void verdicts();
+    void rays();
 
 private:
     Picture shot() const { return Picture::ofScreen(width, height); }
@@ -85,14 +61,13 @@ private:
     void press(int symbol);
     void startGame();
     bool playTick(); ///< whether the game goes on
-    void showPages();
-    void showGame();
+    void playTicks(unsigned int count);
+    bool playLongTick(); ///< the same in a game that no death ends
+    void startFence();
     void showEnd(const std::string& name);
-    void keepBest();
 
     const std::string folder;
     const unsigned short width, height;
-    const unsigned int seed;
     quorva::headless::HeadlessGame run;
     gallery::Player player;
 };
@@ -104,7 +79,7 @@ void Gallery::press(int symbol) {
 }
 
 void Gallery::startGame() {
-    for (unsigned int i = 0; i < seed; ++i)
+    for (unsigned int i = 0; i < time_in_menu; ++i)
         run.process(); // unseen
     run.startLevel();
     run.tick();
@@ -116,17 +91,17 @@ bool Gallery::playTick() {
     return run.game().level != nullptr;
 }
 
-void Gallery::pictures() {
-    showPages();
-    startGame();
-    showGame();
-    showEnd("record");
-    press(SDLK_RETURN);
-    startGame();
-    showEnd("game-over"); // worse than the record of just now
+void Gallery::playTicks(unsigned int count) {
+    for (unsigned int i = 0; i < count; ++i)
+        playTick();
 }
 
-void Gallery::showPages() {
+bool Gallery::playLongTick() {
+    Marvo::Instance().lives = spare_lives;
+    return playTick();
+}
+
+void Gallery::pages() {
     const auto page = [this](int downs, const char* name) {
         for (int i = 0; i < downs; ++i)
             press(SDLK_DOWN);
@@ -145,35 +120,96 @@ void Gallery::showPages() {
     save("config-accuracy");
     press(SDLK_DOWN);
     save("config-cpu");
-    press(SDLK_ESCAPE);
 }
 
-void Gallery::showGame() {
-    for (unsigned int tick = 0; tick < game_ticks && playTick(); ++tick) {
-        if (tick == pause_tick) {
-            press(SDLK_p);
-            save("pause");
-            press(SDLK_p);
+/// Up to the first shot.
+void Gallery::startFence() {
+    startGame();
+    player.goTo(gallery::fence_corner);
+    playTicks(harmless_start - look_about);
+    gallery::stageFence();
+    playTicks(look_about);
+    player.fence(gallery::fence_corner, gallery::fence_opposite);
+}
+
+void Gallery::fence() {
+    startFence();
+    Picture before;
+    while (Marvo::Instance().score == 0) {
+        before = shot();
+        playTick();
+    }
+    before.save(folder + "/fence.ppm");
+    playTicks(splinters_fly);
+    save("square");
+    playTicks(pause_later);
+    press(SDLK_p);
+    save("pause");
+}
+
+/// One catch, a power-up, another catch.
+void Gallery::film() {
+    unsigned int tick = 0;
+    const auto filmUntil = [&](auto&& isOver) {
+        for (; tick < film_ticks && !isOver(); ++tick) {
+            playTick();
+            if (tick % ticks_per_frame == 0)
+                save("frame-" + std::to_string(10000 + tick)); // in order by name
         }
-        keepBest();
-    }
-    for (const Moment& moment : moments) {
-        if (moment.best > 0.0)
-            moment.picture.save(folder + '/' + moment.name + ".ppm");
-        else
-            std::cerr << "The game has not shown: " << moment.name << '\n';
-        std::cout << moment.name << ' ' << moment.best << "  ";
-    }
+    };
+    const MarvoClass& marvo = Marvo::Instance();
+    startFence();
+    filmUntil([&] { return marvo.score > 0; });
+    player.goTo(gallery::power_up_place);
+    filmUntil([&] { return marvo.numLinePUPS() > 0; });
+    player.fence(gallery::second_corner, gallery::second_opposite);
+    filmUntil([] { return false; });
 }
 
-void Gallery::keepBest() {
-    const Scene scene(run.game());
-    for (Moment& moment : moments) {
-        const double merit = moment.merit(scene);
-        if (merit <= moment.best) continue;
-        moment.best = merit;
-        moment.picture = shot();
+void Gallery::powerUps() {
+    startGame();
+    run.ticks(harmless_start);
+    gallery::stagePowerUps();
+    run.ticks(pulse_arrives);
+    save("power-ups");
+}
+
+void Gallery::death() {
+    startGame();
+    player.goTo(gallery::death_place);
+    playTicks(harmless_start - look_about);
+    gallery::stageDeath();
+    playTicks(look_about);
+    for (const int gun : {SDLK_w, SDLK_d})
+        run.press(gun);
+    while (Scene(run.game()).deathTicks == 0)
+        playTick();
+    playTicks(arrows_fly);
+    save("death");
+}
+
+void Gallery::late() {
+    double best = 0.0;
+    Picture picture;
+    startGame();
+    for (unsigned int tick = 0; tick < ten_minutes && playLongTick(); ++tick) {
+        const Scene scene(run.game());
+        if (tick < late_tick || scene.playerHigh || !scene.playerVisible) continue;
+        const double crowd = 2.0 * scene.triangles + 2.0 * scene.stuck + scene.lines;
+        if (crowd <= best) continue;
+        best = crowd;
+        picture = shot();
     }
+    picture.save(folder + "/busy.ppm");
+}
+
+void Gallery::verdicts() {
+    startFence();
+    playTicks(harmless_start); // the fence closes
+    showEnd("record");
+    press(SDLK_RETURN);
+    startGame();
+    showEnd("game-over"); // worse than the record of just now
 }
 
 /// Stands still until the game is lost.
@@ -183,62 +219,52 @@ void Gallery::showEnd(const std::string& name) {
         run.tick();
     run.tick();
     save(name);
-    std::cout << name << ": " << Marvo::Instance().score << " points\n";
 }
 
-unsigned int Gallery::findFilm() {
+void Gallery::rays() {
     startGame();
-    std::vector<double> worth; // of every tick
-    unsigned long score = 0;
-    while (worth.size() < game_ticks && playTick()) {
-        const Scene scene(run.game());
-        worth.push_back(crowd(scene) + (scene.score > score ? worth_of_catch : 0.0) -
-                        (scene.deathTicks > 0 ? cost_of_death : 0.0));
-        score = scene.score;
-    }
-    double sum = 0.0, best = 0.0;
-    unsigned int first = 0;
-    for (unsigned int tick = 0; tick < worth.size(); ++tick) {
-        sum += worth[tick] - (tick >= film_ticks ? worth[tick - film_ticks] : 0.0);
-        if (sum <= best) continue;
-        best = sum;
-        first = tick >= film_ticks ? tick - film_ticks : 0;
-    }
-    return first;
+    gallery::Rays measured(run, width, height);
+    for (unsigned int tick = 1; tick <= ten_minutes && playLongTick(); ++tick)
+        if (tick % measure_interval == 0) measured.measure();
+    measured.report();
 }
 
-void Gallery::film(unsigned int firstTick) {
-    quorva::publish(quorva::messages::ResetVideo()); // the letters went with the first run's window
-    startGame();
-    for (unsigned int tick = 0; tick < firstTick + film_ticks && playTick(); ++tick) {
-        if (tick < firstTick || tick % ticks_per_frame != 0) continue;
-        const std::string number = std::to_string(10000 + tick); // in order by name
-        save("frame-" + number);
-    }
+const struct {
+    const char* name;
+    void (Gallery::*play)();
+    const char* shows;
+} scenes[] = {
+    {"pages", &Gallery::pages, "main menu, configuration, help, about"},
+    {"fence", &Gallery::fence, "three triangles before and after their fence closes; the pause"},
+    {"film", &Gallery::film, "the frames of a catch and of what follows"},
+    {"power-ups", &Gallery::powerUps, "one of each, and of the bombs"},
+    {"death", &Gallery::death, "a moment after a death"},
+    {"late", &Gallery::late, "the fullest field of ten minutes"},
+    {"verdicts", &Gallery::verdicts, "the page after a game, with a record and without"},
+    {"rays", &Gallery::rays, "no picture: prints what the rays are of ten minutes"},
+};
+
+int usage() {
+    std::cerr << "Usage: gallery SCENE FOLDER WIDTH HEIGHT\n";
+    for (const auto& scene : scenes)
+        std::cerr << "  " << scene.name << ": " << scene.shows << '\n';
+    return 2;
 }
 
 } // namespace
 
 int main(int argc, char* argv[]) {
-    const std::string what = argc == 6 ? argv[1] : "";
-    if (what != "pictures" && what != "film") {
-        std::cerr << "Usage: gallery pictures|film FOLDER WIDTH HEIGHT SEED\n";
-        return 2;
-    }
-    if (SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK) < 0) {
-        std::cerr << "No display: " << SDL_GetError() << '\n';
-        return 1;
-    }
-    const auto open = [argv] {
-        return std::make_unique<Gallery>(argv[2], static_cast<unsigned short>(std::stoi(argv[3])),
-                                         static_cast<unsigned short>(std::stoi(argv[4])),
-                                         static_cast<unsigned int>(std::stoul(argv[5])));
-    };
-    if (what == "pictures") {
-        open()->pictures();
+    const std::string name = argc == 5 ? argv[1] : "";
+    for (const auto& scene : scenes) {
+        if (name != scene.name) continue;
+        if (SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK) < 0) {
+            std::cerr << "No display: " << SDL_GetError() << '\n';
+            return 1;
+        }
+        Gallery gallery(argv[2], static_cast<unsigned short>(std::stoi(argv[3])),
+                        static_cast<unsigned short>(std::stoi(argv[4])));
+        (gallery.*scene.play)();
         return 0;
     }
-    const unsigned int firstTick = open()->findFilm();
-    open()->film(firstTick);
-    return 0;
+    return usage();
 }

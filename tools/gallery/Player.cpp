@@ -25,9 +25,11 @@ constexpr double reach = 9.0;         ///< how near the prey of a fence has to b
 constexpr double fence_margin = 2.2;  ///< between the prey and the far sides of its fence
 constexpr double line_distance = 1.2; ///< the player keeps off its own fence by this
 constexpr double too_close = 2.6;
+constexpr double stride = 0.25; ///< of the cube, per tick
 constexpr double arrived = 0.2;
 constexpr unsigned int worth_the_walk = 3; ///< power-ups and bombs that lie about: a fuller picture
 constexpr double edge_margin = 0.8;
+constexpr double top_margin = 3.5;             ///< for the display and the cube's arrows below it
 constexpr unsigned int patience_per_stop = 60; ///< ticks
 
 const int move_keys[] = {SDLK_RIGHT, SDLK_LEFT, SDLK_UP, SDLK_DOWN};
@@ -40,7 +42,7 @@ double distance(const math::Point& a, const math::Point& b) {
 math::Point onField(math::Point p) {
     const auto& camera = graphics::Camera::Instance();
     p.x = std::fmin(std::fmax(p.x, camera.left + edge_margin), camera.right - edge_margin);
-    p.y = std::fmin(std::fmax(p.y, camera.bottom + edge_margin), camera.top - edge_margin);
+    p.y = std::fmin(std::fmax(p.y, camera.bottom + edge_margin), camera.top - top_margin);
     return p;
 }
 
@@ -54,6 +56,7 @@ void Player::play() {
         stops.clear();
         return;
     }
+    if (directed) return stops.empty() ? steer(0.0, 0.0) : follow();
     const Triangle* const nearest = nearestTriangle();
     if (nearest != nullptr && !cube->invulnerable && stepBack(*nearest)) return;
     if (stops.empty() && nearest != nullptr) plan(*nearest);
@@ -81,21 +84,30 @@ const Triangle* Player::nearestTriangle() const {
     return nearest;
 }
 
-/// Two sides of the fence from here, the other two from beyond the prey, walking outside of it.
+void Player::goTo(const math::Point& place) {
+    stops = {{place, {0, 0}}};
+    patience = patience_per_stop;
+    directed = true;
+}
+
+void Player::fence(const math::Point& corner, const math::Point& opposite) {
+    planFence(corner, opposite);
+    directed = true;
+}
+
 void Player::plan(const Triangle& prey) {
     const math::Point here = cube->physics->position, there = prey.physics->position;
     if (distance(here, there) > reach) return;
-    const bool right = there.x > here.x, up = there.y > here.y;
-    const double sx = right ? 1.0 : -1.0, sy = up ? 1.0 : -1.0;
-    const double sideX = there.x + sx * fence_margin, sideY = there.y + sy * fence_margin;
-    const double outY = here.y - sy * line_distance, outX = sideX + sx * line_distance;
-    const int across = right ? SDLK_d : SDLK_a, back = right ? SDLK_a : SDLK_d;
-    const int along = up ? SDLK_w : SDLK_s;
-    stops = {{here, {across, along}},
-             {onField({here.x, outY, 0.0}), {0, 0}},
-             {onField({sideX, outY, 0.0}), {along, 0}},
-             {onField({outX, outY, 0.0}), {0, 0}},
-             {onField({outX, sideY, 0.0}), {back, 0}}};
+    planFence(here, {there.x + std::copysign(fence_margin, there.x - here.x),
+                     there.y + std::copysign(fence_margin, there.y - here.y), 0.0});
+}
+
+void Player::planFence(const math::Point& corner, const math::Point& opposite) {
+    const bool right = opposite.x > corner.x, up = opposite.y > corner.y;
+    const double outY = corner.y - (up ? line_distance : -line_distance);
+    stops = {{corner, {right ? SDLK_d : SDLK_a, up ? SDLK_w : SDLK_s}},
+             {onField({opposite.x, outY, 0.0}), {0, 0}},
+             {onField(opposite), {right ? SDLK_a : SDLK_d, up ? SDLK_s : SDLK_w}}};
     patience = patience_per_stop;
 }
 
@@ -116,9 +128,17 @@ void Player::planWalk() {
     patience = 8; // looks about again soon
 }
 
+/// A key of now moves the cube only from the tick after the next.
+math::Point Player::placeAfterTick() const {
+    math::Point place = cube->physics->position;
+    place.x += stride * (held[0] - held[1]);
+    place.y += stride * (held[2] - held[3]);
+    return place;
+}
+
 void Player::follow() {
     const Stop& next = stops.front();
-    const math::Point here = cube->physics->position;
+    const math::Point here = placeAfterTick();
     const double dx = next.place.x - here.x, dy = next.place.y - here.y;
     if (std::fabs(dx) <= arrived && std::fabs(dy) <= arrived) return arrive(next);
     steer(dx, dy);

@@ -14,12 +14,19 @@ class HeadlessGame;
 namespace gallery {
 
 /// Plays by keys, for the pictures: fences the nearest triangle in with four lines, takes what
-/// lies about, and steps back from what comes too close.
+/// lies about, steps back from what comes too close, and keeps off the display's row.
 class Player {
 public:
     explicit Player(quorva::headless::HeadlessGame& run_) : run(run_) {}
     void play(); ///< before every tick
     void rest(); ///< lets go of all keys
+
+    // Direction: until it is released, it does this and nothing else, whatever comes near.
+    void goTo(const quorva::math::Point& place);
+    /// Two shots from the first corner, two from the opposite one, walking outside. No corner may
+    /// lie at the edge of the field.
+    void fence(const quorva::math::Point& corner, const quorva::math::Point& opposite);
+    void release() { directed = false; }
 
 private:
     /// Go there, then fire these guns.
@@ -30,7 +37,9 @@ private:
 
     const Triangle* nearestTriangle() const;
     void plan(const Triangle& prey);
+    void planFence(const quorva::math::Point& corner, const quorva::math::Point& opposite);
     void planWalk();
+    quorva::math::Point placeAfterTick() const;
     void follow();
     bool stepBack(const Triangle& hunter);
     void steer(double dx, double dy);
@@ -41,6 +50,7 @@ private:
     const PlayerCharacter* cube = nullptr;
     std::deque<Stop> stops;
     unsigned int patience = 0; ///< ticks left for the way to the next stop
+    bool directed = false;     ///< plans nothing itself
     bool held[4] = {};         ///< right, left, up, down
 };
 
