@@ -61,6 +61,12 @@ bool toEvent(const SDL_Event& from, Event& event) {
     }
 }
 
+bool songIsDue(std::uint32_t clock) {
+    const FModMP3Input* const songs = songPlayer();
+    return songs != nullptr &&
+           static_cast<std::int32_t>(clock - (songs->songEndTime + songs->pausedTime)) > 0;
+}
+
 } // namespace
 
 Recorder::Recorder(const std::string& path) : file(path) {}
@@ -144,22 +150,28 @@ void Recorder::begin() {
     }
 }
 
+/// The clock was read by nobody but those who read it in every pass.
+bool Recorder::isPlain() const {
+    const bool rests = config::Config::Instance().getSaveCPU() && !Timer::Instance().paused;
+    const std::size_t reads = idle_clock_reads + (rests ? 1 : 0) + (progress.ticked ? 1 : 0);
+    return pass.songs.empty() && pass.clock.size() == reads;
+}
+
 /// Nothing came in this pass, and nothing was done in it but what is done in every pass.
 bool Recorder::isIdle() const {
-    const bool rests = config::Config::Instance().getSaveCPU() && !Timer::Instance().paused;
-    return !progress.ticked && pass.events.empty() && pass.songs.empty() &&
-           pass.clock.size() == idle_clock_reads + (rests ? 1 : 0);
+    return isPlain() && !progress.ticked && pass.events.empty();
 }
 
 /// The same would be done again with the clock as it was: a song is due and can't be played.
 bool Recorder::couldRepeat() const {
-    const FModMP3Input& songs = *songPlayer();
-    return songs.songPlaying && idle<longest_idle&& static_cast<std::int32_t>(
-                                    lastClock - (songs.songEndTime + songs.pausedTime))> 0;
+    if (idle == longest_idle) return false;
+    return songPlayer()->songPlaying && songIsDue(lastClock);
 }
 
 void Recorder::endPass() {
     Record record;
+    // Where all would do the same at the last of these times, that one is enough.
+    if (isPlain() && songIsDue(pass.clock.front()) == songIsDue(now)) pass.clock = {now};
     std::swap(record.pass_, pass);
     record.pass_.idle = std::exchange(idle, 0);
     if (!record.pass_.clock.empty()) lastClock = record.pass_.clock.back();

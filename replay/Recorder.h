@@ -34,6 +34,7 @@ public:
 
 private:
     void begin();
+    bool isPlain() const;
     bool isIdle() const;
     bool couldRepeat() const;
     void endPass();

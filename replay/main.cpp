@@ -7,7 +7,9 @@
 #include "replay/Watcher.h"
 #include "replay/Words.h"
 
+#include "Framework/GameInfo.h"
 #include "Framework/Utility.h"
+#include "game/GameIdentity.h"
 
 #include <boost/filesystem.hpp>
 
@@ -88,6 +90,7 @@ void nameFile(const fs::path& path, const Recorder& recorder, bool nameGiven) {
     boost::system::error_code ignored; // it keeps the name that it has
     if (recorder.games == 0) {
         fs::remove(path, ignored);
+        if (!nameGiven) fs::remove(path.parent_path(), ignored); // unless there are others
         return;
     }
     fs::path name = path;
@@ -247,6 +250,11 @@ int run(Words words) {
     words.erase(words.begin());
     if (name == "--help" || name == "-h") {
         std::cout << usage_text;
+        return 0;
+    }
+    if (name == "--version") {
+        introduceGame();
+        std::cout << "KOV " << quorva::GameInfo::Instance().version << '\n';
         return 0;
     }
     for (const auto& command : commands)
