@@ -15,7 +15,7 @@ namespace quorva::replay {
 namespace {
 
 constexpr std::uint32_t flush_interval = 300;     // ticks
-constexpr std::size_t full_block = 48U << 10U;    // bytes; a pass more has room
+constexpr std::size_t full_block = 3U << 10U;     // bytes; no such block grows too much to be read
 constexpr std::size_t idle_clock_reads = 2;       // by the songs and the main loop
 constexpr std::uint64_t longest_idle = 1U << 20U; // passes in a record
 
