@@ -263,7 +263,8 @@ Pass RecordReader::readPass(ByteReader& in) {
     }
     if ((flags & has_axes) != 0) pass.axes.resize(in.count());
     for (std::int16_t& position : pass.axes) {
-        position = static_cast<std::int16_t>(in.signedNumber() + axisBefore);
+        position =
+            static_cast<std::int16_t>(static_cast<std::int16_t>(in.signedNumber()) + axisBefore);
         axisBefore = axis;
         axis = position;
     }

@@ -215,7 +215,8 @@ int film(const fs::path& data, Words words) {
     const Summary summary(path);
     const Film::Format format = toFormat(size, summary);
     if (fs::exists(out)) throw std::runtime_error(out + " is there already");
-    if (runProgram({"ffmpeg", "-nostdin", "-v", "quiet", "-version"}) != 0)
+    if (runProgram({"ffmpeg", "-nostdin", "-v", "quiet", "-f", "lavfi", "-i", "anullsrc",
+                    "-frames:a", "1", "-f", "null", "-"}) != 0)
         throw std::runtime_error("films are made by the program ffmpeg; please install the package "
                                  "ffmpeg");
     requireDisplay();
