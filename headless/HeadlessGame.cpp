@@ -101,7 +101,7 @@ bool HeadlessGame::isOver() const {
 }
 
 std::uint32_t HeadlessGame::stateHash() const {
-    return combined(stateParts(*base));
+    return combined(stateParts());
 }
 
 } // namespace quorva::headless

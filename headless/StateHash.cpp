@@ -14,7 +14,6 @@
 #include "game/BombImmune.h"
 #include "game/BombIndicator.h"
 #include "game/Bullet.h"
-#include "game/GameBase.h"
 #include "game/GameLevel.h"
 #include "game/Marvo.h"
 #include "game/PlayerCharacter.h"
@@ -206,19 +205,29 @@ StatePart clock() {
     return {"clock", 0, m.result()};
 }
 
-StatePart linesAndAim(const physics::PhysicsProcessor& physics) {
+/// Null in the menus, where it has nothing to do.
+const physics::PhysicsProcessor* activePhysics() {
+    for (const Component* component : Engine::Instance().components)
+        if (const auto* const found = dynamic_cast<const physics::PhysicsProcessor*>(component))
+            return found;
+    return nullptr;
+}
+
+StatePart linesAndAim() {
     Mixer m;
-    m.add(PointManager::Instance().getV("Player Location").value, physics.gameOverPending);
-    for (const TrapLine* line : physics.lines)
-        m.add(static_cast<const Entity*>(line));
+    const physics::PhysicsProcessor* const physics = activePhysics();
+    m.add(PointManager::Instance().getV("Player Location").value,
+          physics != nullptr && physics->gameOverPending);
+    if (physics != nullptr)
+        for (const TrapLine* line : physics->lines)
+            m.add(static_cast<const Entity*>(line));
     return {"list of lines", 0, m.result()};
 }
 
 } // namespace
 
-std::vector<StatePart> stateParts(const GameBase& game) {
-    std::vector<StatePart> parts = {score(), randomStream(), clock(),
-                                    linesAndAim(*game.physicsProcessor)};
+std::vector<StatePart> stateParts() {
+    std::vector<StatePart> parts = {score(), randomStream(), clock(), linesAndAim()};
     for (const auto& [id, entity] : Engine::Instance().entities)
         parts.push_back(part(*entity));
     return parts;

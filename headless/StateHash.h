@@ -4,8 +4,6 @@
 #include <string>
 #include <vector>
 
-class GameBase;
-
 namespace quorva::headless {
 
 /// One thing that play depends on, as a hash that knows nothing of addresses and is the same in
@@ -17,7 +15,7 @@ struct StatePart {
 };
 
 /// Score and lives, random stream, clock, lines, then every entity by rising id.
-std::vector<StatePart> stateParts(const GameBase& game);
+std::vector<StatePart> stateParts();
 
 /// One hash of all parts.
 std::uint32_t combined(const std::vector<StatePart>& parts);

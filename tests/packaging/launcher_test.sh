@@ -176,6 +176,18 @@ expect "help needs no display" "arguments: --help"
 DISPLAY='' kov --version
 grep -qxE 'KOV [0-9.]+' out || fail "no version: $(cat out)"
 
+# The same launcher by another name keeps games in the player's folder; the rest needs none.
+cp "$programs/kov" "$programs/kov-replay" && ln -s kov "$bin/kov-replay"
+replay() { (cd "$root/home" && "$bin/kov-replay" "$@") >"$root/out" 2>&1 </dev/null; }
+ROUND='pwd' replay record one.kovreplay -- -f
+expect "keeping a game" "arguments: record $root/home/one.kovreplay -- -f; colours: "
+expect "keeping a game, where" "$home"
+ROUND='pwd' replay record
+expect "keeping a game without a name" "arguments: record; colours: "
+(cd "$share" && "$bin/kov-replay" verify "a b" >"$root/out" 2>&1)
+expect "proving a game" "arguments: --data $share verify a b; colours: "
+rm "$bin/kov-replay"
+
 # Started by its icon: each way to tell the player is taken if those before it aren't there.
 for tool in xmessage zenity notify-send; do
     double $tool "printf '%s ' $tool \"\$@\" >>'$root/shown'"

@@ -15,14 +15,15 @@ for asset in data/* fonts/* Sounds/* Songs/* textures/*; do
 done
 says debian/changelog "kov ($version)"
 says packaging/org.kovgame.kov.metainfo.xml "<release version=\"$version\""
-says packaging/kov.6 "\"KOV $version\""
+for page in kov kov-replay; do says packaging/$page.6 "\"KOV $version\""; done
 says manual.html "version $version"
 says game/AboutMenu.cpp "KOV $version"
 [ "$(./play.sh --version)" = "KOV $version" ] || { echo "FAILED: play.sh --version" && failures=1; }
 
 for language in de es fr it pl pt ru; do
+    says packaging/kov-replay.desktop "Comment[$language]="
     for key in GenericName Comment Keywords; do says packaging/kov.desktop "${key}[$language]="; done
-    [ "$(grep -c "^Name\[$language\]=" packaging/kov.desktop)" -eq 2 ] ||
+    [ "$(grep -c "^Name\[$language\]=" packaging/kov.desktop)" -eq 3 ] ||
         { echo "FAILED: actions in $language" && failures=1; }
 done
 exit $failures

@@ -36,7 +36,7 @@ void addSquares(std::ostream& out, const std::vector<PhysicsProcessor::Square>& 
 
 /// Everything else that a tick can change, one line for each object.
 void addObjects(std::ostream& out, const Field& field) {
-    for (const headless::StatePart& part : headless::stateParts(field.run.game()))
+    for (const headless::StatePart& part : headless::stateParts())
         out << headless::describe(part) << " state " << part.hash << '\n';
     for (const Entity* e : field.physics->entities) {
         out << e->id << (e->physics->hitLine ? " held, knows" : " knows");

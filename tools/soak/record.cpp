@@ -1,59 +1,90 @@
-// Records the games that the tests replay anew: for a change that is meant to alter play.
-//   kov_record FOLDER
+// Lets the bot play and keeps its game: for the games that the tests play again.
+//   kov_record FILE [--seed S] [--ticks N] [--pages 1] [--songs N] [--stick 1] [--music 0]
+//     [--idle N]
+// With --idle, N passes go by between two ticks, as on a real machine.
 
 #include "headless/Bot.h"
-#include "headless/HeadlessGame.h"
-#include "headless/Recording.h"
 #include "headless/Sandbox.h"
-#include "headless/StateHash.h"
+#include "platform/standins/SoundRecorder.h"
+#include "platform/standins/VirtualSDL.h"
+#include "replay/Recorder.h"
 
+#include "Framework/Timer.h"
 #include "game/Marvo.h"
 
+#include <cstdlib>
+#include <fstream>
 #include <iostream>
+#include <map>
 
-using namespace quorva::headless;
+int gameMain(int argc, char* argv[]); // the game's own main
+
+using namespace quorva;
+using standins::sdl;
 
 namespace {
 
-const struct {
-    const char* name;
-    std::uint32_t seed;
-    std::uint32_t ticks;
-    bool visitsPages;
-} games[] = {
-    {"first-steps", 11, 1000, false},
-    {"one-game", 23, 5000, false},
-    {"pages-and-pauses", 37, 3000, true},
-    {"long-evening", 58, 14000, true},
-};
+using Options = std::map<std::string, unsigned long>;
+
+bool parse(int argc, char* argv[], Options& options) {
+    for (int i = 2; i < argc; i += 2) {
+        const auto option = options.find(argv[i]);
+        if (i + 1 == argc || option == options.end()) return false;
+        option->second = std::strtoul(argv[i + 1], nullptr, 10);
+    }
+    return argc > 1;
+}
+
+/// Moves the stick about, every other second; the bot has the keys.
+void moveStick(std::uint32_t tick) {
+    if (tick % 64 > 8) return;
+    sdl().axes[0][tick % 2] = static_cast<std::int16_t>(tick * 7919);
+    standins::pushAxisMotion();
+    if (tick % 64 == 0) standins::pushButton(static_cast<int>(tick % 16), true);
+}
+
+void makeSongs(unsigned long count) {
+    for (unsigned long i = 0; i < count; ++i)
+        std::ofstream("Songs/" + std::to_string(i) + ".ogg");
+    if (count > 0) standins::sound().unreadable = {"./Songs/0.ogg", "Songs/0.ogg"};
+    standins::sound().songLength = 20000;
+}
 
 } // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 2) {
-        std::cerr << "usage: kov_record FOLDER\n";
+    Options options = {{"--seed", 1},  {"--ticks", 5000}, {"--pages", 0}, {"--songs", 0},
+                       {"--stick", 0}, {"--music", 1},    {"--idle", 0}};
+    if (!parse(argc, argv, options)) {
+        std::cerr << "usage: kov_record FILE [--seed S] [--ticks N] [--pages 1] [--songs N] "
+                     "[--stick 1] [--music 0] [--idle N]\n";
         return 2;
     }
-    const boost::filesystem::path folder = boost::filesystem::absolute(argv[1]);
-    const Sandbox sandbox(KOV_SOURCE_DIR);
-    for (const auto& game : games) {
-        HeadlessGame run(game.seed);
-        Bot bot(game.seed);
-        bot.visitsPages = bot.pauses = game.visitsPages;
-        Recording recording;
-        recording.startTicks = game.seed;
-        for (std::uint32_t tick = 0; tick < game.ticks; ++tick) {
-            bot.onKey = [&](int symbol, bool down) {
-                recording.keys.push_back({tick, symbol, down});
-            };
-            bot.play();
-            run.tick();
-            recording.add(stateParts(run.game()));
-        }
-        recording.save((folder / game.name).string());
-        std::cout << game.name << ": " << game.ticks << " ticks, " << recording.keys.size()
-                  << " key events, games " << bot.games << ", last score "
-                  << Marvo::Instance().score << "\n";
-    }
-    return 0;
+    const std::string path = boost::filesystem::absolute(argv[1]).string();
+    const headless::Sandbox sandbox(KOV_SOURCE_DIR);
+    std::ofstream("bind1.conf"); // there, but empty: every action has its usual key
+    makeSongs(options["--songs"]);
+    const auto seed = static_cast<std::uint32_t>(options["--seed"]);
+    headless::Bot bot(seed);
+    bot.visitsPages = bot.pauses = options["--pages"] != 0;
+    std::uint32_t passes = 0, idle = 0;
+    sdl().ticks = seed;
+    sdl().joysticks = static_cast<int>(options["--stick"]);
+    sdl().onSwap = [&] {
+        if (idle++ < options["--idle"]) return;
+        idle = 0;
+        sdl().ticks += Timer::Instance().getProcessRate();
+        bot.play();
+        if (options["--stick"] != 0) moveStick(passes);
+        if (++passes == options["--ticks"]) standins::pushQuit();
+    };
+    replay::Recorder recorder(path);
+    replay::insert(&recorder);
+    std::string words[] = {"kov", options["--music"] != 0 ? "-m" : "-M"};
+    char* arguments[] = {words[0].data(), words[1].data(), nullptr};
+    const int code = gameMain(2, arguments);
+    recorder.finish();
+    std::cout << passes << " passes, games " << bot.games << ", best score " << recorder.bestScore
+              << '\n';
+    return code;
 }

@@ -1,0 +1,69 @@
+#pragma once
+
+#include <zlib.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <string>
+
+// The outside of a replay file: what says that it is one, then blocks of bytes. All blocks are one
+// compressed stream, cut where it was flushed, so that a file that breaks off can be read up to
+// there. Each carries the checksum of all bytes so far: none can be left out, added or moved.
+
+namespace quorva::replay {
+
+/// Of how the file is laid out. A larger one is refused.
+constexpr std::uint8_t format_version = 1;
+/// Of the rules of play: to be raised with any change that makes recorded games play differently.
+/// Another one is refused.
+constexpr std::uint8_t rule_set = 1;
+
+class BlockWriter {
+public:
+    /// Makes the file; never over one that is there. Throws std::runtime_error if it can't.
+    explicit BlockWriter(const std::string& path);
+    ~BlockWriter();
+    BlockWriter(const BlockWriter&) = delete;
+    BlockWriter& operator=(const BlockWriter&) = delete;
+
+    /// Writes a block, at most largest_block bytes before compression, through to the system.
+    /// @return false if that has failed, now or before; errno has the reason the first time
+    bool write(const std::string& bytes);
+
+    static constexpr std::size_t largest_block = 64U << 10U; ///< bytes
+
+private:
+    std::FILE* file;
+    z_stream stream{};
+    std::uint32_t checksum = 0;
+    bool failed = false;
+};
+
+class BlockReader {
+public:
+    /// Throws BadFile for what isn't a replay, or not one for this program.
+    explicit BlockReader(const std::string& path);
+    ~BlockReader();
+    BlockReader(const BlockReader&) = delete;
+    BlockReader& operator=(const BlockReader&) = delete;
+
+    /// @return the next block's bytes; empty behind the last whole one. Throws BadFile if it isn't
+    ///         as it was written.
+    std::string read();
+
+    bool isCutOff() const { return cutOff; } ///< the file ends within a block
+    std::size_t size() const { return bytes.size(); }
+
+private:
+    std::uint32_t number(std::size_t place) const;
+    std::string inflated(std::size_t compressedSize, std::size_t rawSize);
+
+    std::string bytes; ///< the whole file
+    std::size_t at = 0;
+    z_stream stream{};
+    std::uint32_t checksum = 0;
+    bool cutOff = false;
+};
+
+} // namespace quorva::replay

@@ -1,0 +1,52 @@
+#include "replay/Progress.h"
+
+#include "Framework/Engine.h"
+#include "Framework/Timer.h"
+#include "Framework/physics/PhysicsProcessor.h"
+#include "game/FModMP3Input.h"
+#include "game/Marvo.h"
+
+namespace quorva::replay {
+
+namespace {
+
+template <class T>
+T* activeComponent() {
+    for (Component* const component : Engine::Instance().components)
+        if (auto* const found = dynamic_cast<T*>(component)) return found;
+    return nullptr;
+}
+
+constexpr int lives_at_first = 2; // spare ones
+
+Result resultNow() {
+    const MarvoClass& marvo = Marvo::Instance();
+    Result result;
+    result.score = marvo.score;
+    result.lost = marvo.lives < 0;
+    result.deaths = static_cast<std::uint32_t>(lives_at_first + (marvo.nextLife - 1) - marvo.lives);
+    return result;
+}
+
+} // namespace
+
+FModMP3Input* songPlayer() {
+    return activeComponent<FModMP3Input>();
+}
+
+void Progress::look() {
+    const TimerClass& timer = Timer::Instance();
+    // A new game sets the count of ticks back, and its start is later than any tick before.
+    ticked = timer.startTicks == lastStart ? timer.blips != lastBlips : timer.blips != 0;
+    lastBlips = timer.blips;
+    lastStart = timer.startTicks;
+    if (ticked) ++ticks;
+
+    const bool wasInGame = inGame;
+    inGame = activeComponent<physics::PhysicsProcessor>() != nullptr; // works in games alone
+    began = inGame && !wasInGame;
+    ended = wasInGame && !inGame;
+    if (ended) result = resultNow();
+}
+
+} // namespace quorva::replay

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "replay/Records.h"
+
+#include <cstdint>
+
+class FModMP3Input;
+
+namespace quorva::replay {
+
+constexpr std::uint32_t check_interval = 100; ///< ticks
+
+/// What the running program is at, seen from outside at the end of each frame.
+class Progress {
+public:
+    void look();
+
+    /// Whether the state is to be compared now.
+    bool checkIsDue() const { return ticked && ticks % check_interval == 0; }
+
+    std::uint32_t ticks = 0; ///< since the start of the program
+    // Since the last look.
+    bool ticked = false;
+    bool began = false, ended = false; ///< a game
+    Result result;                     ///< of the game that has ended
+
+private:
+    bool inGame = false;
+    std::uint32_t lastBlips = 0, lastStart = 0; ///< as the game's clock had them
+};
+
+/// The game's own, which plays its songs; null before the game is set up.
+FModMP3Input* songPlayer();
+
+} // namespace quorva::replay

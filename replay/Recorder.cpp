@@ -1,0 +1,236 @@
+#include "replay/Recorder.h"
+
+#include "Framework/Config.h"
+#include "Framework/Timer.h"
+#include "Framework/math/MTRand.h"
+#include "game/FModMP3Input.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <iostream>
+
+namespace quorva::replay {
+
+namespace {
+
+constexpr std::uint32_t flush_interval = 300;     // ticks
+constexpr std::size_t full_block = 3U << 10U;     // bytes; no such block grows too much to be read
+constexpr std::size_t idle_clock_reads = 2;       // by the songs and the main loop
+constexpr std::uint64_t longest_idle = 1U << 20U; // passes in a record
+
+volatile std::sig_atomic_t endRequested = 0;
+
+void requestEnd(int) {
+    endRequested = 1;
+}
+
+/// The game's own way of ending on a signal leaves no event that could be kept.
+void endByEvent() {
+    for (const int signal : {SIGHUP, SIGTERM}) {
+        struct sigaction action {};
+        sigaction(signal, nullptr, &action);
+        if (action.sa_handler == SIG_IGN) continue;
+        action = {};
+        action.sa_handler = requestEnd;
+        action.sa_flags = SA_RESTART;
+        sigaction(signal, &action, nullptr);
+    }
+}
+
+/// Whether the game looks at such events at all.
+bool toEvent(const SDL_Event& from, Event& event) {
+    switch (from.type) {
+    case SDL_KEYDOWN:
+    case SDL_KEYUP:
+        event.kind = from.type == SDL_KEYDOWN ? Event::key_down : Event::key_up;
+        event.which = from.key.keysym.sym;
+        return true;
+    case SDL_JOYBUTTONDOWN:
+        event.kind = Event::button_down;
+        event.which = from.jbutton.button;
+        return true;
+    case SDL_JOYAXISMOTION:
+        event.kind = Event::axis_moved;
+        return true;
+    case SDL_QUIT:
+        event.kind = Event::closed;
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool songIsDue(std::uint32_t clock) {
+    const FModMP3Input* const songs = songPlayer();
+    return songs != nullptr &&
+           static_cast<std::int32_t>(clock - (songs->songEndTime + songs->pausedTime)) > 0;
+}
+
+} // namespace
+
+Recorder::Recorder(const std::string& path) : file(path) {}
+
+std::uint32_t Recorder::clock() {
+    if (observing) return now;
+    now = Tape::clock();
+    pass.clock.push_back(now);
+    return now;
+}
+
+int Recorder::poll(SDL_Event* event) {
+    int found = Tape::poll(event);
+    if (found == 0 && endRequested != 0) {
+        endRequested = 0;
+        *event = {};
+        event->type = SDL_QUIT;
+        found = 1;
+    }
+    if (found == 0) {
+        ++drains;
+        return 0;
+    }
+    Event kept = {drains, Event::closed, 0};
+    if (toEvent(*event, kept)) pass.events.push_back(kept);
+    return 1;
+}
+
+int Recorder::joysticks() {
+    return Tape::joysticks();
+}
+
+SDL_Joystick* Recorder::openJoystick(int index) {
+    SDL_Joystick* const joystick = Tape::openJoystick(index);
+    openedJoysticks.push_back(joystick != nullptr);
+    return joystick;
+}
+
+std::int16_t Recorder::axis(SDL_Joystick* joystick, int index) {
+    pass.axes.push_back(Tape::axis(joystick, index));
+    return pass.axes.back();
+}
+
+FMOD_RESULT Recorder::openSong(FMOD_SYSTEM* system, const char* path, FMOD_SOUND** song) {
+    const FMOD_RESULT result = Tape::openSong(system, path, song);
+    pass.songs.push_back({static_cast<std::uint32_t>(result), 0});
+    return result;
+}
+
+FMOD_RESULT Recorder::songLength(FMOD_SOUND* song, unsigned int* ms) {
+    const FMOD_RESULT result = Tape::songLength(song, ms);
+    if (result == FMOD_OK && !pass.songs.empty()) pass.songs.back().length = *ms;
+    return result;
+}
+
+void Recorder::endFrame() {
+    if (!failed) {
+        if (!begun) begin();
+        progress.look();
+        if (!isIdle())
+            endPass();
+        else if (randomPlace != math::MTRand_int32::p)
+            couldRepeat() ? static_cast<void>(++idle) : endPass();
+        pass = {};
+        drains = 0;
+        randomPlace = math::MTRand_int32::p;
+    }
+    Tape::endFrame();
+}
+
+/// The game is set up, and has drawn its first frame.
+void Recorder::begin() {
+    begun = true;
+    endByEvent();
+    try {
+        Setup setup = Setup::ofGame();
+        setup.joysticks = openedJoysticks;
+        setup.write(pending);
+    } catch (const std::runtime_error& e) {
+        giveUp(e.what());
+    }
+}
+
+/// The clock was read by nobody but those who read it in every pass.
+bool Recorder::isPlain() const {
+    const bool rests = config::Config::Instance().getSaveCPU() && !Timer::Instance().paused;
+    const std::size_t reads = idle_clock_reads + (rests ? 1 : 0) + (progress.ticked ? 1 : 0);
+    return pass.songs.empty() && pass.clock.size() == reads;
+}
+
+/// Nothing came in this pass, and nothing was done in it but what is done in every pass.
+bool Recorder::isIdle() const {
+    return isPlain() && !progress.ticked && pass.events.empty();
+}
+
+/// The same would be done again with the clock as it was: a song is due and can't be played.
+bool Recorder::couldRepeat() const {
+    if (idle == longest_idle) return false;
+    return songPlayer()->songPlaying && songIsDue(lastClock);
+}
+
+void Recorder::endPass() {
+    Record record;
+    // Where all would do the same at the last of these times, that one is enough.
+    if (isPlain() && songIsDue(pass.clock.front()) == songIsDue(now)) pass.clock = {now};
+    std::swap(record.pass_, pass);
+    record.pass_.idle = std::exchange(idle, 0);
+    if (!record.pass_.clock.empty()) lastClock = record.pass_.clock.back();
+    keep(record);
+    keepProgress();
+    if (progress.ticks - flushedAt >= flush_interval || progress.ended ||
+        pending.bytes.size() > full_block)
+        flush();
+}
+
+void Recorder::keepProgress() {
+    Record record;
+    if (progress.ended) {
+        ++games;
+        bestScore = std::max(bestScore, progress.result.score);
+        record.kind = Record::game_end;
+        record.result = progress.result;
+        keep(record);
+    }
+    if (progress.began) {
+        record.kind = Record::game_begin;
+        keep(record);
+    }
+    if (progress.checkIsDue()) {
+        record.kind = Record::check;
+        observing = true;
+        record.check_ = Check::ofGame();
+        observing = false;
+        keep(record);
+    }
+}
+
+void Recorder::keep(const Record& record) {
+    writer.write(record, pending);
+}
+
+void Recorder::flush() {
+    if (failed || pending.bytes.empty()) return;
+    if (!file.write(pending.bytes)) giveUp(std::strerror(errno));
+    pending.bytes.clear();
+    flushedAt = progress.ticks;
+}
+
+void Recorder::finish() {
+    if (failed || !begun) return;
+    progress.look();
+    endPass();
+    Record record;
+    record.kind = Record::end;
+    observing = true;
+    record.check_ = Check::ofGame();
+    observing = false;
+    keep(record);
+    flush();
+}
+
+void Recorder::giveUp(const std::string& reason) {
+    failed = true;
+    std::cerr << "kov-replay: the rest of the game can't be kept: " << reason << '\n';
+}
+
+} // namespace quorva::replay

@@ -1,0 +1,253 @@
+// Games are kept, played again and compared by the programs themselves; files are spoilt in
+// between.
+
+#include "headless/HeadlessGame.h"
+#include "headless/Sandbox.h"
+#include "replay/Blocks.h"
+#include "replay/Script.h"
+
+#include "Framework/Engine.h"
+#include "Framework/math/MTRand.h"
+#include "Framework/physics/PhysicsObject.h"
+#include "game/Marvo.h"
+#include "game/Triangle.h"
+
+#include <SDL.h>
+#include <boost/filesystem.hpp>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cmath>
+#include <cstdio>
+#include <fstream>
+#include <functional>
+#include <iterator>
+
+using namespace quorva;
+using namespace quorva::replay;
+
+namespace {
+
+namespace fs = boost::filesystem;
+
+struct Outcome {
+    int code;
+    std::string text;
+};
+
+Outcome run(const std::string& command) {
+    Outcome outcome;
+    FILE* const output = popen((command + " 2>&1").c_str(), "r");
+    for (int c; (c = std::fgetc(output)) != EOF;)
+        outcome.text += static_cast<char>(c);
+    outcome.code = WEXITSTATUS(pclose(output));
+    return outcome;
+}
+
+std::string bytesOf(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+class Replay : public testing::Test {
+protected:
+    void SetUp() override { fs::create_directories(folder); }
+    void TearDown() override { fs::remove_all(folder); }
+
+    /// Of a file with these bytes.
+    Outcome verify(const std::string& bytes) const {
+        std::ofstream((folder / "a").string(), std::ios::binary) << bytes;
+        return verifyFile((folder / "a").string());
+    }
+    static Outcome verifyFile(const std::string& path) {
+        return run(KOV_VERIFY " " + path + " " KOV_SOURCE_DIR);
+    }
+
+    const fs::path folder = fs::temp_directory_path() / fs::unique_path("kov-replay-%%%%%%%%");
+    const std::string kept = KOV_SOURCE_DIR "/tests/recordings/first-steps.kovreplay";
+    const std::string other = KOV_SOURCE_DIR "/tests/recordings/one-game.kovreplay";
+};
+
+using Edit = std::function<bool(Record&)>; // true: it is done
+
+/// A replay with other contents, as a program that knows the format would write them.
+std::string edited(const std::string& path, const fs::path& folder, const Edit& edit,
+                   const std::function<void(replay::Setup&)>& editSetup = {}) {
+    const std::string to = (folder / "edited").string();
+    Script script(path);
+    RecordWriter records;
+    ByteWriter bytes;
+    if (editSetup) editSetup(script.setup);
+    script.setup.write(bytes);
+    {
+        BlockWriter blocks(to);
+        bool done = !edit;
+        while (auto record = script.next()) {
+            if (!done) done = edit(*record);
+            records.write(*record, bytes);
+            if (bytes.bytes.size() < 4000) continue;
+            blocks.write(bytes.bytes);
+            bytes.bytes.clear();
+        }
+        EXPECT_TRUE(done);
+        blocks.write(bytes.bytes);
+    }
+    const std::string result = bytesOf(to);
+    fs::remove(to);
+    return result;
+}
+
+/// The first key that fires.
+bool changeKey(Record& record) {
+    for (Event& event : record.pass_.events)
+        if (event.which == SDLK_w) return event.which = SDLK_s, true;
+    return false;
+}
+
+Triangle* anyTriangle() {
+    for (const auto& [id, entity] : Engine::Instance().entities)
+        if (auto* const triangle = dynamic_cast<Triangle*>(entity)) return triangle;
+    return nullptr;
+}
+
+} // namespace
+
+TEST_F(Replay, HoldsWhateverWasPlayed) {
+    const struct {
+        const char* options;
+        const char* games; ///< what the line has between two of them
+    } cases[] = {
+        {"--seed 5 --ticks 6000", "; "},
+        {"--seed 6 --ticks 3000 --pages 1 --songs 3", ", left"}, // pauses, settings, broken songs
+        {"--seed 7 --ticks 3000 --stick 1 --songs 1", ""},
+        {"--seed 8 --ticks 1000 --songs 4 --music 0 --idle 3", ""}, // each pass draws
+    };
+    for (const auto& c : cases) {
+        const std::string path = (folder / std::string(1, c.options[7])).string();
+        ASSERT_EQ(run(KOV_RECORD " " + path + " " + c.options).code, 0);
+        const Outcome outcome = verifyFile(path);
+        EXPECT_EQ(outcome.code, 0) << c.options << outcome.text;
+        EXPECT_NE(outcome.text.find(": holds\n"), std::string::npos) << outcome.text;
+        EXPECT_NE(outcome.text.find(c.games), std::string::npos) << outcome.text;
+    }
+}
+
+TEST_F(Replay, ACutOffFileHoldsUpToThere) {
+    const std::string whole = bytesOf(other);
+    for (const double share : {0.3, 0.7, 0.999}) {
+        const auto size = static_cast<std::size_t>(share * static_cast<double>(whole.size()));
+        const Outcome outcome = verify(whole.substr(0, size));
+        EXPECT_EQ(outcome.code, 0) << share << outcome.text;
+        EXPECT_NE(outcome.text.find("holds, but is cut off"), std::string::npos) << outcome.text;
+    }
+}
+
+TEST_F(Replay, ADamagedFileIsToldInALine) {
+    const std::string whole = bytesOf(kept);
+    const auto with = [&](std::size_t place, char byte) {
+        return std::string(whole).replace(place, 1, 1, byte);
+    };
+    const auto flipped = [&](std::size_t place) {
+        return with(place, static_cast<char>(whole[place] ^ 1));
+    };
+    const std::size_t secondBlock = 13 + 12 + static_cast<unsigned char>(whole[13]) +
+                                    256U * static_cast<unsigned char>(whole[14]);
+    const struct {
+        std::string bytes;
+        const char* words;
+    } cases[] = {
+        {"", "no replay"},
+        {"Up, W\n", "no replay"},
+        {whole.substr(0, 12), "damaged"},
+        {whole.substr(0, 13), "nothing was recorded"},
+        {with(11, 2), "newer version"},
+        {with(12, 9), "rules of another version"},
+        {flipped(13), ""}, // sizes and checksum of a block
+        {flipped(17), "damaged"},
+        {flipped(21), "damaged"},
+        {with(20, '\x7f'), "damaged"}, // a block of two gigabytes
+        {flipped(30), "damaged"},
+        {flipped(whole.size() - 1), "damaged"},
+        {whole + whole, "damaged"},
+        {whole + "x", "damaged"},
+        {whole.substr(0, secondBlock) + bytesOf(other).substr(secondBlock), ""},
+        {whole.substr(0, 13) + whole.substr(secondBlock), "damaged"}, // the first one left out
+    };
+    for (const auto& c : cases) {
+        const Outcome outcome = verify(c.bytes);
+        EXPECT_EQ(outcome.code, 2) << &c - cases << outcome.text;
+        EXPECT_EQ(std::count(outcome.text.begin(), outcome.text.end(), '\n'), 1) << outcome.text;
+        EXPECT_NE(outcome.text.find(c.words), std::string::npos) << &c - cases << outcome.text;
+    }
+}
+
+TEST_F(Replay, AnEditedFileDiffers) {
+    EXPECT_EQ(verify(edited(other, folder, {})).code, 0) << "nothing was edited";
+    const struct {
+        const char* words;
+        Edit edit;
+    } cases[] = {
+        {"score, deaths",
+         [](Record& r) { return r.kind == Record::game_end && ++r.result.score != 0; }},
+        {"score, deaths",
+         [](Record& r) { return r.kind == Record::game_end && ++r.result.deaths != 0; }},
+        {"score, deaths",
+         [](Record& r) { return r.kind == Record::game_end && (r.result.lost = true); }},
+        {"the first that differs: ", changeKey},
+        {"only the hash differs",
+         [](Record& r) { return r.kind == Record::check && ++r.check_.hash != 0; }},
+        {"differs: score and lives",
+         [](Record& r) { return r.kind == Record::check && (++r.check_.marks[0], true); }},
+        {"the first that differs: ",
+         [](Record& r) { return r.kind == Record::end && (++r.check_.marks[0], true); }},
+        {"goes another way",
+         [](Record& r) { return r.kind == Record::game_begin && (r.kind = Record::check, true); }},
+    };
+    for (const auto& c : cases) {
+        const Outcome outcome = verify(edited(other, folder, c.edit));
+        EXPECT_EQ(outcome.code, 1) << &c - cases << outcome.text;
+        EXPECT_NE(outcome.text.find(c.words), std::string::npos) << &c - cases << outcome.text;
+    }
+    const auto bind = [](replay::Setup& s) { std::swap(s.bindings[7], s.bindings[8]); };
+    const auto fade = [](replay::Setup& s) {
+        for (auto& colour : s.colours)
+            colour.parts[3] *= 0.5;
+    };
+    const auto refine = [](replay::Setup& s) {
+        for (auto& [letter, value] : s.settings)
+            if (letter == 'z') value = 11;
+    };
+    for (void (*const edit)(replay::Setup&) : {+bind, +fade, +refine})
+        EXPECT_EQ(verify(edited(other, folder, {}, edit)).code, 1);
+}
+
+TEST(Comparison, NamesTheFirstObjectThatDiffers) {
+    const struct {
+        const char* words;
+        void (*change)();
+    } cases[] = {
+        {"", [] {}},
+        {"the first that differs: Triangle ",
+         [] {
+             double& x = anyTriangle()->physics->position.x;
+             x = std::nextafter(x, 1000.0);
+         }},
+        {"the first that differs: score and lives", [] { ++Marvo::Instance().score; }},
+        {"the first that differs: random stream", [] { math::MTRand_int32()(); }},
+        {"objects in place of",
+         [] {
+             Engine::Instance().createEntity<Triangle>("Triangle", math::Point(9, 9, 0), 0.0, 1.0);
+         }},
+    };
+    const headless::Sandbox sandbox(KOV_SOURCE_DIR);
+    headless::HeadlessGame game(11);
+    game.startLevel();
+    game.ticks(300);
+    for (const auto& c : cases) {
+        const Check before = Check::ofGame();
+        c.change();
+        const std::string found = before.compare(Check::ofGame());
+        EXPECT_NE(found.find(c.words), std::string::npos) << found;
+        EXPECT_EQ(found.empty(), *c.words == '\0') << found;
+    }
+}
