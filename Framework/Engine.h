@@ -67,6 +67,7 @@ private:
 using Engine = DefaultSingleton<EngineClass>;
 
 template <class T, class... Args>
+// NOLINTNEXTLINE(performance-unnecessary-value-param): some are moved on
 T* EngineClass::createEntity(const std::string&, Args... args) {
     T* const entity = new T(std::move(args)...);
     entity->id = addEntity(entity);

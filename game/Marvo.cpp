@@ -78,6 +78,7 @@ void MarvoClass::killPlayer() {
 }
 
 void MarvoClass::killTriangles(const primitives::Box& box, unsigned short count) {
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a copy is rounded
     const primitives::Box sides(box); // through single precision
     const long double width = static_cast<long double>(sides.right) - sides.left;
     const long double height = static_cast<long double>(sides.top) - sides.bottom;

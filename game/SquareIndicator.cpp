@@ -16,6 +16,7 @@ bool SquareIndicator::seeded = false;
 SquareIndicator::SquareIndicator(const primitives::Box& box)
     : ConvergingLines(seeded, line_count, ColourManager::Instance().getV("Square Line Effect"),
                       fade_step) {
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a copy is rounded
     const primitives::Box rounded(box);
     const double half = (rounded.right - rounded.left) * 0.5;
     centre = math::Point(rounded.left + half, rounded.bottom + (rounded.top - rounded.bottom) * 0.5,

@@ -28,7 +28,7 @@ void requestEnd(int) {
 /// The game's own way of ending on a signal leaves no event that could be kept.
 void endByEvent() {
     for (const int signal : {SIGHUP, SIGTERM}) {
-        struct sigaction action {};
+        struct sigaction action = {};
         sigaction(signal, nullptr, &action);
         if (action.sa_handler == SIG_IGN) continue;
         action = {};

@@ -47,8 +47,8 @@ bool isPlainName(const std::string& name) {
            std::all_of(name.begin(), name.end(), [](char c) { return c >= ' ' && c <= '~'; });
 }
 
-template <class Named, class Values>
-std::vector<Named> readNamed(ByteReader& in, Values Named::*values, double largest) {
+template <class Named, class Member>
+std::vector<Named> readNamed(ByteReader& in, Member values, double largest) {
     std::vector<Named> list(in.number(most_names));
     for (Named& each : list) {
         each.name = in.text(longest_name);
@@ -60,8 +60,8 @@ std::vector<Named> readNamed(ByteReader& in, Values Named::*values, double large
     return list;
 }
 
-template <class Named, class Values>
-void writeNamed(ByteWriter& out, const std::vector<Named>& list, Values Named::*values) {
+template <class Named, class Member>
+void writeNamed(ByteWriter& out, const std::vector<Named>& list, Member values) {
     out.number(list.size());
     for (const Named& each : list) {
         out.text(each.name);
@@ -148,8 +148,8 @@ Setup Setup::read(ByteReader& in) {
     setup.joysticks.resize(in.number(most_joysticks));
     for (std::size_t i = 0; i < setup.joysticks.size(); ++i)
         setup.joysticks[i] = in.byte() != 0;
-    setup.colours = readNamed(in, &NamedColour::parts, largest_colour);
-    setup.points = readNamed(in, &NamedPoint::place, largest_place);
+    setup.colours = readNamed<NamedColour>(in, &NamedColour::parts, largest_colour);
+    setup.points = readNamed<NamedPoint>(in, &NamedPoint::place, largest_place);
     return setup;
 }
 

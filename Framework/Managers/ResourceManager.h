@@ -74,7 +74,7 @@ public:
     }
 
     /// The value of that name, which the caller may write through.
-    T& getV(std::string entryName) {
+    T& getV(std::string entryName) { // NOLINT(performance-unnecessary-value-param)
         const auto present = resources.find(entryName);
         if (present != resources.end()) return present->second.value;
         return add(entryName, defaultValue, ::quorva::resources::system_scope).value;

@@ -7,7 +7,7 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <regex>
+#include <sstream>
 
 namespace platform::fmodex {
 
@@ -58,8 +58,14 @@ int openSource(mpg123_handle* mpeg, SoundFile& source) {
 bool liesAboutItsSize(SNDFILE* file) {
     char log[4096] = {};
     sf_command(file, SFC_GET_LOG_INFO, log, sizeof log - 1);
-    static const std::regex lie("(RIFF|RIFX|FORM|SSND|data|Data Size) *: *[0-9]+ \\(should be");
-    return std::regex_search(log, lie);
+    std::istringstream lines(log);
+    for (std::string line; std::getline(lines, line);) {
+        if (line.find("(should be") == std::string::npos) continue;
+        line.erase(0, line.find_first_not_of(' '));
+        for (const char* size : {"RIFF", "RIFX", "FORM", "SSND", "data", "Data Size"})
+            if (line.rfind(size, 0) == 0) return true;
+    }
+    return false;
 }
 
 /// Whether the frame found is what a song has: layer 3, at a bit rate. Programs are full of what

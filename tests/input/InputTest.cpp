@@ -191,11 +191,13 @@ TEST_F(InputTest, AFifthPlayerEndsTheProcess) {
 TEST_F(InputTest, EachPlayersAxesAreSetByTheirOwnFunctions) {
     using H = InputHandler;
     using Input = messages::PlayerInput;
+    using VectorOfInput = math::Vector Input::*;
+    using Axis = double math::Vector::*;
     const struct {
         void (H::*down)(unsigned short, short);
         void (H::*up)(unsigned short);
-        math::Vector Input::*vector;
-        double math::Vector::*axis;
+        VectorOfInput vector;
+        Axis axis;
         const char* held[2]; ///< by a negative and by a positive value
     } cases[] = {{&H::xDown, &H::xUp, &Input::move, &math::Vector::x, {" left", " right"}},
                  {&H::yDown, &H::yUp, &Input::move, &math::Vector::y, {" down", " up"}},

@@ -93,12 +93,13 @@ TEST_F(MenusTest, ConfigurationStepsThroughTheSizesOfScreens) {
 
 TEST_F(MenusTest, EachRowOfTheConfigurationChangesItsOwnSettingWithinItsBounds) {
     ConfigMenu& menu = openConfig();
-    std::uint16_t ConfigMenu::*const sliders[] = {nullptr,
-                                                  nullptr,
-                                                  &ConfigMenu::musicVolume,
-                                                  &ConfigMenu::fxVolume,
-                                                  &ConfigMenu::collisionAccuracy,
-                                                  nullptr};
+    using Slider = std::uint16_t ConfigMenu::*;
+    const Slider sliders[] = {nullptr,
+                              nullptr,
+                              &ConfigMenu::musicVolume,
+                              &ConfigMenu::fxVolume,
+                              &ConfigMenu::collisionAccuracy,
+                              nullptr};
     const struct {
         ConfigMenu::Row row;
         int key; ///< held for longer than a slider takes
