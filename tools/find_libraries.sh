@@ -36,6 +36,7 @@ for group in "$@"; do
         module_is x11 "Xlib" libX11-devel libx11
         module_is ftgl "FTGL" ftgl-devel ftgl
         module_is freetype2 "FreeType" freetype-devel freetype2
+        module_is zlib "zlib" zlib-devel zlib
         module_is openal "OpenAL Soft" openal-soft-devel openal
         module_is sndfile "libsndfile" libsndfile-devel libsndfile
         module_is libmpg123 "libmpg123" mpg123-devel mpg123
