@@ -21,6 +21,7 @@ constexpr int pipe_size = 1 << 20; // bytes; the system may give less
 /// @return an error number, 0 for success
 int start(const std::vector<std::string>& words, int input, pid_t& process) {
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (const std::string& word : words)
         arguments.push_back(const_cast<char*>(word.c_str())); // posix_spawn leaves them alone
     arguments.push_back(nullptr);

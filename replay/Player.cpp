@@ -114,7 +114,7 @@ void Player::compare(Record::Kind kind) {
         const Record* const next = script.peek();
         if (next == nullptr) return; // the file is cut off
         if (next->kind != kind) return differs("the game goes another way");
-        const Record kept = *script.next();
+        const Record kept = *script.next(); // NOLINT(bugprone-unchecked-optional-access): seen
         if (kind == Record::game_end && !(kept.result == progress_.result))
             return differs("score, deaths or end of the game");
         if (kind != Record::check && kind != Record::end) return;
@@ -151,7 +151,7 @@ void Player::nextPass() {
             differs("the game goes on");
             return stop();
         }
-        pass = script.next()->pass_;
+        pass = script.next()->pass_; // NOLINT(bugprone-unchecked-optional-access): seen
         idle = pass.idle;
     } catch (const BadFile& e) {
         damage_ = e.what();

@@ -58,6 +58,7 @@ int runGame(const Setup& setup) {
     for (const auto& [letter, value] : setup.settings)
         words.push_back(argument(letter, value));
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (std::string& word : words)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);

@@ -57,7 +57,7 @@ std::string takeOption(Words& words, const std::string& name) {
     const auto found = std::find(words.begin(), words.end(), name);
     if (found == words.end()) return {};
     if (found + 1 == words.end()) throw BadUsage(name + " wants a value");
-    const std::string value = found[1];
+    std::string value = std::move(found[1]);
     words.erase(found, found + 2);
     return value;
 }
@@ -116,6 +116,7 @@ int record(const fs::path&, Words words) {
     try {
         Recorder recorder(path.string());
         insert(&recorder);
+        // cppcheck-suppress invalidContainer // the options are copies
         const int code = playGame(options);
         recorder.finish();
         insert(nullptr);
@@ -177,6 +178,7 @@ int watch(const fs::path& data, Words words) {
     return judge(watcher);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): as all commands
 int verify(const fs::path& data, Words words) {
     requireFiles(words, 1, words.size());
     const fs::path program = fs::read_symlink("/proc/self/exe").parent_path() / "kov-replay-verify";

@@ -49,7 +49,8 @@ int main(int argc, char* argv[]) {
                                       ? (script.isCutOff() ? "holds, but is cut off here" : "holds")
                                       : verifier.difference();
         std::cout << name << ": " << inWords(verifier.progress().ticks, verifier.results()) << ": "
-                  << found << std::endl;
+                  << found << '\n'
+                  << std::flush;
         return verifier.difference().empty() ? 0 : exit_differs;
     } catch (const std::exception& e) {
         std::cerr << "kov-replay: " << name << ": " << e.what() << '\n';
