@@ -18,6 +18,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <iostream>
+#include <utility>
 
 int gameMain(int argc, char* argv[]); // of the game itself
 
