@@ -95,10 +95,6 @@ int Recorder::poll(SDL_Event* event) {
     return 1;
 }
 
-int Recorder::joysticks() {
-    return Tape::joysticks();
-}
-
 SDL_Joystick* Recorder::openJoystick(int index) {
     SDL_Joystick* const joystick = Tape::openJoystick(index);
     openedJoysticks.push_back(joystick != nullptr);

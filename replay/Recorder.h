@@ -5,7 +5,6 @@
 #include "replay/Records.h"
 #include "replay/Tape.h"
 
-#include <optional>
 #include <string>
 
 namespace quorva::replay {
@@ -19,7 +18,6 @@ public:
 
     std::uint32_t clock() override;
     int poll(SDL_Event* event) override;
-    int joysticks() override;
     SDL_Joystick* openJoystick(int index) override;
     std::int16_t axis(SDL_Joystick* joystick, int index) override;
     FMOD_RESULT openSong(FMOD_SYSTEM* system, const char* path, FMOD_SOUND** song) override;

@@ -34,6 +34,7 @@ struct Wave {
     int channels = 1;
     double rise = 0;         ///< Hz that each second is higher than the one before
     double laterLevel = 0.5; ///< from the third second on
+    int only = -1;           ///< the channel that sounds; -1: all
 };
 
 std::string bytesOf(const char* path) {
@@ -84,7 +85,9 @@ void write(const std::string& path, int format, const Wave& wave) {
         const double hertz = wave.hertz + wave.rise * (i / rate);
         const double level = i < 2 * rate ? wave.level : wave.laterLevel;
         const double value = level * std::sin(2 * pi * hertz * i / rate);
-        std::fill(frame.begin(), frame.end(), static_cast<float>(value));
+        for (int channel = 0; channel < wave.channels; ++channel)
+            frame[static_cast<std::size_t>(channel)] =
+                wave.only < 0 || wave.only == channel ? static_cast<float>(value) : 0;
         sf_writef_float(file, frame.data(), 1);
     }
     sf_close(file);
@@ -330,6 +333,18 @@ TEST(Downmix, KeepsEachSpeakerOnItsSide) {
         const auto mixed = Downmix(c.channels, c.order)(frame.data());
         EXPECT_NEAR(mixed[0], c.left, 0.0001) << c.what;
         EXPECT_NEAR(mixed[1], c.right, 0.0001) << c.what;
+    }
+}
+
+TEST_F(SoundLayer, KnowsTheOrderOfSpeakersInEachKindOfFile) {
+    write("right.ogg", ogg, {440, 1, 0.5, 3, 0, 0.5, 2});  // left, centre, right
+    write("centre.wav", wav, {440, 1, 0.5, 3, 0, 0.5, 2}); // left, right, centre
+    for (const auto& [path, level] : {std::pair{"right.ogg", 0.0}, {"centre.wav", 0.207}}) {
+        FMOD_SOUND* const sound = open(path);
+        play(sound);
+        hear(0.1);
+        EXPECT_NEAR(levelOf(hear(0.5), 440), level, 0.02) << path; // on the left side
+        FMOD_Sound_Release(sound);
     }
 }
 
