@@ -26,7 +26,7 @@ double share(short value) {
 InputHandler::InputHandler() {
     for (std::size_t i = 0; i < playerInputs.size(); ++i)
         playerInputs[i].player = static_cast<unsigned short>(i);
-    dirty.assign(false);
+    dirty.fill(false);
     Joystick::Instance(); // opens the joysticks
 }
 

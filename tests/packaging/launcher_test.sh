@@ -200,7 +200,7 @@ double notify-send false # nobody listens
 XDG_DATA_HOME="$root/file" ROUND='exit 3' kov || true
 soon "shown by zenity" grep -q "^zenity.*can't write to.*" shown
 soon "a failed game is shown" grep -q "The game has failed" shown
-: >shown && XDG_DATA_HOME="$root/file" script -qec "$bin/kov" /dev/null >out && sleep 0.2
+: >shown && XDG_DATA_HOME="$root/file" SHELL=/bin/sh script -qec "$bin/kov" /dev/null >out && sleep 0.2
 expect "in a terminal" "can't write to"
 holds "in a terminal" shown ""
 double xdg-open "echo opened \"\$@\""
