@@ -11,11 +11,12 @@ tree=$PWD/build/portable/$name
 libraries=$tree/lib/kov
 licences=$tree/share/doc/kov/libraries
 
-# GL and X have to fit the machine's driver, and these libraries the C++ that the driver is made of.
+# GL and X have to fit the machine's driver. So has what the driver itself takes: C, C++, packers.
 is_the_systems() {
     case $1 in
-    libGL.so* | libGLX.so* | libOpenGL.so* | libGLdispatch.so* | libX*.so* | libxcb*.so* | libc.so* | \
-        libm.so* | libstdc++.so* | libgcc_s.so* | libz.so* | ld-*) return 0 ;;
+    libGL.so* | libGLX.so* | libGLdispatch.so* | libX*.so* | libxcb*.so* | ld-*.so* | \
+        libc.so* | libm.so* | libdl.so* | libpthread.so* | librt.so* | libresolv.so* | \
+        libstdc++.so* | libgcc_s.so* | libz.so* | libzstd.so* | liblzma.so*) return 0 ;;
     esac
     return 1
 }
@@ -26,7 +27,7 @@ copy_libraries_of() { # program
         if is_the_systems "$file" || [ -e "$libraries/$file" ]; then continue; fi
         cp -L "$library" "$libraries/$file"
         patchelf --set-rpath "\$ORIGIN" "$libraries/$file"
-        package=$(dpkg-query -S "$(readlink -f "$library")" | sed 's/[:,].*//')
+        package=$(dpkg-query -S "*/$(basename "$(readlink -f "$library")")" | sed 's/[:,].*//' | head -n 1)
         cp "/usr/share/doc/$package/copyright" "$licences/$package"
     done
 }
