@@ -24,7 +24,7 @@ for group in "$@"; do
     check) packages="$packages clang-tidy cppcheck" ;;
     fuzz) packages="$packages clang libclang-rt-$(clang_version)-dev" ;;
     demo) packages="$packages xvfb xdotool imagemagick" ;;
-    package) packages="$packages debhelper dpkg-dev" ;;
+    package) packages="$packages build-essential debhelper dpkg-dev" ;;
     portable) packages="$packages patchelf xz-utils" ;;
     gallery) packages="$packages xvfb xauth imagemagick optipng gifsicle python3" ;;
     assets) packages="$packages python3-fonttools python3-shapely" ;;
