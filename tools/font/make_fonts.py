@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Makes the game's two faces from one set of strokes: fonts/KovMenu.ttf, low enough for rows that
-stand 0.75 apart, and fonts/KovText.ttf, taller and heavier for pages, which are drawn at scale
-0.75. Corners lie on 64ths of the em, the grid on which the game's renderer places them, so that
-strokes keep one weight. Bearings, advances and the kerning of pairs that occur in the game's texts
-put the stems where they get one width in pixels. Needs python3-fonttools and python3-shapely; the
-same bytes each time."""
+"""Makes the game's two faces: fonts/KovMenu.ttf, low enough for rows that stand 0.75 apart, and
+fonts/KovText.ttf, wider, taller and heavier for pages, which are drawn at scale 0.75. Corners lie
+on 64ths of the em, the grid on which the game's renderer places them, so that strokes keep one
+weight. Bearings and advances put the stems where they get one width in pixels, and in the menu's
+headings so does the kerning. Needs python3-fonttools and python3-shapely; the same bytes each
+time."""
 
 import math
 import os
@@ -18,7 +18,7 @@ from shapely.geometry import CAP_STYLE, JOIN_STYLE, LineString, Polygon
 from shapely.geometry.polygon import orient
 from shapely.ops import unary_union
 
-from glyphs import GLYPHS
+import glyphs
 from kerning import KERNING
 
 GRID = 64  # steps per em
@@ -35,22 +35,23 @@ COPYRIGHT = "Made for KOV. CC0 1.0: no rights reserved."
 class Style:
     """Lengths in 64ths of the em."""
 
-    def __init__(self, name, scale, stroke, bearings, digit_left, digit_advance, blank, step):
-        self.name, self.scale, self.half = name, scale, stroke / 2
+    def __init__(self, name, strokes, stroke, bearings, lefts, advances, step, height, depth):
+        self.name, self.strokes, self.half = name, strokes, stroke / 2
         self.left, self.right = bearings
-        self.digit_left, self.digit_advance = digit_left, digit_advance
-        self.blank, self.step = blank, step  # the advances of all others are multiples of the step
+        self.lefts, self.advances = lefts, advances  # of some characters, instead of the usual
+        self.step = step  # the advances of all others are multiples of it
+        self.height, self.depth = height, depth  # of a line, from its base
 
 
 STYLES = [
-    Style("KovMenu", 1.0, 7, (4, 5), 2, 24, 16, 8),
-    Style("KovText", 4 / 3, 9, (5, 6), 4, 34, 20, 4),
+    Style("KovMenu", glyphs.MENU, 7, (4, 5), dict.fromkeys(DIGITS, 2),
+          {" ": 16, **dict.fromkeys(DIGITS, 24)}, 8, 36, 9),
+    Style("KovText", glyphs.PAGE, 9, (-3, 13), dict.fromkeys(",:;", -6), {" ": 16}, 16, 49, 14),
 ]
 
 
 def stroke(polyline, style):
-    points = [tuple(float(v) for v in p.split(",")) for p in polyline.split()]
-    points = [(x * style.scale + style.half, y * style.scale + style.half) for x, y in points]
+    points = [tuple(float(v) + style.half for v in p.split(",")) for p in polyline.split()]
     if points[0] == points[-1] and len(points) > 2:  # closed: no caps
         ring = Polygon(points)
         grow = dict(join_style=JOIN_STYLE.mitre, mitre_limit=MITRE_LIMIT)
@@ -75,10 +76,10 @@ def contours(shape):
 def draw(character, style):
     """The glyph and its advance in font units."""
     pen = TTGlyphPen(None)
-    left = style.digit_left if character in DIGITS else style.left
+    left = style.lefts.get(character, style.left)
     advance = left + style.right
-    if GLYPHS[character]:
-        shape = unary_union([stroke(polyline, style) for polyline in GLYPHS[character]])
+    if style.strokes[character]:
+        shape = unary_union([stroke(polyline, style) for polyline in style.strokes[character]])
         advance += shape.bounds[2]
         for ring in contours(shape):
             placed = [(on_grid(x + left), on_grid(y)) for x, y in ring.coords[:-1]]
@@ -87,9 +88,8 @@ def draw(character, style):
                 if placed[i] != placed[i - 1]:
                     pen.lineTo(placed[i])
             pen.closePath()
-    fixed = {" ": style.blank, **dict.fromkeys(DIGITS, style.digit_advance)}
     stepped = math.floor(advance / style.step + 0.5) * style.step
-    return pen.glyph(), on_grid(fixed.get(character, stepped))
+    return pen.glyph(), on_grid(style.advances.get(character, stepped))
 
 
 def kerning_table(pairs, names):
@@ -103,7 +103,7 @@ def kerning_table(pairs, names):
 
 
 def make(style, folder):
-    characters = sorted(GLYPHS)
+    characters = sorted(style.strokes)
     names = {ord(c): f"uni{ord(c):04X}" for c in characters}
     drawn = {".notdef": draw(" ", style)}
     drawn.update((f"unused{i}", draw(" ", style)) for i in range(1, FIRST_KERNED))
@@ -116,7 +116,7 @@ def make(style, folder):
     builder.setupHorizontalMetrics(
         {name: (advance, getattr(glyf[name], "xMin", 0)) for name, (_, advance) in drawn.items()}
     )
-    ascent, descent = on_grid(36 * style.scale), on_grid(9 * style.scale)
+    ascent, descent = on_grid(style.height), on_grid(style.depth)
     builder.setupHorizontalHeader(ascent=ascent, descent=-descent)
     builder.setupNameTable(
         {
