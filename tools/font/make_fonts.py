@@ -19,7 +19,7 @@ from shapely.geometry.polygon import orient
 from shapely.ops import unary_union
 
 import glyphs
-from kerning import KERNING
+from kerning import KERNING, LEFTS
 
 GRID = 64  # steps per em
 UNITS = 1024  # font units per em
@@ -35,18 +35,20 @@ COPYRIGHT = "Made for KOV. CC0 1.0: no rights reserved."
 class Style:
     """Lengths in 64ths of the em."""
 
-    def __init__(self, name, strokes, stroke, bearings, lefts, advances, step, height, depth):
+    def __init__(self, name, strokes, stroke, bearings, lefts, advances, step, height, depth,
+                 kerning):
         self.name, self.strokes, self.half = name, strokes, stroke / 2
         self.left, self.right = bearings
         self.lefts, self.advances = lefts, advances  # of some characters, instead of the usual
         self.step = step  # the advances of all others are multiples of it
         self.height, self.depth = height, depth  # of a line, from its base
+        self.kerning = kerning
 
 
 STYLES = [
-    Style("KovMenu", glyphs.MENU, 7, (4, 5), dict.fromkeys(DIGITS, 2),
-          {" ": 16, **dict.fromkeys(DIGITS, 24)}, 8, 36, 9),
-    Style("KovText", glyphs.PAGE, 9, (-3, 13), dict.fromkeys(",:;", -6), {" ": 16}, 16, 49, 14),
+    Style("KovMenu", glyphs.MENU, 7, (4, 5), {**LEFTS, **dict.fromkeys(DIGITS, 2)},
+          {" ": 16, **dict.fromkeys(DIGITS, 24)}, 8, 36, 9, KERNING),
+    Style("KovText", glyphs.PAGE, 9, (-3, 13), dict.fromkeys(",:;", -6), {" ": 16}, 16, 49, 14, {}),
 ]
 
 
@@ -132,8 +134,8 @@ def make(style, folder):
     builder.setupOS2(fsType=0, sTypoAscender=ascent, sTypoDescender=-descent, usWinAscent=ascent,
                      usWinDescent=descent)
     builder.setupPost(keepGlyphNames=False)
-    if KERNING.get(style.name):
-        builder.font["kern"] = kerning_table(KERNING[style.name], names)
+    if style.kerning:
+        builder.font["kern"] = kerning_table(style.kerning, names)
     builder.font["head"].created = builder.font["head"].modified = EPOCH
     builder.font.recalcTimestamp = False
     builder.save(os.path.join(folder, style.name + ".ttf"))

@@ -4,22 +4,27 @@ binary PPM. A row whose stems don't all have the width of most of them looks blo
 
     stems.py PICTURE.ppm...
 
-A stem is a column of lit pixels with straight edges, at least a third of its row high; curves,
-slopes and cut corners don't count."""
+A stem is a column of lit pixels with straight edges, at least a quarter of its row high; curves,
+slopes and cut corners don't count. Rows of different colours are different rows: headings are
+larger than what they touch."""
 import sys
 from collections import Counter
 
 LIT = 24  # levels of the brightest channel above the ground's
+LEAST_AREA = 100  # pixels of one colour: fewer are edges of the logo
 
 
 def read(path):
+    """For each colour that texts have, which pixels have it, line by line."""
     kind, size, _, pixels = open(path, "rb").read().split(b"\n", 3)
     assert kind == b"P6", path
     width, height = map(int, size.split())
-    ground = max(pixels[:3])
-    lit = [[max(pixels[i:i + 3]) > ground + LIT for i in range(3 * width * y, 3 * width * (y + 1), 3)]
-           for y in range(height)]
-    return lit
+    lines = [[pixels[i:i + 3] for i in range(3 * width * y, 3 * width * (y + 1), 3)]
+             for y in range(height)]
+    ground = max(lines[0][0])
+    areas = Counter(pixel for line in lines for pixel in line)
+    return [[[pixel == colour for pixel in line] for line in lines]
+            for colour, area in areas.items() if max(colour) > ground + LIT and area >= LEAST_AREA]
 
 
 def runs(flags):
@@ -35,7 +40,7 @@ def runs(flags):
 
 def stems(row):
     """Widths of the stems of a row of text, given as its lines of pixels."""
-    least = max(3, len(row) // 3)
+    least = max(3, len(row) // 4)
     widths = Counter()
     open_runs = {}  # of the line above: how many lines high
     for line in [*row, [False] * len(row[0])]:
@@ -49,15 +54,15 @@ def stems(row):
 def main(paths):
     all_stems = all_odd = 0
     for path in paths:
-        lit = read(path)
         count = odd = 0
-        for top, bottom in runs([any(line) for line in lit]):
-            widths = stems(lit[top:bottom])
-            if not widths:
-                continue
-            count += sum(widths.values())
-            odd += sum(widths.values()) - max(widths.values())
-            print(f"  {top:4}: " + ", ".join(f"{n} of {w}" for w, n in sorted(widths.items())))
+        for lit in read(path):
+            for top, bottom in runs([any(line) for line in lit]):
+                widths = stems(lit[top:bottom])
+                if not widths:
+                    continue
+                count += sum(widths.values())
+                odd += sum(widths.values()) - max(widths.values())
+                print(f"  {top:4}: " + ", ".join(f"{n} of {w}" for w, n in sorted(widths.items())))
         print(f"{path}: {odd} of {count} stems are odd")
         all_stems, all_odd = all_stems + count, all_odd + odd
     print(f"{all_odd} of {all_stems} in all")
