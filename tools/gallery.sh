@@ -19,7 +19,10 @@ mkdir "$work/Songs" "$work/wide" "$work/narrow" "$work/film"
 cd "$work"
 xvfb-run -a -s "-noreset -screen 0 1920x1080x24" sh -c "
     for scene in pages fence power-ups death late verdicts; do
-        '$program' \$scene wide 1920 1080 && '$program' \$scene narrow 800 600 || exit 1
+        rm -f s.dat # the record is made anew
+        '$program' \$scene wide 1920 1080 || exit 1
+        rm -f s.dat
+        '$program' \$scene narrow 800 600 || exit 1
     done
     '$program' film film 960 540"
 
