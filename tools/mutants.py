@@ -6,13 +6,15 @@
 draws N places from the seed, each line of code as likely as any other, in the folders (Framework,
 game and platform/fmodex unless named), and makes one fault at each: a comparison turned, a constant
 changed, a statement left out, two arguments swapped, a sign. For every fault the copy is built and
-the whole suite run, up to the first test that fails. Printed is each fault that all tests pass, and
-last "N mutants, K survive, M do not build". A fault that leaves the programs the same to the byte is
-none: another is drawn for it. Some survivors change nothing that can be seen; a reader has to say
-which.
+the whole suite run, the quickest tests first, up to the first that fails. Printed is each fault that
+all tests pass, and last "N mutants, K survive, M do not build". A fault that leaves the programs the
+same to the byte is none: another is drawn for it. Some survivors change nothing that can be seen; a
+reader has to say which. The copy is kept in build/mutants, so that the next run has less to build;
+two runs at once want two trees.
 """
 
 import argparse
+import filecmp
 import hashlib
 import os
 import random
@@ -21,15 +23,16 @@ import resource
 import shutil
 import subprocess
 import sys
-import tempfile
 import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 DEFAULT_FOLDERS = ["Framework", "game", "platform/fmodex"]
-TEST_PROGRAMS = ["tests/kov_tests", "tests/kov_fault_tests", "tests/kov_sound_tests"]
+WHOLE_PROGRAMS = ["tests/kov_tests", "tests/kov_sound_tests"]  # run in one process, before all else
+OTHER_PROGRAMS = ["tests/kov_fault_tests", "kov"]
+SLOW_SECONDS = 1  # a test that takes longer waits until the others have passed
 MEMORY_LIMIT = 4 << 30  # bytes a test process may map: a fault may ask for all there is
-SLACK_SECONDS = 60  # on top of three times what the suite takes without a fault
+SLACK_SECONDS = 30  # on top of three times what the same tests take without a fault
 
 NUMBER = re.compile(r"(?<![\w.])(\d+\.\d*|\.\d+|\d+)(?:[eE][+-]?\d+)?(?=[uUlLfF]*\b|[^\w.]|$)")
 SWAPS = {  # operators, with their blanks so that templates and pointers are left alone
@@ -164,29 +167,40 @@ class Copy:
     """A copy of the tree with a build of its own, in which the faults are made."""
 
     def __init__(self, folder):
-        self.folder, self.build = folder, folder / "build" / "mutants"
-        for name in subprocess.check_output(["git", "ls-files", "-z"], cwd=ROOT, text=True).split("\0"):
-            if name and (ROOT / name).exists():
-                (folder / name).parent.mkdir(parents=True, exist_ok=True)
-                shutil.copy2(ROOT / name, folder / name)
+        self.folder, self.build = folder, folder / "build"
+        self.renew()
         self.must(["cmake", "-G", "Ninja", "-B", str(self.build), "-S", str(folder), "-DKOV_TESTS=ON"])
         self.must(["cmake", "--build", str(self.build)])
-        self.limit = None
-        self.programs = self.digest()
-        started = time.monotonic()
-        if self.failing_test() is not None:
+        self.limits, self.slow = {}, "none"
+        self.digests = {name: self.digest(name) for name in WHOLE_PROGRAMS + OTHER_PROGRAMS}
+        if any(self.fails(program) for program in WHOLE_PROGRAMS) or self.rest_fails():
             sys.exit("mutants.py: the tests fail without any fault")
-        self.limit = 3 * (time.monotonic() - started) + SLACK_SECONDS
+        self.slow = self.slow_tests()
+
+    def renew(self):
+        """A file that is the same keeps its date, and so what is built of it."""
+        listed = subprocess.check_output(["git", "ls-files", "-z"], cwd=ROOT, text=True).split("\0")
+        names = {name for name in listed if name and (ROOT / name).exists()}
+        for path in self.folder.rglob("*"):
+            is_copied = path.is_file() and self.build not in path.parents
+            if is_copied and str(path.relative_to(self.folder)) not in names:
+                path.unlink()
+        for name in names:
+            original, copy = ROOT / name, self.folder / name
+            if copy.exists() and filecmp.cmp(original, copy, shallow=False):
+                continue
+            copy.parent.mkdir(parents=True, exist_ok=True)
+            shutil.copy(original, copy)
 
     def must(self, command):
         if self.run(command) != 0:
             sys.exit("mutants.py: this fails without any fault: " + " ".join(command))
 
-    def run(self, command, limit=None, tests=False):
+    def run(self, command, limit=None, are_tests=False):
         """The exit code; None if it took too long, which ends all that it has started."""
         def own_group():
             os.setsid()
-            if tests:
+            if are_tests:
                 resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
         process = subprocess.Popen(command, cwd=self.build if self.build.exists() else self.folder,
                                    stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
@@ -202,31 +216,58 @@ class Copy:
                 pass
             process.wait()
 
-    def failing_test(self):
-        """What failed first, None if all tests pass. The largest program runs in one process
-        first, which is quicker than a process a test and sees most faults."""
-        if self.run([self.build / TEST_PROGRAMS[0], "--gtest_fail_fast"], self.limit, True) != 0:
-            return TEST_PROGRAMS[0]
-        suite = ["ctest", "--stop-on-failure", "-j", str(os.cpu_count())]
-        return None if self.run(suite, self.limit, True) == 0 else "ctest"
+    def compile(self, *target):
+        return self.run(["cmake", "--build", str(self.build), *target], 900) == 0
 
-    def digest(self):
-        programs = [self.build / name for name in TEST_PROGRAMS] + [self.build / "kov"]
-        return [hashlib.sha256(program.read_bytes()).digest() for program in programs]
+    def digest(self, program):
+        return hashlib.sha256((self.build / program).read_bytes()).digest()
+
+    def has_changed(self, program):
+        return self.digest(program) != self.digests[program]
+
+    def test(self, *command):
+        """Whether these tests pass, in time."""
+        started = time.monotonic()
+        passed = self.run(command, self.limits.get(command[0]), True) == 0
+        self.limits.setdefault(command[0], 3 * (time.monotonic() - started) + SLACK_SECONDS)
+        return passed
+
+    def fails(self, program):
+        return not self.test(self.build / program, "--gtest_fail_fast")
+
+    def slow_tests(self):
+        """A regular expression, of what CTest has measured: name, runs and seconds a line."""
+        log = (self.build / "Testing" / "Temporary" / "CTestCostData.txt").read_text()
+        costs = [line.split() for line in log.split("---")[0].splitlines()]
+        return "|".join(re.escape(name) for name, _, seconds in costs if float(seconds) > SLOW_SECONDS)
+
+    def rest_fails(self):
+        """Whether any test fails but those of the programs that have run whole."""
+        suite = ["ctest", "--stop-on-failure", "-j", str(os.cpu_count()), "-LE", "whole"]
+        return not all(self.test(*suite, choice, f"^({self.slow})$") for choice in ("-E", "-R"))
+
+    def outcome(self):
+        """"survives", "dies", "does not build" or "changes nothing". The programs that run whole come
+        first: they are quick to build and run, and see most faults."""
+        for program in WHOLE_PROGRAMS:
+            if not self.compile("--target", Path(program).name):
+                return "does not build"
+            if self.has_changed(program) and self.fails(program):
+                return "dies"
+        if not self.compile():
+            return "does not build"
+        if not any(self.has_changed(program) for program in self.digests):
+            return "changes nothing"
+        return "dies" if self.rest_fails() else "survives"
 
     def try_out(self, fault):
-        """"survives", "dies", "does not build" or "changes nothing"."""
         path = self.folder / fault.path
         original = path.read_text()
         lines = original.split("\n")
         lines[fault.line - 1] = fault.after
         path.write_text("\n".join(lines))
         try:
-            if self.run(["cmake", "--build", str(self.build)], 900) != 0:
-                return "does not build"
-            if self.digest() == self.programs:
-                return "changes nothing"
-            return "survives" if self.failing_test() is None else "dies"
+            return self.outcome()
         finally:
             path.write_text(original)
 
@@ -240,15 +281,14 @@ def main():
     arguments = parser.parse_args()
     draw = Draw(ROOT, arguments.folders, arguments.seed)
     ends = {"survives": 0, "dies": 0, "does not build": 0}
-    with tempfile.TemporaryDirectory(prefix="kov-mutants-") as folder:
-        copy = Copy(Path(folder))
-        while sum(ends.values()) < arguments.count:
-            fault = draw.next()
-            end = copy.try_out(fault)
-            if end in ends:
-                ends[end] += 1
-            if end == "survives" or arguments.verbose:
-                print(f"{end}: {fault}", flush=True)
+    copy = Copy(ROOT / "build" / "mutants")
+    while sum(ends.values()) < arguments.count:
+        fault = draw.next()
+        end = copy.try_out(fault)
+        if end in ends:
+            ends[end] += 1
+        if end == "survives" or arguments.verbose:
+            print(f"{end}: {fault}", flush=True)
     print(f"{sum(ends.values())} mutants, {ends['survives']} survive, "
           f"{ends['does not build']} do not build")
 
