@@ -16,20 +16,6 @@ namespace {
 
 std::vector<std::string> journal;
 
-struct Probe : Entity {
-    explicit Probe(std::string name_, std::function<void()> onProcess_ = {})
-        : name(std::move(name_)), onProcess(std::move(onProcess_)) {}
-    ~Probe() override { journal.push_back("end " + name); }
-    void process() override {
-        journal.push_back("process " + name);
-        if (onProcess) onProcess();
-    }
-    void update() override { journal.push_back("update " + name); }
-
-    std::string name;
-    std::function<void()> onProcess;
-};
-
 struct Service : Component {
     explicit Service(std::string name_, std::function<void()> onUpdate_ = {})
         : name(std::move(name_)), onUpdate(std::move(onUpdate_)) {}
@@ -37,13 +23,7 @@ struct Service : Component {
         journal.push_back("update " + name);
         if (onUpdate) onUpdate();
     }
-    void process() override { journal.push_back("process " + name); }
-    void addEntity(Entity* e) override {
-        journal.push_back(name + " + " + static_cast<Probe*>(e)->name + std::to_string(e->id));
-    }
-    void removeEntity(Entity* e) override {
-        journal.push_back(name + " - " + static_cast<Probe*>(e)->name);
-    }
+    void process() override {}
     void removeAllEntities() override { journal.push_back(name + " - all"); }
 
     std::string name;
@@ -54,22 +34,16 @@ using Journal = std::vector<std::string>;
 
 class EngineTest : public testing::Test {
 protected:
-    void SetUp() override { journal.clear(); }
-    Probe* add(const std::string& name, std::function<void()> onProcess = {}) {
-        auto* const probe = new Probe(name, std::move(onProcess));
-        probe->id = engine.addEntity(probe);
-        return probe;
-    }
-    Journal run(void (EngineClass::*beat)()) {
+    /// What an update does with these components alone.
+    Journal update(std::initializer_list<Component*> components) {
+        engine.components.clear();
+        for (Component* const component : components)
+            engine.addComponent(component);
         journal.clear();
-        (engine.*beat)();
+        engine.update();
         return journal;
     }
-    void TearDown() override {
-        engine.components.clear(); // the test's own, gone by now
-        for (const auto& [id, entity] : engine.entities)
-            entity->dead = true;
-    }
+    void TearDown() override { engine.components.clear(); } // the test's own, gone by now
 
     EngineClass engine;
 };
@@ -93,23 +67,15 @@ TEST_F(EngineTest, SweepsComponentsByPositionWhileTheyComeAndGo) {
         engine.delComponent(&changer);
         engine.addComponent(&added);
     });
-    engine.addComponent(&changer);
-    engine.addComponent(&last);
     // After the change "last" stands at position 0, which has been, and "added" at 1.
-    EXPECT_EQ(run(&EngineClass::update),
+    EXPECT_EQ(update({&changer, &last}),
               (Journal{"update changer", "changer - all", "update added"}));
 
-    engine.delComponent(&last);
-    engine.delComponent(&added);
     Service emptier("emptier", [&] {
-        for (Component* c : {static_cast<Component*>(&last), static_cast<Component*>(&added),
-                             static_cast<Component*>(&emptier)})
+        for (Component* const c : {&last, &added, &emptier})
             engine.delComponent(c);
     });
-    for (Component* c : {static_cast<Component*>(&emptier), static_cast<Component*>(&last),
-                         static_cast<Component*>(&added)})
-        engine.addComponent(c);
-    EXPECT_EQ(run(&EngineClass::update),
+    EXPECT_EQ(update({&emptier, &last, &added}),
               (Journal{"update emptier", "last - all", "added - all", "emptier - all"}));
     EXPECT_TRUE(engine.components.empty());
 
@@ -120,8 +86,7 @@ TEST_F(EngineTest, SweepsComponentsByPositionWhileTheyComeAndGo) {
             engine.addComponent(crowd.back().get());
         }
     });
-    engine.addComponent(&crowder);
-    EXPECT_EQ(run(&EngineClass::update), (Journal{"update crowder"}));
+    EXPECT_EQ(update({&crowder}), (Journal{"update crowder"}));
 }
 
 TEST(MessageBus, DeliversInOrderOfSubscriptionOncePerSubscriber) {

@@ -1,42 +1,20 @@
 #include "Framework/Config.h"
-#include "Framework/GameInfo.h"
+#include "game/GameIdentity.h"
 #include "tests/support/Errors.h"
+#include "tests/support/Files.h"
 
 #include <boost/algorithm/string/replace.hpp>
-#include <gtest/gtest.h>
 
-#include <cstdio>
-#include <fstream>
 #include <functional>
-#include <sstream>
 
 using namespace quorva;
 using namespace quorva::config;
 
 namespace {
 
-constexpr const char* file_name = "settings-under-test.conf";
-
 class ConfigTest : public testing::Test {
 protected:
-    void SetUp() override {
-        GameInfoClass& info = GameInfo::Instance();
-        info.title = "KOV";
-        info.version = "1.0";
-        info.configFile = file_name;
-    }
-    void TearDown() override {
-        GameInfo::Instance().configFile = "game.conf";
-        std::remove(file_name);
-        std::remove((std::string(file_name) + ".bak").c_str());
-    }
-    static void write(const std::string& text) { std::ofstream(file_name) << text; }
-    static std::string read(const std::string& name) {
-        std::ifstream file(name);
-        std::ostringstream text;
-        text << file.rdbuf();
-        return file ? text.str() : "no such file";
-    }
+    void SetUp() override { introduceGame(); }
     static int reasonOf(const std::function<void()>& act) {
         try {
             act();
@@ -183,12 +161,12 @@ TEST_F(ConfigTest, ReadsTheFileLoosely) {
         {"no text", huge.c_str(), 800, ""},
     };
     for (const auto& c : cases) {
-        write(c.text);
+        fill("game.conf", c.text);
         ConfigClass config;
         EXPECT_EQ(errorsOf([&] { config.readFile(); }), c.errors) << c.what;
         EXPECT_EQ(config.getScreenWidth(), c.width) << c.what;
     }
-    write("FullScreen = yes\nPlayMusic = 0\nInvertJoystickAxis = 1\nUseJoystick = 0");
+    fill("game.conf", "FullScreen = yes\nPlayMusic = 0\nInvertJoystickAxis = 1\nUseJoystick = 0");
     ConfigClass config;
     config.readFile();
     EXPECT_FALSE(config.getFullScreen()) << "a word counts as 0";
@@ -198,7 +176,6 @@ TEST_F(ConfigTest, ReadsTheFileLoosely) {
 }
 
 TEST_F(ConfigTest, WritesWhatItReadsAndAnEmptyBackup) {
-    const std::string backup = std::string(file_name) + ".bak";
     {
         ConfigClass config;
         config.setScreenWidth(1280);
@@ -207,20 +184,14 @@ TEST_F(ConfigTest, WritesWhatItReadsAndAnEmptyBackup) {
         config.setScreenHeight(720); // pending only
         config.saveConfig();
     }
-    EXPECT_EQ(read(file_name),
-              "#Config file for: KOV. v.1.0\nScreenWidth = 1280\nScreenHeight = 600\n"
-              "ColourDepth = 32\nFullScreen = 0\nAntiAlias = 1\nCompatibility = 1\n"
-              "UseJoystick = 1\nActiveJoystick = 0\nJoystickSensitivity = 3200\n"
-              "InvertJoystickAxis = 0\nRate = 41000\nChannels = 40\nPlaySound = 1\n"
-              "PlayMusic = 1\nMusicVolume = 100\nEffectsVolume = 100\nIgnoreTime = 0\n"
-              "CollisionAccuracy = 10\nSaveCPU = 1\n#eof\n");
-    EXPECT_EQ(read(backup), "no such file") << "there was nothing to keep";
+    EXPECT_EQ(contentsOf("game.conf"), contentsOf(KOV_SOURCE_DIR "/tests/config/saved.conf"));
+    EXPECT_EQ(contentsOf("game.conf.bak"), no_file) << "there was nothing to keep";
     ConfigClass config;
     config.readFile();
     EXPECT_EQ(config.getScreenWidth(), 1280);
     EXPECT_TRUE(config.getSaveCPU());
     config.saveConfig();
-    EXPECT_EQ(read(backup), "");
+    EXPECT_EQ(contentsOf("game.conf.bak"), "");
 }
 
 TEST_F(ConfigTest, TakesArgumentsAndTellsWhetherToStart) {
@@ -273,38 +244,8 @@ TEST_F(ConfigTest, HelpListsEverySettingInItsSection) {
         ConfigClass config;
         testing::internal::CaptureStdout();
         EXPECT_FALSE(config.parseCmdLineArgs("./game", argument));
-        EXPECT_EQ(
-            testing::internal::GetCapturedStdout(),
-            "Usage: ./game [OPTIONS]...\nAll flags are case-sensitive.\nVideo Options:\n"
-            "  -w, --ScreenWidth\t\t=[NUM] Set Height at the same time\n"
-            "  -l, --ScreenHeight\t\t=[NUM] Set Width at the same time\n"
-            "  -c, --ColourDepth\t\t=[16|32] bit colour\n"
-            "  -f, --FullScreen\t\tForces Fullscreen.\n"
-            "  -F, --NoFullScreen\t\tForces Windowed.\n"
-            "  -a, --AntiAlias\t\tForces AntiAlias.\n"
-            "  -A, --NoAntiAlias\t\tForces Non-AntiAlias.\n"
-            "  -o, --Compatibility\t\tForces Graphic Compatibility.\n"
-            "  -O, --NoCompatibility\t\tForces No Graphic Compatibility. (non ATI/NV)\n\n"
-            "Sound Options:\n"
-            "  -r, --Rate\t\t\t=[10250|20500|41000] Set Audio Rate.\n"
-            "  -n, --Channels\t\t=[NUM] (10-255) Software Audio Channels.\n"
-            "  -g, --EffectsVolume\t\t=[NUM] (0-100)\n"
-            "  -h, --MusicVolume\t\t=[NUM] (0-100)\n"
-            "  -s, --PlaySound\t\tEnables Playing sound\n"
-            "  -m, --PlayMusic\t\tEnables Playing music\n\n"
-            "Input Options:\n"
-            "  -k, --ActiveJoystick\t\t=[NUM] Sets which Joystick to use (default=0)\n"
-            "  -y, --JoystickSensitivity\t=[0-32768] Sets Joystick Sens (default=3200)\n"
-            "  -j, --UseJoystick\t\tEnables Joystick Support\n"
-            "  -J, --NoUseJoystick\t\tDisables Joystick Support\n"
-            "  -e, --InvertJoystickAxis\tDon't Invert joystick Y axis\n"
-            "  -E, --NoInvertJoystickAxis\tInvert joystick Y axis\n\n"
-            "Effects:\nMisc:\n"
-            "  -z, --CollisionAccuracy\t=[1-1000] Sets sweep test range (EXPERT ONLY)\n"
-            "  -x, --IgnoreTime\t\tCauses the game to run as fast as possible\n"
-            "  -X, --NoIgnoreTime\t\tCauses the game to run normally\n"
-            "  -u, --SaveCPU\t\tMakes the game sleep while not processing (experimental)\n"
-            "  -U, --NoSaveCPU\t\tMakes the game process as fast as it can (using 100% CPU)\n\n")
+        EXPECT_EQ(testing::internal::GetCapturedStdout(),
+                  contentsOf(KOV_SOURCE_DIR "/tests/config/help.txt"))
             << argument;
     }
 }

@@ -16,7 +16,7 @@ namespace {
 
 using Triple = std::array<double, 3>; // RGB, linear RGB or Lab
 
-constexpr double pi = 3.14159265358979323846;
+constexpr double degree = 3.14159265358979323846 / 180.0;
 constexpr double field_grey = 0.105882; // what the screen is cleared with
 
 /// What a colour looks like over an opaque one.
@@ -54,14 +54,8 @@ Triple lab(const Triple& rgb) {
     return {116.0 * f[1] - 16.0, 500.0 * (f[0] - f[1]), 200.0 * (f[1] - f[2])};
 }
 
-double sine(double degrees) {
-    return std::sin(degrees * pi / 180.0);
-}
-double cosine(double degrees) {
-    return std::cos(degrees * pi / 180.0);
-}
 double hue(double a, double b) {
-    const double h = std::atan2(b, a) * 180.0 / pi;
+    const double h = std::atan2(b, a) / degree;
     return h < 0.0 ? h + 360.0 : h;
 }
 
@@ -81,13 +75,17 @@ double difference(const Triple& one, const Triple& two) {
     double mean_h = grey ? h1 + h2 : (h1 + h2) / 2.0;
     if (!grey && std::fabs(h1 - h2) > 180.0) mean_h += h1 + h2 < 360.0 ? 180.0 : -180.0;
     const double l = (one[0] + two[0]) / 2.0 - 50.0, c = (c1 + c2) / 2.0;
-    const double t = 1.0 - 0.17 * cosine(mean_h - 30.0) + 0.24 * cosine(2.0 * mean_h) +
-                     0.32 * cosine(3.0 * mean_h + 6.0) - 0.20 * cosine(4.0 * mean_h - 63.0);
+    const double t = 1.0 - 0.17 * std::cos(degree * (mean_h - 30.0)) +
+                     0.24 * std::cos(degree * (2.0 * mean_h)) +
+                     0.32 * std::cos(degree * (3.0 * mean_h + 6.0)) -
+                     0.20 * std::cos(degree * (4.0 * mean_h - 63.0));
     const double dl = (two[0] - one[0]) / (1.0 + 0.015 * l * l / std::sqrt(20.0 + l * l));
     const double dc = (c2 - c1) / (1.0 + 0.045 * c);
-    const double dH = 2.0 * std::sqrt(c1 * c2) * sine(dh / 2.0) / (1.0 + 0.015 * c * t);
+    const double dH =
+        2.0 * std::sqrt(c1 * c2) * std::sin(degree * dh / 2.0) / (1.0 + 0.015 * c * t);
     const double turn = 60.0 * std::exp(-std::pow((mean_h - 275.0) / 25.0, 2));
-    return std::sqrt(dl * dl + dc * dc + dH * dH - sine(turn) * 2.0 * seventh(c) * dc * dH);
+    return std::sqrt(dl * dl + dc * dc + dH * dH -
+                     std::sin(degree * turn) * 2.0 * seventh(c) * dc * dH);
 }
 
 /// How an eye sees linear RGB: Machado, Oliveira and Fernandes (2009), full severity.

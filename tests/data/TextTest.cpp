@@ -1,7 +1,5 @@
 // Every fixed text of the game, measured in the fonts of data/Font.kov where it stands.
 
-#include "Framework/Config.h"
-#include "Framework/Engine.h"
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/RenderableThing.h"
 #include "Framework/Graphics/Stuff/GWord.h"
@@ -9,19 +7,14 @@
 #include "Framework/menus/MainMenu.h"
 #include "game/AboutMenu.h"
 #include "game/CDLineIcon.h"
-#include "game/GameBase.h"
-#include "game/GameLevel.h"
 #include "game/GameOverScreen.h"
 #include "game/HelpMenu.h"
-#include "game/Marvo.h"
 #include "game/PUPLineIcon.h"
-#include "headless/HeadlessGame.h"
-#include "platform/standins/VirtualSDL.h"
+#include "tests/support/Field.h"
+#include "tests/support/Settings.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdio>
-#include <vector>
 
 using namespace quorva;
 
@@ -89,12 +82,7 @@ void expectInOrder(const Entity& page, std::size_t texts) {
 
 class TextTest : public testing::Test {
 protected:
-    void press(int symbol, unsigned int times = 1) {
-        for (unsigned int i = 0; i < times; ++i) {
-            run.press(symbol);
-            run.tick();
-        }
-    }
+    void press(std::initializer_list<int> keys) { ::press(run, keys); }
     void TearDown() override { Marvo::Instance().score = Marvo::Instance().highScore = 0; }
 
     headless::HeadlessGame run;
@@ -108,34 +96,26 @@ TEST_F(TextTest, TheMainMenuAndItsPages) {
     marvo.highScore = 9999999;
     menu.show(menus::menu_load_normal);
     expectInOrder(menu, 7);
-    press(SDLK_DOWN, 2);
-    press(SDLK_RETURN);
+    press({SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
     expectInOrder(*menu.helpMenu, 6);
-    press(SDLK_RETURN);
-    press(SDLK_DOWN, 3);
-    press(SDLK_RETURN);
+    press({SDLK_RETURN, SDLK_DOWN, SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
     expectInOrder(*menu.aboutMenu, 21);
 }
 
 TEST_F(TextTest, TheConfigurationWithAllItsValues) {
-    config::ConfigClass& settings = config::Config::Instance();
-    settings.setCollisionAccuracy(1000);
-    settings.activateConfig();
-    press(SDLK_DOWN);
-    press(SDLK_RETURN);
+    activate({{"CollisionAccuracy", 1000}});
+    press({SDLK_DOWN, SDLK_RETURN});
     auto& menu = static_cast<menus::ConfigMenu&>(*run.game().mainMenu->subMenu);
     constexpr std::size_t still = 18; // texts besides the lines of help
     for (std::size_t i = 0; i < menu.resolutions.size(); ++i) {
         expectInOrder(menu, still);
-        press(SDLK_RIGHT);
+        press({SDLK_RIGHT});
     }
-    press(SDLK_DOWN);
-    press(SDLK_RIGHT); // full screen
-    press(SDLK_DOWN, 3);
+    press({SDLK_DOWN, SDLK_RIGHT}); // full screen
+    press({SDLK_DOWN, SDLK_DOWN, SDLK_DOWN});
     run.tick(); // the lines of help follow the selection
     expectInOrder(menu, still + 2);
-    press(SDLK_DOWN);
-    press(SDLK_RIGHT); // saves the processor
+    press({SDLK_DOWN, SDLK_RIGHT}); // saves the processor
     expectInOrder(menu, still + 2);
 }
 

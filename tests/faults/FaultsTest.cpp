@@ -5,18 +5,16 @@
 #include "game/PlayerCharacter.h"
 #include "platform/fmodex/fmodex.h"
 #include "platform/standins/VirtualSDL.h"
+#include "tests/support/Files.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <csignal>
 #include <cstring>
-#include <fstream>
 #include <functional>
 #include <random>
 
@@ -51,6 +49,7 @@ const struct {
               {75, SDLK_RETURN}};
 constexpr unsigned int death_pass = 100;
 constexpr std::uint32_t record = 4321;
+const std::string beaten_score = std::string("\xe1\x10\0\0", 4); ///< with that record
 
 unsigned int passes = 0;
 /// After which pass the player ends the game, and how. That takes one more at most.
@@ -76,10 +75,7 @@ void turnPage() {
 
 class Faults : public testing::Test {
 protected:
-    struct Outcome {
-        std::string errors;
-        int code;
-    };
+    using Outcome = std::pair<std::string, int>; ///< what was said on standard error, exit code
 
     void SetUp() override {
         fs::create_directories(folder / "Songs");
@@ -90,22 +86,14 @@ protected:
                 fs::copy_file(entry.path(), folder / name / entry.path().filename());
         }
         fs::copy_file(source / "fuzz/corpus/sound_file/song.ogg", folder / "Songs/a.ogg");
+        fs::current_path(folder);
         fill("bind1.conf", "Fire Up, w\n");
         fill("game.conf", settings);
         fill("s.dat", std::string("\x10\x27\0\0", 4));
-        fs::current_path(folder);
     }
     void TearDown() override {
         fs::current_path("/");
         fs::remove_all(folder);
-    }
-
-    void fill(const char* name, const std::string& contents) {
-        std::ofstream((folder / name).string(), std::ios::binary) << contents;
-    }
-    std::string contentsOf(const char* name) const {
-        std::ifstream file((folder / name).string(), std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
     }
 
     /// Runs the game in a child process, as somebody whom file permissions bind.
@@ -132,17 +120,17 @@ protected:
             std::exit(code == 0 && passes - lastPass > 1 ? stopped_elsewhere : code);
         }
         close(ends[1]);
-        Outcome outcome;
+        std::string errors;
         char piece[4096];
         for (ssize_t got; (got = read(ends[0], piece, sizeof piece)) > 0;)
-            outcome.errors.append(piece, static_cast<std::size_t>(got));
+            errors.append(piece, static_cast<std::size_t>(got));
         close(ends[0]);
         int status = 0;
         waitpid(child, &status, 0);
-        outcome.code = WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status);
-        return outcome;
+        return {errors, WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status)};
     }
 
+    const Outcome well = {"", 0};
     const std::string settings = "ScreenWidth = 1280\nScreenHeight = 1024\n";
     const fs::path folder = fs::temp_directory_path() / fs::unique_path("kov-faults-%%%%%%%%");
 
@@ -182,7 +170,7 @@ void spoil(const fs::path& path, Harm harm) {
     if (wantsFolder)
         fs::create_directory(path);
     else
-        std::ofstream(path.string(), std::ios::binary) << (harm == garbage ? noise() : "");
+        fill(path.string(), harm == garbage ? noise() : "");
 }
 
 /// What is harmed, all of it at once, and the lines of each harm. A pipe and a device are no
@@ -212,6 +200,10 @@ std::string unreadSounds(FMOD_RESULT result) {
     return lines;
 }
 
+Row always(const char* path, const std::string& line) {
+    return {{path}, {line, line, line, line, line}};
+}
+
 std::string unreadSong(FMOD_RESULT result) {
     return told(result) + told(FMOD_ERR_INVALID_PARAM);
 }
@@ -219,32 +211,28 @@ std::string unreadSong(FMOD_RESULT result) {
 } // namespace
 
 TEST_F(Faults, WithAllInPlaceNothingIsSaidAndAllIsKept) {
-    const Outcome outcome = play();
-    EXPECT_EQ(outcome.errors, "");
-    EXPECT_EQ(outcome.code, 0);
+    EXPECT_EQ(play(), well);
     EXPECT_EQ(contentsOf("game.conf").substr(0, 50),
               "#Config file for: KOV. v.1.0\nScreenWidth = 1280\nSc");
     EXPECT_EQ(contentsOf("s.dat"), std::string("\x10\x27\0\0", 4)) << "10000 is not beaten";
     fill("s.dat", "");
-    EXPECT_EQ(play().code, 0);
-    EXPECT_EQ(contentsOf("s.dat"), std::string("\xe1\x10\0\0", 4));
+    EXPECT_EQ(play(), well);
+    EXPECT_EQ(contentsOf("s.dat"), beaten_score);
 }
 
 TEST_F(Faults, AFileThatIsNotWhatItShouldBeIsReportedOnceAndTheGameGoesOn) {
     const FMOD_RESULT notFound = FMOD_ERR_FILE_NOTFOUND, badFormat = FMOD_ERR_FORMAT;
-    const std::string colours = twice("Can't readColour file: data/Colour.kov\n");
-    const std::string points = twice("Can't readPoint file: data/Point.kov\n");
-    const std::string fonts = twice("Can't readFont file: data/Font.kov\n");
-    const std::string keys = "Can't read bind1.conf\n";
-    const std::string songs = "Song directory is missing\n";
+    const std::string looks = "Can't readColour file: data/Colour.kov\n"
+                              "Can't readFont file: data/Font.kov\n",
+                      points = "Can't readPoint file: data/Point.kov\n",
+                      songs = "Song directory is missing\n",
+                      unread = looks + "Can't read bind1.conf\n" + points + looks + points;
     const Row rows[] = {
-        {{"data/Colour.kov"}, {colours, "", colours, colours, ""}},
-        {{"data/Point.kov"}, {points, "", points, points, ""}},
-        {{"data/Font.kov"}, {fonts, "", fonts, fonts, ""}},
-        {{"data/kov.ico"}, {}},
-        {{"game.conf"}, {}},
-        {{"s.dat"}, {}},
-        {{"bind1.conf"}, {keys, "", keys, keys, ""}},
+        {{"data/Colour.kov", "data/Font.kov", "data/Point.kov", "bind1.conf"},
+         {unread, "", unread, unread, ""}},
+        {{"data/kov.ico", "game.conf", "s.dat"}, {}},
+        always("fonts/KovMenu.ttf", twice("Couldn't load font: fonts/KovMenu.ttf\n")),
+        always("fonts/VeraMono.ttf", "Couldn't load font: fonts/VeraMono.ttf\n"), // the fallback
         {{"Songs"}, {songs, "", songs, songs, songs}},
         {{"Songs/a.ogg"},
          {"", unreadSong(badFormat), "", unreadSong(notFound), unreadSong(badFormat)}},
@@ -253,9 +241,7 @@ TEST_F(Faults, AFileThatIsNotWhatItShouldBeIsReportedOnceAndTheGameGoesOn) {
           "Sounds/Bad.wav", "Sounds/Pause.wav"},
          {unreadSounds(notFound), unreadSounds(badFormat), unreadSounds(notFound),
           unreadSounds(notFound), unreadSounds(badFormat)}},
-        {{"Sounds"},
-         {unreadSounds(notFound), unreadSounds(notFound), unreadSounds(notFound),
-          unreadSounds(notFound), unreadSounds(notFound)}},
+        always("Sounds", unreadSounds(notFound)),
     };
     for (const Row& row : rows) {
         for (int harm = missing; harm < harm_count; ++harm) {
@@ -264,50 +250,18 @@ TEST_F(Faults, AFileThatIsNotWhatItShouldBeIsReportedOnceAndTheGameGoesOn) {
             SCOPED_TRACE(std::string(row.paths[0]) + ": " + harm_names[harm]);
             for (const char* path : row.paths)
                 spoil(path, static_cast<Harm>(harm));
-            const Outcome outcome = play();
-            EXPECT_EQ(outcome.errors, row.linesOf(harm));
-            EXPECT_EQ(outcome.code, 0);
+            EXPECT_EQ(play(), Outcome(row.linesOf(harm), 0));
             TearDown();
             SetUp();
         }
     }
 }
 
-TEST_F(Faults, AFontThatCannotBeReadIsReportedAtEachLoad) {
-    const std::string family = "KovMenu.ttf", fallback = "VeraMono.ttf";
-    fill("data/Font.kov", "Menu Font,-," + family + ",Polygon\n");
-    for (const std::string& font : {family, fallback}) {
-        for (int harm = missing; harm < harm_count; ++harm) {
-            SCOPED_TRACE(font + ": " + harm_names[harm]);
-            const fs::path path = folder / "fonts" / font;
-            fs::rename(path, folder / "kept");
-            fs::copy_file(folder / "kept", path);
-            spoil(path, static_cast<Harm>(harm));
-            const Outcome outcome = play();
-            // The fallback is loaded once; what the file names, again when the video restarts.
-            const std::string line = "Couldn't load font: fonts/" + font + "\n";
-            EXPECT_EQ(outcome.errors, font == fallback ? line : line + line);
-            EXPECT_EQ(outcome.code, 0);
-            fs::remove_all(path);
-            fs::rename(folder / "kept", path);
-        }
-    }
-}
-
 TEST_F(Faults, WhatCannotBeWrittenIsPassedOverAndLosesNothing) {
-    const auto fullDisk = [](rlim_t room) {
-        return [room] {
-            std::signal(SIGXFSZ, SIG_IGN);
-            const rlimit limit = {room, room};
-            setrlimit(RLIMIT_FSIZE, &limit);
-        };
-    };
     const std::string score = std::string("\1\0\0\0", 4);
     fill("s.dat", score);
     for (const rlim_t room : {0, 2, 60}) {
-        const Outcome outcome = play(fullDisk(room));
-        EXPECT_EQ(outcome.errors, "");
-        EXPECT_EQ(outcome.code, 0);
+        EXPECT_EQ(play([room] { leaveRoom(room); }), well);
         EXPECT_EQ(contentsOf("game.conf"), settings) << room << " bytes of room";
         if (room < score.size()) {
             EXPECT_EQ(contentsOf("s.dat"), score);
@@ -318,10 +272,8 @@ TEST_F(Faults, WhatCannotBeWrittenIsPassedOverAndLosesNothing) {
     fill("s.dat", score);
     for (const char* path : {"game.conf", "s.dat", "."})
         fs::permissions(path, fs::owner_read | fs::owner_exe);
-    for (const std::string& kept : {score, std::string("\xe1\x10\0\0", 4)}) {
-        const Outcome outcome = play();
-        EXPECT_EQ(outcome.errors, "");
-        EXPECT_EQ(outcome.code, 0);
+    for (const std::string& kept : {score, beaten_score}) {
+        EXPECT_EQ(play(), well);
         EXPECT_EQ(contentsOf("s.dat"), kept);
         EXPECT_EQ(contentsOf("game.conf"), settings);
         EXPECT_FALSE(fs::exists("game.conf.bak"));
@@ -331,21 +283,8 @@ TEST_F(Faults, WhatCannotBeWrittenIsPassedOverAndLosesNothing) {
 }
 
 TEST_F(Faults, WithoutAGameTooTheTerminalIsGivenBack) {
-    const Outcome outcome = play({}, {"--nonsense", "-f", "-q"});
-    EXPECT_EQ(outcome.errors, twice("Usage: kov [OPTION]...\n"
-                                    "Try `kov --help` for more information.\n"));
-    EXPECT_EQ(outcome.code, stopped_elsewhere) << "in no game";
-}
-
-TEST_F(Faults, AHighScoreFileOfAnyLengthIsRead) {
-    for (std::size_t length = 0; length <= 5; ++length) {
-        fill("s.dat", std::string("\xff\xff\xff\xff\xff").substr(0, length));
-        const Outcome outcome = play();
-        EXPECT_EQ(outcome.errors, "");
-        EXPECT_EQ(outcome.code, 0);
-        const bool beaten = length < 2; // by 4321
-        EXPECT_EQ(contentsOf("s.dat").substr(0, 2), beaten ? "\xe1\x10" : "\xff\xff") << length;
-    }
+    const std::string usage = "Usage: kov [OPTION]...\nTry `kov --help` for more information.\n";
+    EXPECT_EQ(play({}, {"--nonsense", "-f", "-q"}), Outcome(twice(usage), stopped_elsewhere));
 }
 
 TEST_F(Faults, OfTheMachine) {
@@ -353,20 +292,18 @@ TEST_F(Faults, OfTheMachine) {
     const struct {
         const char* what;
         std::function<void()> prepare;
-        std::string errors;
-        int code;
+        Outcome outcome;
     } cases[] = {
-        {"no sound card", [] { setenv("ALSOFT_DRIVERS", "alsa", 1); }, "", 0},
-        {"no sound system", [] { setenv("ALSOFT_DRIVERS", "none", 1); }, "", 0},
-        {"a joystick that does not open", [] { sdl().joysticks = 1, sdl().refusedJoystick = 0; },
-         "No active joysticks found.\n", 0},
-        {"the mode is refused", [] { sdl().refusedModes = 1; }, refused, 0},
-        {"so is the other", [] { sdl().refusedModes = 2; }, refused + refused, 255},
+        {"no sound card", [] { setenv("ALSOFT_DRIVERS", "alsa", 1); }, well},
+        {"no sound system", [] { setenv("ALSOFT_DRIVERS", "none", 1); }, well},
+        {"a joystick that does not open",
+         [] { sdl().joysticks = 1, sdl().refusedJoystick = 0; },
+         {"No active joysticks found.\n", 0}},
+        {"the mode is refused", [] { sdl().refusedModes = 1; }, {refused, 0}},
+        {"so is the other", [] { sdl().refusedModes = 2; }, {refused + refused, 255}},
     };
     for (const auto& c : cases) {
-        const Outcome outcome = play(c.prepare);
-        EXPECT_EQ(outcome.errors, c.errors) << c.what;
-        EXPECT_EQ(outcome.code, c.code) << c.what;
+        EXPECT_EQ(play(c.prepare), c.outcome) << c.what;
     }
 }
 
@@ -384,12 +321,11 @@ TEST_F(Faults, SignalsEndTheGameAsAClosedWindowDoes) {
             end = [&c] { raise(c.signal); };
             if (c.pass == 0) sdl().onMode = end;
         });
-        EXPECT_EQ(outcome.errors, "") << c.what;
-        EXPECT_EQ(outcome.code, 0) << c.what << ", signal " << c.signal;
+        EXPECT_EQ(outcome, well) << c.what << ", signal " << c.signal;
     }
     const Outcome ignoring = play([] {
         std::signal(SIGHUP, SIG_IGN); // as nohup does
         sdl().onMode = [] { raise(SIGHUP); };
     });
-    EXPECT_EQ(ignoring.code, 0) << "plays to the end";
+    EXPECT_EQ(ignoring, well) << "plays to the end";
 }

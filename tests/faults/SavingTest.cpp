@@ -1,19 +1,17 @@
 // What a file holds when saving it fails, or ends in the middle.
 
 #include "Framework/Files.h"
+#include "tests/support/Files.h"
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 #include <sys/ptrace.h>
-#include <sys/resource.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <climits>
-#include <csignal>
-#include <fstream>
 #include <functional>
 
 namespace fs = boost::filesystem;
@@ -48,18 +46,11 @@ protected:
     void SetUp() override {
         fs::create_directory(folder);
         fs::current_path(folder);
-        fill(old_contents);
+        fill("s.dat", old_contents);
     }
     void TearDown() override {
         fs::current_path("/");
         fs::remove_all(folder);
-    }
-    static void fill(const std::string& contents) {
-        std::ofstream("s.dat", std::ios::binary) << contents;
-    }
-    static std::string held(const char* name = "s.dat") {
-        std::ifstream file(name, std::ios::binary);
-        return file ? std::string(std::istreambuf_iterator<char>(file), {}) : "nothing there";
     }
     static void makeLink() {
         fs::rename("s.dat", "elsewhere");
@@ -116,9 +107,9 @@ TEST_F(Saving, KilledAtAnySystemCallItLeavesTheOldFileOrTheNewOne) {
         std::function<void()> prepare;
     } cases[] = {
         {"a file", old_contents, [] {}},
-        {"no file", "nothing there", [] { fs::remove("s.dat"); }},
+        {"no file", no_file, [] { fs::remove("s.dat"); }},
         {"a link to a file of the same length", "old contents",
-         [] { fill("old contents"), makeLink(); }},
+         [] { fill("s.dat", "old contents"), makeLink(); }},
     };
     for (const auto& c : cases) {
         std::string last;
@@ -128,7 +119,7 @@ TEST_F(Saving, KilledAtAnySystemCallItLeavesTheOldFileOrTheNewOne) {
             SetUp();
             c.prepare();
             killed = killAt(moment);
-            last = held();
+            last = contentsOf("s.dat");
             EXPECT_TRUE(last == c.before || last == new_contents)
                 << c.what << ", killed at " << moment << ": " << last;
         }
@@ -138,11 +129,7 @@ TEST_F(Saving, KilledAtAnySystemCallItLeavesTheOldFileOrTheNewOne) {
 }
 
 TEST_F(Saving, WithErrorsOfTheDiskLosesNothing) {
-    const auto fullDisk = [] {
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit = {5, 5}; // bytes
-        setrlimit(RLIMIT_FSIZE, &limit);
-    };
+    const auto fullDisk = [] { leaveRoom(5); };
     const struct {
         const char* what;
         bool isLink;
@@ -160,10 +147,10 @@ TEST_F(Saving, WithErrorsOfTheDiskLosesNothing) {
     for (const auto& c : cases) {
         TearDown();
         SetUp();
-        fill(contents);
+        fill("s.dat", contents);
         if (c.isLink) makeLink();
         EXPECT_EQ(save(c.prepare).status, c.saved ? 0 : 256) << c.what;
-        EXPECT_TRUE(held() == (c.saved ? new_contents : contents)) << c.what;
+        EXPECT_TRUE(contentsOf("s.dat") == (c.saved ? new_contents : contents)) << c.what;
         EXPECT_EQ(std::distance(fs::directory_iterator("."), {}), c.isLink ? 2 : 1) << c.what;
     }
 }
@@ -172,19 +159,19 @@ TEST_F(Saving, KeepsWhatIsToKnowOfAFileAndReadsNoneOfALargeOne) {
     fs::permissions("s.dat", fs::owner_read | fs::owner_write | fs::others_read);
     fs::create_hard_link("s.dat", "twin");
     EXPECT_EQ(save().status, 0);
-    EXPECT_EQ(held("twin"), new_contents);
+    EXPECT_EQ(contentsOf("twin"), new_contents);
     fs::remove("twin");
     makeLink();
     EXPECT_EQ(save().status, 0);
-    EXPECT_EQ(held("elsewhere"), new_contents);
+    EXPECT_EQ(contentsOf("elsewhere"), new_contents);
     fs::rename("elsewhere", "s.dat");
     fs::resize_file("s.dat", 1U << 30U);
     EXPECT_LT(save().memory, 300 << 10);
-    EXPECT_EQ(held(), new_contents);
+    EXPECT_EQ(contentsOf("s.dat"), new_contents);
     EXPECT_EQ(fs::status("s.dat").permissions(),
               fs::owner_read | fs::owner_write | fs::others_read);
     fs::remove("s.dat");
     fs::create_symlink("elsewhere", "s.dat");
     EXPECT_EQ(save().status, 0);
-    EXPECT_EQ(held("elsewhere"), new_contents) << "a link to nothing";
+    EXPECT_EQ(contentsOf("elsewhere"), new_contents) << "a link to nothing";
 }

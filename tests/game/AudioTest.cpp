@@ -1,17 +1,16 @@
 #include "game/FModMP3Input.h"
 
-#include "Framework/Config.h"
 #include "Framework/math/MTRand.h"
 #include "game/FModSystem.h"
 #include "platform/standins/SoundRecorder.h"
 #include "platform/standins/VirtualSDL.h"
 #include "tests/support/Errors.h"
+#include "tests/support/Files.h"
+#include "tests/support/Settings.h"
 
 #include <boost/algorithm/string/replace.hpp>
 #include <boost/filesystem.hpp>
-#include <gtest/gtest.h>
 
-#include <fstream>
 #include <functional>
 #include <set>
 
@@ -49,26 +48,18 @@ protected:
     void TearDown() override {
         sound().recording = false;
         sound().unreadable.clear();
-        settings.setDefaults();
-        settings.activateConfig();
         boost::filesystem::remove_all("Songs");
         boost::filesystem::create_directory("Songs");
     }
     static void songs(std::initializer_list<const char*> names) {
         for (const char* name : names)
-            std::ofstream(std::string("Songs/") + name) << "song";
-    }
-    void set(const char* setting, int value) {
-        settings.getConfigValues().setValue(setting, value);
-        settings.activateConfig();
+            fill(std::string("Songs/") + name, "song");
     }
     static void pause(bool paused) {
         PauseGame message;
         message.paused = paused;
         publish(message);
     }
-
-    config::ConfigClass& settings = config::Config::Instance();
 };
 
 } // namespace
@@ -92,7 +83,7 @@ TEST_F(AudioTest, LoadsEveryEffectAndReportsEachThatCannotBeRead) {
 TEST_F(AudioTest, PlaysAnEffectForEachMessageAndSetsTheVolumeInEveryCase) {
     sound().unreadable = {"Sounds/Pup.wav"};
     FModMP3Input audio;
-    set("EffectsVolume", 50);
+    activate({{"EffectsVolume", 50}});
     sound().take();
     std::string last;
     for (const auto& effect : effects) {
@@ -103,7 +94,7 @@ TEST_F(AudioTest, PlaysAnEffectForEachMessageAndSetsTheVolumeInEveryCase) {
                   (isThere ? "play " + last + "; " : "") + "volume " + last + " 0.5; ")
             << effect.file;
     }
-    set("NoPlaySound", 0);
+    activate({{"NoPlaySound", 0}});
     for (const auto& effect : effects) {
         effect.send();
         EXPECT_EQ(sound().take(), "volume " + last + " 0.5; ") << effect.file << ", off";
@@ -145,8 +136,8 @@ TEST_F(AudioTest, PlaysSongsByTheClockWithPausesTakenOut) {
     constexpr std::uint32_t ten_days = 864'000'000, near_wrap = 4'294'960'000; // ms
     songs({"a.mp3", "b.ogg"});
     FModMP3Input audio;
-    set("EffectsVolume", 50);
-    set("MusicVolume", 25);
+    activate({{"EffectsVolume", 50}});
+    activate({{"MusicVolume", 25}});
     const auto start = [] { publish(PlaySong()); };
     const auto nothing = [] {};
     const struct {
@@ -163,11 +154,22 @@ TEST_F(AudioTest, PlaysSongsByTheClockWithPausesTakenOut) {
         {"end", 1, nothing, "release A; open B 64; play B; volume B 0.25; "},
         {"the pause counts once", 90000, nothing, ""},
         {"end again", 1, nothing, "release B; open A 64; play A; volume A 0.25; "},
-        {"level", 0, [&] { set("MusicVolume", 75); }, ""},
+        {"level", 0,
+         [&] {
+             activate({{"MusicVolume", 75}});
+         },
+         ""},
         {"level of the next", 90001, nothing, "release A; open B 64; play B; volume B 0.75; "},
-        {"off", 1, [&] { set("NoPlayMusic", 0); }, ""},
+        {"off", 1,
+         [&] {
+             activate({{"NoPlayMusic", 0}});
+         },
+         ""},
         {"end while off", 90001, nothing, ""},
-        {"on again", 1, [&] { set("PlayMusic", 0); },
+        {"on again", 1,
+         [&] {
+             activate({{"PlayMusic", 0}});
+         },
          "release B; open A 64; play A; volume A 0.75; "},
         {"clock set back, below its start", 0, [] { sdl().ticks = near_wrap; }, ""},
         {"start there", 0, start, "release A; open B 64; play B; volume B 0.75; "},
@@ -176,11 +178,19 @@ TEST_F(AudioTest, PlaysSongsByTheClockWithPausesTakenOut) {
         {"end behind the wrap", 1, nothing, "release B; open A 64; play A; volume A 0.75; "},
         {"stop", 1, [] { publish(StopSong()); }, "release A; "},
         {"long after", 1'000'000, nothing, ""},
-        {"start while off", 0, [&] { set("NoPlayMusic", 0), start(); }, ""},
+        {"start while off", 0,
+         [&] {
+             activate({{"NoPlayMusic", 0}}), start();
+         },
+         ""},
         {"off for ten days", ten_days, nothing, ""},
         {"for twenty", ten_days, nothing, ""},
         {"for thirty", ten_days, nothing, ""},
-        {"on after a month", 0, [&] { set("PlayMusic", 0); }, "open B 64; play B; volume B 0.75; "},
+        {"on after a month", 0,
+         [&] {
+             activate({{"PlayMusic", 0}});
+         },
+         "open B 64; play B; volume B 0.75; "},
         {"stop at last", 0, [] { publish(StopSong()); }, "release B; "},
     };
     std::string first, second;

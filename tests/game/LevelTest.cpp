@@ -1,21 +1,11 @@
 #include "tests/support/FieldTest.h"
+#include "tests/support/Files.h"
 
 #include "Framework/Timer.h"
-
-#include <fstream>
 
 using namespace quorva;
 
 using LevelTest = FieldTest;
-
-namespace {
-
-std::vector<char> readFile(const char* name) {
-    std::ifstream file(name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
-} // namespace
 
 TEST_F(LevelTest, PausesWithASoundButNotAsItEnds) {
     const Count<SoundPause> sounds;
@@ -30,7 +20,6 @@ TEST_F(LevelTest, PausesWithASoundButNotAsItEnds) {
 
 TEST_F(LevelTest, ScoresSmallRectanglesFarHigher) {
     MarvoClass& marvo = Marvo::Instance();
-    EXPECT_EQ(marvo.fieldArea, 1200.0);
     const Count<SoundSquare> sounds;
     const struct {
         const char* what;
@@ -46,9 +35,9 @@ TEST_F(LevelTest, ScoresSmallRectanglesFarHigher) {
         {"not a number", {NAN, 0, 0, 1}, 1, 0},
     };
     for (const auto& c : cases) {
-        marvo.score = 0;
+        marvo.score = 100;
         marvo.killTriangles(c.box, c.count);
-        EXPECT_EQ(marvo.score, c.points) << c.what;
+        EXPECT_EQ(marvo.score, 100 + c.points) << c.what;
     }
     EXPECT_EQ(static_cast<std::size_t>(sounds.count), std::size(cases));
     marvo.score = 0xFFFFFFFFU;
@@ -71,15 +60,15 @@ TEST_F(LevelTest, GivesALifeAboveEachMarkOneATick) {
 
 TEST_F(LevelTest, KeepsARecordButNoTie) {
     MarvoClass& marvo = Marvo::Instance();
-    marvo.highScore = 500;
-    std::remove("s.dat");
-    marvo.score = 500;
+    marvo.highScore = marvo.score = 500;
     marvo.saveHighScore();
-    EXPECT_TRUE(readFile("s.dat").empty()) << "a tie is no record";
+    EXPECT_EQ(contentsOf("s.dat"), no_file) << "a tie is no record";
     marvo.score = 501;
     marvo.saveHighScore();
-    EXPECT_EQ(readFile("s.dat").size(), 4U);
-    EXPECT_EQ(MarvoClass().highScore, 501U);
-    std::remove("s.dat");
-    EXPECT_EQ(MarvoClass().highScore, 0U);
+    EXPECT_EQ(contentsOf("s.dat").size(), 4U);
+    EXPECT_EQ(MarvoClass().highScore, marvo.highScore);
+    for (const auto& [length, read] : {std::pair{0, 0U}, {1, 0xFFU}, {3, 0xFFFFFFU}, {5, ~0U}}) {
+        fill("s.dat", std::string(length, '\xff'));
+        EXPECT_EQ(MarvoClass().highScore, read) << length << " bytes";
+    }
 }

@@ -1,6 +1,5 @@
 #include "tests/support/FieldTest.h"
 
-#include "Framework/Config.h"
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/Draw.h"
 #include "Framework/Graphics/GraphicObject.h"
@@ -9,6 +8,7 @@
 #include "Framework/Managers/FontManager.h"
 #include "tests/pictures/Pictures.h"
 #include "tests/support/Errors.h"
+#include "tests/support/Settings.h"
 
 #include <csignal>
 
@@ -95,11 +95,7 @@ TEST(Words, AFontOfAnUnknownModeEndsTheProcess) {
 }
 
 TEST_F(FieldTest, ARefusedModeFallsBackButKeepsTheSettings) {
-    auto& settings = config::Config::Instance();
-    settings.setScreenWidth(1280);
-    settings.setScreenHeight(800);
-    settings.setFullScreen(true);
-    settings.activateConfig();
+    activate({{"ScreenWidth", 1280}, {"ScreenHeight", 800}, {"FullScreen", 1}});
     standins::sdl().modes.clear();
     standins::sdl().refusedModes = 1;
     EXPECT_EQ(errorsOf([] { publish(messages::ResetVideo()); }),
@@ -109,10 +105,7 @@ TEST_F(FieldTest, ARefusedModeFallsBackButKeepsTheSettings) {
     EXPECT_EQ(standins::sdl().modes[1].depth, 32);
     EXPECT_EQ(standins::sdl().modes[1].flags, std::uint32_t{SDL_OPENGL | SDL_FULLSCREEN});
     EXPECT_EQ(Camera::Instance().right, 24.0) << "by the configured size";
-    settings.setDefaults();
-    settings.activateConfig();
     standins::sdl().refusedModes = 0;
-    publish(messages::ResetVideo());
 }
 
 TEST(Camera, TakesTheFieldFromTheShapeOfTheScreen) {
@@ -123,8 +116,6 @@ TEST(Camera, TakesTheFieldFromTheShapeOfTheScreen) {
         double right, top;
         const char* errors;
     } cases[] = {
-        {1280, 1024, 20, 15, ""},
-        {1600, 1200, 20, 15, ""},
         {540, 960, 11.25, 20, ""},
         {500, 800, 11.25, 18, ""},
         {600, 800, 11.25, 15, ""},

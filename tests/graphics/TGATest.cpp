@@ -50,10 +50,13 @@ Bytes pixelsOf(const TGA& image, int count) {
     return image.getImg() == nullptr ? Bytes() : Bytes(image.getImg(), image.getImg() + count);
 }
 
+Header with(int Header::*field, int value, Header h = {}) {
+    h.*field = value;
+    return h;
+}
+
 Header mappedHeader(int type) {
-    Header h;
-    h.type = type;
-    h.bits = 8;
+    Header h = {type, 8};
     h.mapType = 1;
     h.mapLength = 256;
     h.mapBits = 24;
@@ -83,12 +86,7 @@ struct Sample {
 void expectUpload(int type, int bits, bool topDown) {
     Sample sample(type, bits);
     if (!topDown) std::swap(sample.rows[0], sample.rows[1]);
-    Header h;
-    h.type = type;
-    h.bits = bits;
-    h.width = 3;
-    h.descriptor = topDown ? 0x20 : 0;
-    write(file(h, sample.data));
+    write(file({type, bits, 3, 2, topDown ? 0x20 : 0}, sample.data));
     std::string line = "Name, image.tga ", name;
     resources::TextureObject texture;
     const std::string calls =
@@ -148,9 +146,7 @@ TEST_F(TGATest, KeepsAPaletteRedFirstButMakesNoTextureOfIt) {
         Bytes data = map;
         data.insert(data.end(), type == 1 ? std::initializer_list<int>{5, 5, 5, 6}
                                           : std::initializer_list<int>{0x82, 5, 0x00, 6});
-        Header h = mappedHeader(type);
-        h.idLength = 3;
-        EXPECT_EQ(load(file(h, data), image), 1);
+        EXPECT_EQ(load(file(with(&Header::idLength, 3, mappedHeader(type)), data), image), 1);
         EXPECT_EQ(pixelsOf(image, 4), (Bytes{5, 5, 5, 6}));
         for (int i = 0; i < 256; ++i)
             EXPECT_EQ(Bytes(image.getPalette() + 3 * i, image.getPalette() + 3 * i + 3),
@@ -160,8 +156,7 @@ TEST_F(TGATest, KeepsAPaletteRedFirstButMakesNoTextureOfIt) {
 }
 
 TEST_F(TGATest, UnpacksRunsAndLiteralsAndSurvivesLies) {
-    Header h;
-    h.type = 10;
+    Header h = with(&Header::type, 10);
     EXPECT_EQ(load(file(h, {0x82, 3, 2, 1, 0x00, 6, 5, 4}), image), 1);
     EXPECT_EQ(pixelsOf(image, 12), (Bytes{1, 2, 3, 1, 2, 3, 1, 2, 3, 4, 5, 6}));
     EXPECT_EQ(load(file(h, {0xff, 3, 2, 1}), image), 1) << "overruns the image";
@@ -175,37 +170,25 @@ TEST_F(TGATest, UnpacksRunsAndLiteralsAndSurvivesLies) {
 }
 
 TEST_F(TGATest, RefusesWithACode) {
+    using H = Header;
     const struct {
         const char* what;
-        void (*spoil)(Header&);
+        H header;
         std::size_t bytes;
         int code;
     } cases[] = {
-        {"exactly long enough", [](Header&) {}, 12, 1},
-        {"a byte short", [](Header&) {}, 11, 8},
-        {"with an identification", [](Header& h) { h.idLength = 1; }, 12, 8},
-        {"a map of 255",
-         [](Header& h) {
-             h = mappedHeader(1);
-             h.mapLength = 255;
-         },
-         800, 64},
-        {"mapped without a map", [](Header& h) { h.type = 9; }, 12, 8},
-        {"origin as large as the width", [](Header& h) { h.x = 2; }, 12, 8},
-        {"no height", [](Header& h) { h.height = 0; }, 12, 8},
-        {"descriptor above 32", [](Header& h) { h.descriptor = 33; }, 12, 64},
-        {"huge",
-         [](Header& h) {
-             h.width = h.height = 32767;
-             h.bits = 255;
-         },
-         12, 4},
+        {"exactly long enough", {}, 12, 1},
+        {"a byte short", {}, 11, 8},
+        {"with an identification", with(&H::idLength, 1), 12, 8},
+        {"a map of 255", with(&H::mapLength, 255, mappedHeader(1)), 800, 64},
+        {"mapped without a map", with(&H::type, 9), 12, 8},
+        {"origin as large as the width", with(&H::x, 2), 12, 8},
+        {"no height", with(&H::height, 0), 12, 8},
+        {"descriptor above 32", with(&H::descriptor, 33), 12, 64},
+        {"huge", {2, 255, 32767, 32767}, 12, 4},
     };
-    for (const auto& c : cases) {
-        Header h;
-        c.spoil(h);
-        EXPECT_EQ(load(file(h, Bytes(c.bytes, 5)), image), c.code) << c.what;
-    }
+    for (const auto& c : cases)
+        EXPECT_EQ(load(file(c.header, Bytes(c.bytes, 5)), image), c.code) << c.what;
     EXPECT_EQ(load({}, image), 2) << "empty";
     std::string name = path;
     ASSERT_EQ(truncate(path, (512L << 20) + 1), 0);

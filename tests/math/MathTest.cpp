@@ -1,8 +1,8 @@
-#include "Framework/Config.h"
 #include "Framework/Primitives/Box.h"
 #include "Framework/math/LineWidth.h"
 #include "Framework/math/MTRand.h"
 #include "Framework/math/Matrix.h"
+#include "tests/support/Settings.h"
 
 #include <gtest/gtest.h>
 
@@ -34,23 +34,12 @@ TEST(MTRand, GivesThePublishedWords) {
 
     const unsigned long key[] = {0x123, 0x234, 0x345, 0x456};
     random.seed(key, 4);
+    random.seed(nullptr, 3);
+    random.seed(key, 0);
+    MTRand_int32 another; // none of them changes the stream, which all share
     for (const unsigned long word :
          {1067595299UL, 955945823UL, 477289528UL, 4107218783UL, 4228976476UL})
-        EXPECT_EQ(random(), word);
-}
-
-TEST(MTRand, SharesOneStreamThatASecondObjectDoesNotSeedAgain) {
-    MTRand_int32 one;
-    one.seed(7UL);
-    const unsigned long first = one();
-    MTRand_int32 two;
-    EXPECT_NE(two(), first);
-    one.seed(7UL);
-    EXPECT_EQ(two(), first);
-    one.seed(nullptr, 3);
-    one.seed(&first, 0);
-    const double fraction = randomFraction(one);
-    EXPECT_TRUE(fraction >= 0.0 && fraction < 1.0);
+        EXPECT_EQ(another(), word);
 }
 
 TEST(Quaternion, GivesAnAngleForEveryValue) {
@@ -130,33 +119,24 @@ TEST(Matrix, Calculates) {
     EXPECT_EQ(scaled * Vector(46, 0, 0), a * Vector(1, 0, 0)) << "left alone";
 }
 
-TEST(Box, RoundsInEveryCopy) {
-    const quorva::primitives::Box box(0.1, 0.2, 0.3, 0.4);
-    const quorva::primitives::Box copy = box;
-    EXPECT_EQ(box.top, 0.1);
-    EXPECT_EQ(copy.top, 0.1F);
-    EXPECT_NE(copy.right, box.right);
+TEST(Box, IsNothingAtFirstAndRoundsInEveryCopy) {
+    using quorva::primitives::Box;
+    for (double Box::*const side :
+         {&Box::top, &Box::bottom, &Box::left, &Box::right, &Box::near, &Box::far}) {
+        Box box;
+        EXPECT_EQ(box.*side, 0.0);
+        box.*side = 0.1;
+        EXPECT_EQ(Box(box).*side, 0.1F);
+    }
 }
 
-TEST(LineWidth, FollowsTheScreenDownToAPixel) {
-    auto& config = quorva::config::Config::Instance();
-    const struct {
-        const char* what;
-        int screen;
-        bool compatibility;
-        double width;
-        float scaled;
-    } cases[] = {
-        {"reference screen", 1280, true, 4, 4},
-        {"half of it", 640, true, 4, 2},
-        {"thin, kept at a pixel", 640, true, 1, 1},
-        {"thin, as it is", 640, false, 1, 0.5F},
-    };
-    for (const auto& c : cases) {
-        config.setScreenWidth(static_cast<unsigned short>(c.screen));
-        config.setCompatibility(c.compatibility);
-        config.setAntiAlias(!c.compatibility); // has no say in it
-        config.activateConfig();
-        EXPECT_EQ(lineWidthScale(c.width), c.scaled) << c.what;
+TEST(LineWidth, FollowsTheScreenBelowAPixelOnlyWithoutCompatibility) {
+    for (const bool compatible : {true, false}) {
+        activate({{"ScreenWidth", 640},
+                  {compatible ? "Compatibility" : "NoCompatibility", 0},
+                  {compatible ? "NoAntiAlias" : "AntiAlias", 0}}); // which has no say in it
+        EXPECT_EQ(lineWidthScale(4), 2.0F);
+        EXPECT_EQ(lineWidthScale(2), 1.0F);
+        EXPECT_EQ(lineWidthScale(1), compatible ? 1.0F : 0.5F);
     }
 }

@@ -1,26 +1,15 @@
-#include "headless/HeadlessGame.h"
+#include "tests/support/FieldTest.h"
 
-#include "Framework/Config.h"
-#include "Framework/Engine.h"
 #include "Framework/Graphics/Stuff/GTransparentBox.h"
 #include "Framework/Graphics/Stuff/GWord.h"
 #include "Framework/menus/ConfigMenu.h"
 #include "Framework/menus/MainMenu.h"
-#include "game/GameBase.h"
-#include "game/GameLevel.h"
 #include "game/GameOverScreen.h"
-#include "game/Marvo.h"
-#include "platform/standins/VirtualSDL.h"
 #include "tests/support/Errors.h"
-#include "tests/support/FieldTest.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/Files.h"
+#include "tests/support/Settings.h"
 
 #include <cstdio>
-#include <fstream>
-#include <memory>
-#include <string>
-#include <vector>
 
 using namespace quorva;
 using namespace quorva::menus;
@@ -31,12 +20,7 @@ class MenusTest : public testing::Test {
 protected:
     MenusTest() : main(*run.game().mainMenu) {}
 
-    void press(std::initializer_list<int> keys) {
-        for (const int key : keys) {
-            run.press(key);
-            run.tick();
-        }
-    }
+    void press(std::initializer_list<int> keys) { ::press(run, keys); }
     ConfigMenu& openConfig() {
         press({SDLK_DOWN, SDLK_RETURN});
         return static_cast<ConfigMenu&>(*main.subMenu);
@@ -62,7 +46,7 @@ TEST_F(MenusTest, TheSelectionWraps) {
     messages::MenuMove both;
     both.up = both.select = true;
     publish(both); // the new selection is what is chosen
-    EXPECT_TRUE(run.isOver());
+    EXPECT_TRUE(run.isOver() && main.dead);
 }
 
 TEST_F(MenusTest, TheHighScoreIsReadAtEachReturn) {
@@ -94,35 +78,29 @@ TEST_F(MenusTest, ConfigurationStepsThroughTheSizesOfScreens) {
 TEST_F(MenusTest, EachRowOfTheConfigurationChangesItsOwnSettingWithinItsBounds) {
     ConfigMenu& menu = openConfig();
     using Slider = std::uint16_t ConfigMenu::*;
-    const Slider sliders[] = {nullptr,
-                              nullptr,
-                              &ConfigMenu::musicVolume,
-                              &ConfigMenu::fxVolume,
-                              &ConfigMenu::collisionAccuracy,
-                              nullptr};
     const struct {
         ConfigMenu::Row row;
         int key; ///< held for longer than a slider takes
         const char* before;
         const char* after;
+        Slider slider = nullptr; ///< that is set to what is before
     } cases[] = {
         {ConfigMenu::row_resolution, SDLK_LEFT, "800 x 600", "720 x 576"},
         {ConfigMenu::row_fullscreen, SDLK_LEFT, "Windowed", "Fullscreen"},
         {ConfigMenu::row_fullscreen, SDLK_RIGHT, "Fullscreen", "Windowed"},
-        {ConfigMenu::row_music_volume, SDLK_RIGHT, "97", "100"},
-        {ConfigMenu::row_music_volume, SDLK_LEFT, "3", "0"},
-        {ConfigMenu::row_fx_volume, SDLK_RIGHT, "97", "100"},
-        {ConfigMenu::row_fx_volume, SDLK_LEFT, "3", "0"},
-        {ConfigMenu::row_accuracy, SDLK_RIGHT, "997", "1000"},
-        {ConfigMenu::row_accuracy, SDLK_LEFT, "4", "1"},
+        {ConfigMenu::row_music_volume, SDLK_RIGHT, "97", "100", &ConfigMenu::musicVolume},
+        {ConfigMenu::row_music_volume, SDLK_LEFT, "3", "0", &ConfigMenu::musicVolume},
+        {ConfigMenu::row_fx_volume, SDLK_RIGHT, "97", "100", &ConfigMenu::fxVolume},
+        {ConfigMenu::row_fx_volume, SDLK_LEFT, "3", "0", &ConfigMenu::fxVolume},
+        {ConfigMenu::row_accuracy, SDLK_RIGHT, "997", "1000", &ConfigMenu::collisionAccuracy},
+        {ConfigMenu::row_accuracy, SDLK_LEFT, "4", "1", &ConfigMenu::collisionAccuracy},
         {ConfigMenu::row_save_cpu, SDLK_RIGHT, "No", "Yes"},
         {ConfigMenu::row_save_cpu, SDLK_LEFT, "Yes", "No"},
     };
     for (const auto& c : cases) {
         while (menu.selection != c.row)
             press({SDLK_DOWN});
-        if (const auto slider = sliders[c.row])
-            menu.*slider = static_cast<std::uint16_t>(std::stoi(c.before));
+        if (c.slider != nullptr) menu.*c.slider = static_cast<std::uint16_t>(std::stoi(c.before));
         run.tick();
         std::vector<std::string> words = wordsOf(menu);
         EXPECT_EQ(words[c.row], c.before);
@@ -155,7 +133,7 @@ TEST_F(MenusTest, EachRowOfTheConfigurationChangesItsOwnSettingWithinItsBounds) 
     EXPECT_EQ(main.subMenu, nullptr);
     EXPECT_TRUE(main.shown);
     EXPECT_FALSE(config::Config::Instance().getFullScreen()) << "dropped";
-    EXPECT_FALSE(std::ifstream("game.conf"));
+    EXPECT_EQ(contentsOf("game.conf"), no_file);
 }
 
 TEST_F(MenusTest, SavingActivatesRebuildsTheVideoAndComesBackFromTheFile) {
@@ -174,8 +152,7 @@ TEST_F(MenusTest, SavingActivatesRebuildsTheVideoAndComesBackFromTheFile) {
     standins::sdl().modes.clear();
     const auto save = [this] {
         press({SDLK_UP, SDLK_UP, SDLK_RETURN});
-        std::ifstream file("game.conf");
-        return std::string(std::istreambuf_iterator<char>(file), {});
+        return contentsOf("game.conf");
     };
     const Count<messages::ResetAudio> audioResets;
     const std::string saved = save();
@@ -196,9 +173,6 @@ TEST_F(MenusTest, SavingActivatesRebuildsTheVideoAndComesBackFromTheFile) {
     std::remove("game.conf");
     EXPECT_EQ(save(), saved);
     settings.file.reset();
-    settings.setDefaults();
-    settings.activateConfig();
-    publish(messages::ResetVideo());
 }
 
 TEST_F(MenusTest, ASecondLevelIsRefused) {

@@ -19,8 +19,8 @@ namespace {
 constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 
 template <class Pairs>
-void addPairs(std::ostream& out, const char* what, const Pairs& pairs) {
-    out << what;
+void addPairs(std::ostream& out, const Pairs& pairs) {
+    out << "pairs";
     for (const auto& [a, b] : pairs)
         out << ' ' << a->id << '-' << b->id;
     out << '\n';
@@ -149,6 +149,14 @@ std::string playedOut(unsigned int seed, bool plain) {
     FieldMaker(field, seed).make();
     PhysicsProcessor& processor = *field.physics;
     PlainPhysics loops(processor);
+    using namespace physics;
+    const std::tuple<ShapeType, ShapeType, PairList*> kinds[] = {
+        {shape_box, shape_box, &processor.aabbAabbTests},
+        {shape_box, shape_point, &processor.aabbPointTests},
+        {shape_box, shape_triangle, &processor.aabbTriangleTests},
+        {shape_triangle, shape_triangle, &processor.triangleTriangleTests},
+        {shape_triangle, shape_point, &processor.trianglePointTests},
+        {shape_point, shape_point, &processor.pointPointTests}};
     std::ostringstream out;
     for (int tick = 0; tick < 3; ++tick) {
         if (plain)
@@ -156,18 +164,11 @@ std::string playedOut(unsigned int seed, bool plain) {
         else
             processor.process();
         out << "tick " << tick << '\n';
-        const auto list = [&](const char* what, const auto& slow, const auto& fast) {
+        for (const auto& [first, second, fast] : kinds)
             if (plain)
-                addPairs(out, what, slow);
+                addPairs(out, loops.pairs(first, second));
             else
-                addPairs(out, what, fast);
-        };
-        list("box box", loops.aabbAabb, processor.aabbAabbTests);
-        list("box point", loops.aabbPoint, processor.aabbPointTests);
-        list("box triangle", loops.aabbTriangle, processor.aabbTriangleTests);
-        list("triangle triangle", loops.triangleTriangle, processor.triangleTriangleTests);
-        list("triangle point", loops.trianglePoint, processor.trianglePointTests);
-        list("point point", loops.pointPoint, processor.pointPointTests);
+                addPairs(out, *fast);
         addSquares(out, plain ? loops.squares : processor.squares);
         addObjects(out, field);
         field.run.frame();

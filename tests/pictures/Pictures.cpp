@@ -17,7 +17,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr std::ptrdiff_t lines_before = 4, lines_shown = 6; // of a difference
+constexpr std::size_t shown = 2000; ///< letters, of what differs
 
 Lines linesOf(std::istream& in) {
     Lines lines;
@@ -58,24 +58,6 @@ void pin(const std::string& state, const Lines& lines, const std::string& like) 
         file << "like " << like << ' ' << first - lines.begin() << ' ' << lines.end() - last
              << '\n';
     std::for_each(first, last, [&file](const std::string& line) { file << line << '\n'; });
-}
-
-/// The first lines that differ, with some before them.
-std::string difference(const Lines& expected, const Lines& now) {
-    const auto first =
-        std::mismatch(expected.begin(), expected.end(), now.begin(), now.end()).first;
-    const std::ptrdiff_t at = first - expected.begin();
-    std::ostringstream out;
-    const auto show = [&out](const char* mark, const Lines& lines, std::ptrdiff_t from,
-                             std::ptrdiff_t to) {
-        for (; from < std::min<std::ptrdiff_t>(to, lines.size()); ++from)
-            out << mark << lines[from] << '\n';
-    };
-    out << "from call " << at + 1 << " of " << expected.size() << " on (- pinned, + now):\n";
-    show("    ", expected, std::max<std::ptrdiff_t>(at - lines_before, 0), at);
-    show("  - ", expected, at, at + lines_shown);
-    show("  + ", now, at, at + lines_shown);
-    return out.str();
 }
 
 /// A font that writes down what it is asked to render.
@@ -124,8 +106,11 @@ void expectPicture(const std::string& state, const std::string& calls, const std
     if (std::getenv("KOV_RENEW_PICTURES") != nullptr) pin(state, now, like);
     const Lines expected = pinned(state);
     EXPECT_FALSE(expected.empty()) << "no picture of " << state << " is pinned";
-    EXPECT_TRUE(now == expected) << state << " looks different " << difference(expected, now)
-                                 << "If that is meant: tools/renew_pictures.sh";
+    if (now == expected) return;
+    using testing::internal::edit_distance::CreateUnifiedDiff;
+    ADD_FAILURE() << state << " looks different (- pinned, + now):\n"
+                  << CreateUnifiedDiff(expected, now).substr(0, shown)
+                  << "\nIf that is meant: tools/renew_pictures.sh";
 }
 
 std::string frameOf(headless::HeadlessGame& run) {

@@ -2,7 +2,6 @@
 
 #include "tests/pictures/Pictures.h"
 
-#include "Framework/Config.h"
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/Renderer.h"
 #include "game/BombClear.h"
@@ -10,18 +9,12 @@
 #include "game/PupCooldown.h"
 #include "game/PupLine.h"
 #include "tests/support/FieldTest.h"
+#include "tests/support/Settings.h"
 
 using namespace quorva;
 using headless::HeadlessGame;
 
 namespace {
-
-void press(HeadlessGame& run, std::initializer_list<int> keys) {
-    for (const int key : keys) {
-        run.press(key);
-        run.ticks(2); // it is taken in the first, and seen in the second
-    }
-}
 
 class PicturesOfAField : public FieldTest {
 protected:
@@ -36,28 +29,21 @@ protected:
         engine.createEntity<BombClear>("Clear Bomb", math::Point(-12, -8, 0));
         engine.createEntity<BombImmune>("Immune Bomb", math::Point(12, -8, 0));
         for (const auto& [x, y] : {std::pair{25, 3}, {-3, -18}, {5, 19}, {-24, -4}, {17, 0}})
-            addTriangle(x, y);
+            add(x, y, 3.0);
         run.ticks(35);
         for (const auto& [x, y] : {std::pair{1, 0}, {-1, 0}, {0, 1}, {0, -1}}) {
-            messages::PlayerInput shot;
-            shot.fire = math::Vector(x, y, 0);
-            publish(shot);
+            fire(x, y);
             run.ticks(5);
         }
         across(12, -18, 18)->lifeTicks = 70; // blinks
-        addTriangle(-7, 0);
+        add(-7, 0, 3.0);
         for (const double side : {-3.0, 3.0}) {
             across(side, -11, -3);
             upright(-7 + side, -4, 4);
         }
         run.ticks(3); // it is caught, and bursts
-        body(addTriangle(8, 4)).hitLine = true;
+        body(add(8, 4, 3.0)).hitLine = true;
         run.process();
-    }
-
-    static Triangle* addTriangle(double x, double y) {
-        return Engine::Instance().createEntity<Triangle>("Triangle", math::Point(x, y, 0), 3.0,
-                                                         1.0);
     }
 };
 
@@ -65,11 +51,7 @@ protected:
 
 TEST(Pictures, OfAVideoModeAsItIsSetUp) {
     expectPicture("video-mode", callsOf([] { const graphics::Renderer renderer(nullptr); }));
-    auto& settings = config::Config::Instance();
-    settings.setScreenWidth(1280);
-    settings.setScreenHeight(800);
-    settings.setFullScreen(true);
-    settings.activateConfig();
+    activate({{"ScreenWidth", 1280}, {"ScreenHeight", 800}, {"FullScreen", 1}});
     expectPicture("video-mode-full-screen",
                   callsOf([] { const graphics::Renderer renderer(nullptr); }), "video-mode");
 }
@@ -78,22 +60,22 @@ TEST(Pictures, OfTheMenus) {
     HeadlessGame run(100);
     for (const char* item : {"start", "configuration", "help", "about", "exit"}) {
         expectPicture(std::string("menu-") + item, frameOf(run), "menu-start");
-        press(run, {SDLK_DOWN});
+        press(run, {SDLK_DOWN}, 2);
     }
-    press(run, {SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
+    press(run, {SDLK_DOWN, SDLK_DOWN, SDLK_RETURN}, 2);
     expectPicture("help", frameOf(run));
-    press(run, {SDLK_RETURN, SDLK_DOWN, SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
+    press(run, {SDLK_RETURN, SDLK_DOWN, SDLK_DOWN, SDLK_DOWN, SDLK_RETURN}, 2);
     expectPicture("about", frameOf(run));
-    press(run, {SDLK_RETURN});
+    press(run, {SDLK_RETURN}, 2);
     expectPicture("menu-start", frameOf(run)); // it is back as it was
-    press(run, {SDLK_DOWN, SDLK_RETURN});
+    press(run, {SDLK_DOWN, SDLK_RETURN}, 2);
     for (const char* row : {"resolution", "fullscreen", "music-volume", "fx-volume",
                             "collision-accuracy", "save-cpu", "save", "cancel"}) {
         expectPicture(std::string("configuration-") + row, frameOf(run),
                       "configuration-resolution");
-        press(run, {SDLK_DOWN});
+        press(run, {SDLK_DOWN}, 2);
     }
-    press(run, {SDLK_ESCAPE});
+    press(run, {SDLK_ESCAPE}, 2);
     expectPicture("menu-start", frameOf(run));
 }
 

@@ -1,34 +1,25 @@
 // Games are kept, played again and compared by the programs themselves; files are spoilt in
 // between.
 
-#include "headless/HeadlessGame.h"
 #include "headless/Sandbox.h"
 #include "replay/Blocks.h"
 #include "replay/Script.h"
 
-#include "Framework/Engine.h"
 #include "Framework/math/MTRand.h"
-#include "Framework/physics/PhysicsObject.h"
-#include "game/Marvo.h"
-#include "game/Triangle.h"
+#include "tests/support/Field.h"
+#include "tests/support/Files.h"
 
-#include <SDL.h>
-#include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include <cmath>
 #include <cstdio>
-#include <fstream>
 #include <functional>
-#include <iterator>
 
 using namespace quorva;
 using namespace quorva::replay;
 
 namespace {
-
-namespace fs = boost::filesystem;
 
 struct Outcome {
     int code;
@@ -44,26 +35,18 @@ Outcome run(const std::string& command) {
     return outcome;
 }
 
-std::string bytesOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-}
-
 class Replay : public testing::Test {
 protected:
-    void SetUp() override { fs::create_directories(folder); }
-    void TearDown() override { fs::remove_all(folder); }
-
     /// Of a file with these bytes.
-    Outcome verify(const std::string& bytes) const {
-        std::ofstream((folder / "a").string(), std::ios::binary) << bytes;
-        return verifyFile((folder / "a").string());
+    static Outcome verify(const std::string& bytes) {
+        fill("a", bytes);
+        return verifyFile("a");
     }
     static Outcome verifyFile(const std::string& path) {
         return run(KOV_VERIFY " " + path + " " KOV_SOURCE_DIR);
     }
 
-    const fs::path folder = fs::temp_directory_path() / fs::unique_path("kov-replay-%%%%%%%%");
+    const headless::Sandbox sandbox{KOV_SOURCE_DIR};
     const std::string kept = KOV_SOURCE_DIR "/tests/recordings/first-steps.kovreplay";
     const std::string other = KOV_SOURCE_DIR "/tests/recordings/one-game.kovreplay";
 };
@@ -71,16 +54,16 @@ protected:
 using Edit = std::function<bool(Record&)>; // true: it is done
 
 /// A replay with other contents, as a program that knows the format would write them.
-std::string edited(const std::string& path, const fs::path& folder, const Edit& edit,
+std::string edited(const std::string& path, const Edit& edit,
                    const std::function<void(replay::Setup&)>& editSetup = {}) {
-    const std::string to = (folder / "edited").string();
     Script script(path);
     RecordWriter records;
     ByteWriter bytes;
     if (editSetup) editSetup(script.setup);
     script.setup.write(bytes);
     {
-        BlockWriter blocks(to);
+        std::remove("edited"); // of the edit before
+        BlockWriter blocks("edited");
         bool done = !edit;
         while (auto record = script.next()) {
             if (!done) done = edit(*record);
@@ -92,9 +75,7 @@ std::string edited(const std::string& path, const fs::path& folder, const Edit& 
         EXPECT_TRUE(done);
         blocks.write(bytes.bytes);
     }
-    const std::string result = bytesOf(to);
-    fs::remove(to);
-    return result;
+    return contentsOf("edited");
 }
 
 /// The first key that fires.
@@ -102,12 +83,6 @@ bool changeKey(Record& record) {
     for (Event& event : record.pass_.events)
         if (event.which == SDLK_w) return event.which = SDLK_s, true;
     return false;
-}
-
-Triangle* anyTriangle() {
-    for (const auto& [id, entity] : Engine::Instance().entities)
-        if (auto* const triangle = dynamic_cast<Triangle*>(entity)) return triangle;
-    return nullptr;
 }
 
 } // namespace
@@ -123,9 +98,9 @@ TEST_F(Replay, HoldsWhateverWasPlayed) {
         {"--seed 8 --ticks 1000 --songs 4 --music 0 --idle 3", ""}, // each pass draws
     };
     for (const auto& c : cases) {
-        const std::string path = (folder / std::string(1, c.options[7])).string();
-        ASSERT_EQ(run(KOV_RECORD " " + path + " " + c.options).code, 0);
-        const Outcome outcome = verifyFile(path);
+        std::remove("recorded");
+        ASSERT_EQ(run(KOV_RECORD " recorded " + std::string(c.options)).code, 0);
+        const Outcome outcome = verifyFile("recorded");
         EXPECT_EQ(outcome.code, 0) << c.options << outcome.text;
         EXPECT_NE(outcome.text.find(": holds\n"), std::string::npos) << outcome.text;
         EXPECT_NE(outcome.text.find(c.games), std::string::npos) << outcome.text;
@@ -133,7 +108,7 @@ TEST_F(Replay, HoldsWhateverWasPlayed) {
 }
 
 TEST_F(Replay, ACutOffFileHoldsUpToThere) {
-    const std::string whole = bytesOf(other);
+    const std::string whole = contentsOf(other);
     for (const double share : {0.3, 0.7, 0.999}) {
         const auto size = static_cast<std::size_t>(share * static_cast<double>(whole.size()));
         const Outcome outcome = verify(whole.substr(0, size));
@@ -143,7 +118,7 @@ TEST_F(Replay, ACutOffFileHoldsUpToThere) {
 }
 
 TEST_F(Replay, ADamagedFileIsToldInALine) {
-    const std::string whole = bytesOf(kept);
+    const std::string whole = contentsOf(kept);
     const auto with = [&](std::size_t place, char byte) {
         return std::string(whole).replace(place, 1, 1, byte);
     };
@@ -170,7 +145,7 @@ TEST_F(Replay, ADamagedFileIsToldInALine) {
         {flipped(whole.size() - 1), "damaged"},
         {whole + whole, "damaged"},
         {whole + "x", "damaged"},
-        {whole.substr(0, secondBlock) + bytesOf(other).substr(secondBlock), ""},
+        {whole.substr(0, secondBlock) + contentsOf(other).substr(secondBlock), ""},
         {whole.substr(0, 13) + whole.substr(secondBlock), "damaged"}, // the first one left out
     };
     for (const auto& c : cases) {
@@ -182,7 +157,7 @@ TEST_F(Replay, ADamagedFileIsToldInALine) {
 }
 
 TEST_F(Replay, AnEditedFileDiffers) {
-    EXPECT_EQ(verify(edited(other, folder, {})).code, 0) << "nothing was edited";
+    EXPECT_EQ(verify(edited(other, {})).code, 0) << "nothing was edited";
     const struct {
         const char* words;
         Edit edit;
@@ -204,7 +179,7 @@ TEST_F(Replay, AnEditedFileDiffers) {
          [](Record& r) { return r.kind == Record::game_begin && (r.kind = Record::check, true); }},
     };
     for (const auto& c : cases) {
-        const Outcome outcome = verify(edited(other, folder, c.edit));
+        const Outcome outcome = verify(edited(other, c.edit));
         EXPECT_EQ(outcome.code, 1) << &c - cases << outcome.text;
         EXPECT_NE(outcome.text.find(c.words), std::string::npos) << &c - cases << outcome.text;
     }
@@ -218,7 +193,7 @@ TEST_F(Replay, AnEditedFileDiffers) {
             if (letter == 'z') value = 11;
     };
     for (void (*const edit)(replay::Setup&) : {+bind, +fade, +refine})
-        EXPECT_EQ(verify(edited(other, folder, {}, edit)).code, 1);
+        EXPECT_EQ(verify(edited(other, {}, edit)).code, 1);
 }
 
 TEST(Comparison, NamesTheFirstObjectThatDiffers) {
@@ -229,15 +204,12 @@ TEST(Comparison, NamesTheFirstObjectThatDiffers) {
         {"", [] {}},
         {"the first that differs: Triangle ",
          [] {
-             double& x = anyTriangle()->physics->position.x;
+             double& x = Field::newest<Triangle>()->physics->position.x;
              x = std::nextafter(x, 1000.0);
          }},
         {"the first that differs: score and lives", [] { ++Marvo::Instance().score; }},
         {"the first that differs: random stream", [] { math::MTRand_int32()(); }},
-        {"objects in place of",
-         [] {
-             Engine::Instance().createEntity<Triangle>("Triangle", math::Point(9, 9, 0), 0.0, 1.0);
-         }},
+        {"objects in place of", [] { Field::add(9, 9); }},
     };
     const headless::Sandbox sandbox(KOV_SOURCE_DIR);
     headless::HeadlessGame game(11);

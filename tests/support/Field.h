@@ -13,6 +13,15 @@
 #include "headless/HeadlessGame.h"
 #include "platform/standins/VirtualSDL.h"
 
+/// Presses keys one after the other. A key is taken in the first tick, and seen in the second.
+inline void press(quorva::headless::HeadlessGame& run, std::initializer_list<int> keys,
+                  unsigned int ticksEach = 1) {
+    for (const int key : keys) {
+        run.press(key);
+        run.ticks(ticksEach);
+    }
+}
+
 /// A running level with an empty field, for tests to furnish. Nothing touches the player, unless a
 /// test makes its body active.
 class Field {
@@ -33,11 +42,20 @@ public:
 
     static quorva::physics::PhysicsObject& body(quorva::Entity* e) { return *e->physics; }
 
+    static void fire(double x, double y) {
+        quorva::messages::PlayerInput input;
+        input.fire = quorva::math::Vector(x, y, 0);
+        quorva::publish(input);
+    }
+
+    static Triangle* add(double x, double y, double speed = 0.0) {
+        return quorva::Engine::Instance().createEntity<Triangle>(
+            "Triangle", quorva::math::Point(x, y, 0), speed, 1.0);
+    }
     /// A triangle that lies still, with the corners given in world units.
     Triangle* lay(const quorva::math::Point& a, const quorva::math::Point& b,
                   const quorva::math::Point& c) {
-        auto* const triangle = quorva::Engine::Instance().createEntity<Triangle>(
-            "Triangle", quorva::math::Point(), 0.0, 1.0);
+        Triangle* const triangle = add(0, 0);
         body(triangle).velocity = quorva::math::zero_vector;
         body(triangle).vertices = {a, b, c};
         return triangle;

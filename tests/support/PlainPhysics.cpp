@@ -83,7 +83,12 @@ bool joins(const TrapLine* line, const TrapLine* top, const TrapLine* bottom) {
 } // namespace
 
 void PlainPhysics::process() {
-    pairUp();
+    participants.clear();
+    for (Entity* e : processor.entities) {
+        const PhysicsObject& body = *e->physics;
+        if (!body.collidable || !body.isActive) continue;
+        if (body.type != shape_box || !body.boxes.empty()) participants.emplace_back(e, body.type);
+    }
     for (unsigned int step = 0; step < processor.stepCount; ++step) {
         for (Entity* e : processor.entities) {
             e->physics->collided = false;
@@ -99,28 +104,15 @@ void PlainPhysics::process() {
     }
 }
 
-void PlainPhysics::pairUp() {
-    for (Pairs* pairs :
-         {&aabbAabb, &aabbPoint, &aabbTriangle, &triangleTriangle, &trianglePoint, &pointPoint})
-        pairs->clear();
-    Pairs* const lists[3][3] = {{&aabbAabb, &aabbTriangle, &aabbPoint},
-                                {&aabbTriangle, &triangleTriangle, &trianglePoint},
-                                {&aabbPoint, &trianglePoint, &pointPoint}};
-    const auto& entities = processor.entities;
-    for (std::size_t i = 0; i < entities.size(); ++i) {
-        for (std::size_t j = i; j < entities.size(); ++j) {
-            const PhysicsObject &a = *entities[i]->physics, &b = *entities[j]->physics;
-            if (!a.collidable || !a.isActive || !b.collidable || !b.isActive) continue;
-            if (a.type == shape_box && a.boxes.empty()) continue;
-            if (b.type == shape_box && b.boxes.empty()) continue;
-            const bool swapped = (b.type == shape_box && a.type != shape_box) ||
-                                 (a.type == shape_point && b.type == shape_triangle);
-            if (swapped)
-                lists[a.type][b.type]->emplace_back(entities[j], entities[i]);
-            else
-                lists[a.type][b.type]->emplace_back(entities[i], entities[j]);
-        }
-    }
+PlainPhysics::Pairs PlainPhysics::pairs(ShapeType first, ShapeType second) const {
+    Pairs found;
+    for (auto a = participants.begin(); a != participants.end(); ++a)
+        for (auto b = a; b != participants.end(); ++b)
+            if (a->second == first && b->second == second)
+                found.emplace_back(a->first, b->first);
+            else if (b->second == first && a->second == second)
+                found.emplace_back(b->first, a->first);
+    return found;
 }
 
 void PlainPhysics::move() const {
@@ -141,7 +133,7 @@ void PlainPhysics::move() const {
 }
 
 void PlainPhysics::testBoxesAndBoxes() const {
-    for (const auto& [a, b] : aabbAabb) {
+    for (const auto& [a, b] : pairs(shape_box, shape_box)) {
         PhysicsObject &first = *a->physics, &second = *b->physics;
         const AABB &box1 = first.boxes.front(), &box2 = second.boxes.front();
         const bool touch =
@@ -155,7 +147,7 @@ void PlainPhysics::testBoxesAndBoxes() const {
 }
 
 void PlainPhysics::testBoxesAndTriangles() const {
-    for (const auto& [a, b] : aabbTriangle) {
+    for (const auto& [a, b] : pairs(shape_box, shape_triangle)) {
         PhysicsObject &box = *a->physics, &triangle = *b->physics;
         const double x = box.position.x, y = box.position.y;
         const double hw = box.boxes.front().halfWidth, hh = box.boxes.front().halfHeight;
@@ -176,7 +168,7 @@ void PlainPhysics::testBoxesAndTriangles() const {
 }
 
 void PlainPhysics::testTrianglesAndPoints() const {
-    for (const auto& [triangle, point] : trianglePoint) {
+    for (const auto& [triangle, point] : pairs(shape_triangle, shape_point)) {
         if (!holds(*triangle->physics, point->physics->position)) continue;
         triangle->physics->collided = triangle->physics->hitLine = true;
         point->physics->collided = true;

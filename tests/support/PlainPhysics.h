@@ -2,7 +2,6 @@
 
 #include "Framework/physics/PhysicsProcessor.h"
 
-#include <utility>
 #include <vector>
 
 /// The rules of PhysicsProcessor::process as plain loops that repeat everything in every
@@ -16,11 +15,11 @@ public:
 
     void process();
 
-    Pairs aabbAabb, aabbPoint, aabbTriangle, triangleTriangle, trianglePoint, pointPoint;
+    /// What is tested against each other, of these shapes, in this tick.
+    Pairs pairs(quorva::physics::ShapeType first, quorva::physics::ShapeType second) const;
     std::vector<quorva::physics::PhysicsProcessor::Square> squares;
 
 private:
-    void pairUp();
     void move() const;
     void testBoxesAndBoxes() const;
     void testBoxesAndTriangles() const;
@@ -30,4 +29,5 @@ private:
     void testBoxes() const;
 
     quorva::physics::PhysicsProcessor& processor;
+    std::vector<quorva::physics::Participant> participants; ///< in this tick
 };
