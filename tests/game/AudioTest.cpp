@@ -136,10 +136,10 @@ TEST_F(AudioTest, PlaysSongsByTheClockWithPausesTakenOut) {
     constexpr std::uint32_t ten_days = 864'000'000, near_wrap = 4'294'960'000; // ms
     songs({"a.mp3", "b.ogg"});
     FModMP3Input audio;
-    activate({{"EffectsVolume", 50}});
-    activate({{"MusicVolume", 25}});
+    activate({{"EffectsVolume", 50}, {"MusicVolume", 25}});
     const auto start = [] { publish(PlaySong()); };
     const auto nothing = [] {};
+    const auto set = [](const char* setting, int value) { activate({{setting, value}}); };
     const struct {
         const char* what;
         std::uint32_t later; ///< ms
@@ -154,22 +154,11 @@ TEST_F(AudioTest, PlaysSongsByTheClockWithPausesTakenOut) {
         {"end", 1, nothing, "release A; open B 64; play B; volume B 0.25; "},
         {"the pause counts once", 90000, nothing, ""},
         {"end again", 1, nothing, "release B; open A 64; play A; volume A 0.25; "},
-        {"level", 0,
-         [&] {
-             activate({{"MusicVolume", 75}});
-         },
-         ""},
+        {"level", 0, [&] { set("MusicVolume", 75); }, ""},
         {"level of the next", 90001, nothing, "release A; open B 64; play B; volume B 0.75; "},
-        {"off", 1,
-         [&] {
-             activate({{"NoPlayMusic", 0}});
-         },
-         ""},
+        {"off", 1, [&] { set("NoPlayMusic", 0); }, ""},
         {"end while off", 90001, nothing, ""},
-        {"on again", 1,
-         [&] {
-             activate({{"PlayMusic", 0}});
-         },
+        {"on again", 1, [&] { set("PlayMusic", 0); },
          "release B; open A 64; play A; volume A 0.75; "},
         {"clock set back, below its start", 0, [] { sdl().ticks = near_wrap; }, ""},
         {"start there", 0, start, "release A; open B 64; play B; volume B 0.75; "},
@@ -178,19 +167,11 @@ TEST_F(AudioTest, PlaysSongsByTheClockWithPausesTakenOut) {
         {"end behind the wrap", 1, nothing, "release B; open A 64; play A; volume A 0.75; "},
         {"stop", 1, [] { publish(StopSong()); }, "release A; "},
         {"long after", 1'000'000, nothing, ""},
-        {"start while off", 0,
-         [&] {
-             activate({{"NoPlayMusic", 0}}), start();
-         },
-         ""},
+        {"start while off", 0, [&] { set("NoPlayMusic", 0), start(); }, ""},
         {"off for ten days", ten_days, nothing, ""},
         {"for twenty", ten_days, nothing, ""},
         {"for thirty", ten_days, nothing, ""},
-        {"on after a month", 0,
-         [&] {
-             activate({{"PlayMusic", 0}});
-         },
-         "open B 64; play B; volume B 0.75; "},
+        {"on after a month", 0, [&] { set("PlayMusic", 0); }, "open B 64; play B; volume B 0.75; "},
         {"stop at last", 0, [] { publish(StopSong()); }, "release B; "},
     };
     std::string first, second;

@@ -10,8 +10,10 @@
 
 using namespace quorva::math;
 
-TEST(PointAndVector, MeasureAndNormaliseAlike) {
+TEST(PointAndVector, CalculateAlike) {
     const auto check = [](auto p) {
+        EXPECT_EQ(p * 2.0 - Vector(0, 1, 2) + Vector(3, 0, 1), decltype(p)(5, 1, 5));
+        p += Vector(1, 2, 3);
         EXPECT_EQ(p.dot({1, 10, 100}), 632.0);
         EXPECT_EQ(p.length(), 7.0);
         p.normalise();
@@ -20,8 +22,10 @@ TEST(PointAndVector, MeasureAndNormaliseAlike) {
         p.normalise();
         EXPECT_TRUE(std::isnan(p.x)) << "unchecked";
     };
-    check(Point(2, 3, 6));
-    check(Vector(2, 3, 6));
+    check(Point(1, 1, 3));
+    check(Vector(1, 1, 3));
+    EXPECT_EQ(2.0 * Vector(1, 2, 3), Vector(2, 4, 6));
+    EXPECT_EQ(Point(4, 6, 9) - Point(1, 2, 3), Vector(3, 4, 6));
 }
 
 TEST(MTRand, GivesThePublishedWords) {

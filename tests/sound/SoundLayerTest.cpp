@@ -216,6 +216,17 @@ TEST_F(SoundLayer, PlaysTheGamesEffectsWithoutAClick) {
     }
 }
 
+TEST_F(SoundLayer, CutsWhatIsTooLoudAndSilencesWhatIsNoNumber) {
+    const double full = 32767 / 32768.0;
+    for (const auto& [level, heard] : {std::pair{4.0, full}, {std::nan(""), 0.0}}) {
+        write("loud.wav", SF_FORMAT_WAV | SF_FORMAT_FLOAT, {440, 1, level});
+        const auto samples = samplesOf("loud.wav");
+        const auto [least, most] = std::minmax_element(samples.begin(), samples.end());
+        EXPECT_EQ(*least, -heard);
+        EXPECT_EQ(*most, heard);
+    }
+}
+
 TEST_F(SoundLayer, StreamsTheGamesSongs) {
     std::set<std::string> endings;
     for (const fs::path& path : fs::directory_iterator(KOV_SOURCE_DIR "/Songs")) {
@@ -272,6 +283,11 @@ TEST_F(SoundLayer, StreamsEveryKindWithItsLengthToTheEnd) {
         hear(0.3);
         EXPECT_LT(levelOf(hear(0.2), 440), 0.01) << kind.path << " does not loop";
         EXPECT_EQ(FMOD_Channel_SetPaused(song.channel, 1), FMOD_OK);
+        for (int time = 0; time < 2; ++time) { // from its end, and while it plays
+            play(song.sound);
+            const auto anew = hear(3);
+            EXPECT_NEAR(levelOf({anew.begin() + 4410, anew.end()}, 440), 0.5, 0.05) << kind.path;
+        }
     }
 }
 
@@ -404,8 +420,7 @@ TEST_F(SoundLayer, APauseLosesAndRepeatsNothing) {
     const auto after = hear(0.73);
     EXPECT_LT(levelOf({silence.begin() + 2205, silence.end()}, 100), 0.01);
     heard.insert(heard.end(), after.begin(), after.end());
-    constexpr std::size_t step =
-        21; // frames: more than the noise of the output takes to a crossing
+    constexpr std::size_t step = 21; // frames: the noise of the output crosses too, but not so far
     int crossings = 0;
     for (std::size_t i = step; i < heard.size(); i += step)
         crossings += heard[i - step] < 0 && heard[i] >= 0;
