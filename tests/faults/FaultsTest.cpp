@@ -183,11 +183,6 @@ struct Row {
     }
 };
 
-/// Resources are loaded at the start, and again when the video restarts.
-std::string twice(const std::string& line) {
-    return line + line;
-}
-
 std::string told(FMOD_RESULT result) {
     return "FMOD error!" + std::to_string(result) + FMOD_ErrorString(result) + "\n";
 }
@@ -222,16 +217,18 @@ TEST_F(Faults, WithAllInPlaceNothingIsSaidAndAllIsKept) {
 
 TEST_F(Faults, AFileThatIsNotWhatItShouldBeIsReportedOnceAndTheGameGoesOn) {
     const FMOD_RESULT notFound = FMOD_ERR_FILE_NOTFOUND, badFormat = FMOD_ERR_FORMAT;
+    // Resources are loaded at the start, and again when the video restarts.
     const std::string looks = "Can't readColour file: data/Colour.kov\n"
                               "Can't readFont file: data/Font.kov\n",
                       points = "Can't readPoint file: data/Point.kov\n",
+                      font = "Couldn't load font: fonts/KovMenu.ttf\n",
                       songs = "Song directory is missing\n",
                       unread = looks + "Can't read bind1.conf\n" + points + looks + points;
     const Row rows[] = {
         {{"data/Colour.kov", "data/Font.kov", "data/Point.kov", "bind1.conf"},
          {unread, "", unread, unread, ""}},
         {{"data/kov.ico", "game.conf", "s.dat"}, {}},
-        always("fonts/KovMenu.ttf", twice("Couldn't load font: fonts/KovMenu.ttf\n")),
+        always("fonts/KovMenu.ttf", font + font),
         always("fonts/VeraMono.ttf", "Couldn't load font: fonts/VeraMono.ttf\n"), // the fallback
         {{"Songs"}, {songs, "", songs, songs, songs}},
         {{"Songs/a.ogg"},
@@ -284,7 +281,7 @@ TEST_F(Faults, WhatCannotBeWrittenIsPassedOverAndLosesNothing) {
 
 TEST_F(Faults, WithoutAGameTooTheTerminalIsGivenBack) {
     const std::string usage = "Usage: kov [OPTION]...\nTry `kov --help` for more information.\n";
-    EXPECT_EQ(play({}, {"--nonsense", "-f", "-q"}), Outcome(twice(usage), stopped_elsewhere));
+    EXPECT_EQ(play({}, {"--nonsense", "-f", "-q"}), Outcome(usage + usage, stopped_elsewhere));
 }
 
 TEST_F(Faults, OfTheMachine) {

@@ -65,7 +65,6 @@ TEST_F(LevelTest, KeepsARecordButNoTie) {
     EXPECT_EQ(contentsOf("s.dat"), no_file) << "a tie is no record";
     marvo.score = 501;
     marvo.saveHighScore();
-    EXPECT_EQ(contentsOf("s.dat").size(), 4U);
     EXPECT_EQ(MarvoClass().highScore, marvo.highScore);
     for (const auto& [length, read] : {std::pair{0, 0U}, {1, 0xFFU}, {3, 0xFFFFFFU}, {5, ~0U}}) {
         fill("s.dat", std::string(length, '\xff'));

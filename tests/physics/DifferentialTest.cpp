@@ -12,7 +12,7 @@
 
 using namespace quorva;
 using math::Point;
-using physics::PhysicsProcessor;
+using namespace quorva::physics;
 
 namespace {
 
@@ -149,7 +149,6 @@ std::string playedOut(unsigned int seed, bool plain) {
     FieldMaker(field, seed).make();
     PhysicsProcessor& processor = *field.physics;
     PlainPhysics loops(processor);
-    using namespace physics;
     const std::tuple<ShapeType, ShapeType, PairList*> kinds[] = {
         {shape_box, shape_box, &processor.aabbAabbTests},
         {shape_box, shape_point, &processor.aabbPointTests},
