@@ -1,6 +1,7 @@
 #include "platform/fmodex/Mixer.h"
 
 #include <AL/alext.h>
+#include <AL/efx.h>
 #include <fcntl.h>
 #include <unistd.h>
 
@@ -67,8 +68,10 @@ ALCcontext* openContext(ALCdevice* device, int sources) {
         ALC_FORMAT_CHANNELS_SOFT, ALC_STEREO_SOFT, ALC_FORMAT_TYPE_SOFT,
         ALC_SHORT_SOFT,           ALC_FREQUENCY,   loopback_rate,
         ALC_STEREO_SOURCES,       sources,         0};
-    // No guess at headphones: it would colour the music.
-    const ALCint cardFormat[] = {ALC_STEREO_SOURCES, sources, ALC_HRTF_SOFT, ALC_FALSE, 0};
+    // No guess at headphones: it would colour the music. No room effects: every voice would have
+    // memory for them.
+    const ALCint cardFormat[] = {
+        ALC_STEREO_SOURCES, sources, ALC_HRTF_SOFT, ALC_FALSE, ALC_MAX_AUXILIARY_SENDS, 0, 0};
     return alcCreateContext(device, loopback ? loopbackFormat : cardFormat);
 }
 
@@ -166,7 +169,7 @@ void FMOD_SYSTEM::submitSamples(FMOD_SOUND& effect) {
         alGenBuffers(1, &effect.buffer);
         submit(effect.buffer, effect.sampleRate, effect.samples);
     }
-    effect.samples = {};
+    std::vector<std::int16_t>().swap(effect.samples); // an empty list would keep the memory
 }
 
 FMOD_RESULT FMOD_SYSTEM::open(const char* path, FMOD_SOUND** result) {
