@@ -60,14 +60,14 @@ void worstField(benchmark::State& state) {
 }
 
 /// Whole ticks: every entity, every component. Arguments: lines in each direction, triangles,
-/// sub-steps.
+/// sub-steps, bursts of a hundred rays.
 void wholeTick(benchmark::State& state) {
     Field field;
     Crowd crowd(static_cast<int>(state.range(1)));
     const auto lines = static_cast<int>(state.range(0));
     bench::crossLines(field, lines, lines);
     bench::exposePlayer(field);
-    bench::addBursts(field);
+    bench::addBursts(field, static_cast<int>(state.range(3)));
     setAccuracy(field, state.range(2));
     for (int i = 0; i < 20; ++i) // words and lists reach their full capacity
         field.run.process();
@@ -109,15 +109,21 @@ constexpr int ticks_measured = 200; // few enough for the field to stay as it is
 BENCHMARK(worstFieldPlain)->Arg(10)->Unit(benchmark::kMicrosecond);
 BENCHMARK(worstFieldPlain)->Arg(1000)->Iterations(3)->Unit(benchmark::kMicrosecond);
 BENCHMARK(worstField)->Arg(10)->Arg(1000)->Unit(benchmark::kMicrosecond);
-BENCHMARK(wholeTick)
-    ->ArgNames({"lines", "triangles", "substeps"})
-    ->Args({8, 200, 10})
-    ->Args({8, 200, 1000})
-    ->Args({8, 250, 10})
-    ->Args({8, 1000, 10})
-    ->Args({3, 25, 10})
-    ->Iterations(ticks_measured)
-    ->Unit(benchmark::kMicrosecond);
+/// An ordinary field; else a busy one, and how its tick grows with each of its amounts.
+void tickFields(benchmark::internal::Benchmark* bench) {
+    bench->ArgNames({"lines", "triangles", "substeps", "bursts"});
+    bench->Args({3, 25, 10, 2});
+    for (const int triangles : {0, 50, 100, 200, 250, 400, 700, 1000})
+        bench->Args({8, triangles, 10, 2});
+    for (const int lines : {0, 2, 4, 6})
+        bench->Args({lines, 200, 10, 2});
+    for (const int subSteps : {1, 100, 300, 600, 1000})
+        bench->Args({8, 200, subSteps, 2});
+    for (const int bursts : {0, 1, 4, 8})
+        bench->Args({8, 200, 10, bursts});
+}
+
+BENCHMARK(wholeTick)->Apply(tickFields)->Iterations(ticks_measured)->Unit(benchmark::kMicrosecond);
 BENCHMARK(changingTick)
     ->Arg(250)
     ->Arg(1000)

@@ -45,12 +45,12 @@ void crossLines(Field& field, int across, int upright) {
     Engine::Instance().cleanupDeadEntities();
 }
 
-void addBursts(Field& field) {
+void addBursts(Field& field, int count) {
     const auto& colour = ColourManager::Instance().getV("Line Powerup");
-    PowerUpLines* bursts[2];
-    for (PowerUpLines*& burst : bursts)
-        burst = Engine::Instance().createEntity<PowerUpLines>("Burst", math::Point(), &colour,
-                                                              burst == bursts[0]);
+    std::vector<PowerUpLines*> bursts;
+    for (int i = 0; i < count; ++i)
+        bursts.push_back(Engine::Instance().createEntity<PowerUpLines>("Burst", math::Point(),
+                                                                       &colour, i % 2 == 0));
     for (unsigned int tick = 0; tick < burst_growth; ++tick)
         for (PowerUpLines* burst : bursts)
             burst->process();
@@ -76,11 +76,11 @@ void Crowd::sway() {
         Field::body(triangle).velocity = Field::body(triangle).velocity * -1.0;
 }
 
-void furnishFrame(Field& field) {
-    const Crowd crowd(200);
-    crossLines(field, 8, 8);
+void furnishFrame(Field& field, const Furniture& furniture) {
+    const Crowd crowd(furniture.triangles);
+    crossLines(field, furniture.linesEachWay, furniture.linesEachWay);
     exposePlayer(field);
-    addBursts(field);
+    addBursts(field, furniture.bursts);
     for (int i = 0; i < 60; ++i) { // beyond each edge in turn
         const double along = i - 30.0;
         const math::Point places[] = {

@@ -17,8 +17,8 @@ void exposePlayer(Field& field);
 /// close 784 rectangles.
 void crossLines(Field& field, int across, int upright);
 
-/// Two bursts of a hundred rays each, fully grown.
-void addBursts(Field& field);
+/// Bursts of a hundred rays each, fully grown.
+void addBursts(Field& field, int count);
 
 /// Triangles outside all rectangles, many of them on the ends of lines, which stop them.
 class Crowd {
@@ -30,8 +30,15 @@ private:
     std::vector<Triangle*> triangles; ///< the engine owns them
 };
 
-/// Everything that a frame can have to show at once: 200 triangles, 16 lines, two bursts of a
-/// hundred rays, the border lit by 60 more, the display.
-void furnishFrame(Field& field);
+/// What a busy field has.
+struct Furniture {
+    int triangles = 200;
+    int linesEachWay = 8;
+    int bursts = 2;
+};
+
+/// Everything that a frame can have to show at once: that, the border lit by 60 triangles more, the
+/// display.
+void furnishFrame(Field& field, const Furniture& furniture = {});
 
 } // namespace bench

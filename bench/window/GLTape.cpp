@@ -1,5 +1,7 @@
 #include "bench/window/GLTape.h"
 
+#include "bench/window/FewestCalls.h"
+
 #include <GL/gl.h>
 
 #include <dlfcn.h>
@@ -23,6 +25,7 @@ GLTape& glTape() {
 
 } // namespace bench
 
+using bench::fewestCalls;
 using bench::glTape;
 
 /// The real function of that name.
@@ -38,10 +41,41 @@ using bench::glTape;
 extern "C" {
 
 // The calls of a frame. Calls that only set the game up are not recorded.
-PASS(glBegin, (GLenum mode), behind, mode)
-PASS(glEnd, (), behind)
-PASS(glVertex2f, (GLfloat x, GLfloat y), behind, x, y)
-PASS(glVertex3f, (GLfloat x, GLfloat y, GLfloat z), behind, x, y, z)
+void glBegin(GLenum mode) {
+    BEHIND(glBegin);
+    fewestCalls().begin(mode);
+    glTape().pass(behind, mode);
+}
+void glVertex2f(GLfloat x, GLfloat y) {
+    BEHIND(glVertex2f);
+    fewestCalls().vertex(x, y, 0.0);
+    glTape().pass(behind, x, y);
+}
+void glVertex3f(GLfloat x, GLfloat y, GLfloat z) {
+    BEHIND(glVertex3f);
+    fewestCalls().vertex(x, y, z);
+    glTape().pass(behind, x, y, z);
+}
+void glEnd() {
+    BEHIND(glEnd);
+    glTape().pass(behind);
+    fewestCalls().end();
+}
+void glNewList(GLuint list, GLenum mode) {
+    BEHIND(glNewList);
+    fewestCalls().newList(list);
+    glTape().pass(behind, list, mode);
+}
+void glEndList() {
+    BEHIND(glEndList);
+    glTape().pass(behind);
+    fewestCalls().endList();
+}
+void glCallList(GLuint list) {
+    BEHIND(glCallList);
+    fewestCalls().callList(list);
+    glTape().pass(behind, list);
+}
 PASS(glNormal3f, (GLfloat x, GLfloat y, GLfloat z), behind, x, y, z)
 PASS(glNormal3d, (GLdouble x, GLdouble y, GLdouble z), behind, x, y, z)
 PASS(glTexCoord2f, (GLfloat s, GLfloat t), behind, s, t)
@@ -65,7 +99,6 @@ PASS(glLineWidth, (GLfloat width), behind, width)
 PASS(glBlendFunc, (GLenum source, GLenum target), behind, source, target)
 PASS(glHint, (GLenum what, GLenum mode), behind, what, mode)
 PASS(glClear, (GLbitfield mask), behind, mask)
-PASS(glCallList, (GLuint list), behind, list)
 PASS(glPushAttrib, (GLbitfield mask), behind, mask)
 PASS(glPopAttrib, (), behind)
 PASS(glPushClientAttrib, (GLbitfield mask), behind, mask)
