@@ -1,7 +1,7 @@
 #!/bin/sh
 # Installs those of the named groups' Debian packages that are missing: build, test, check, fuzz,
-# demo, package, portable, gallery, assets. Of "one|other" one will do: the one that is installed,
-# else the first that this release has. "one|" is left out where the release hasn't got it.
+# demo, package, portable, gallery, assets, report. Of "one|other" one will do: the one that is
+# installed, else the first that this release has. "one|" is left out where the release hasn't got it.
 set -eu
 
 if ! command -v apt-get >/dev/null; then
@@ -27,6 +27,7 @@ for group in "$@"; do
     package) packages="$packages build-essential debhelper dpkg-dev" ;;
     portable) packages="$packages patchelf xz-utils" ;;
     gallery) packages="$packages xvfb xauth imagemagick optipng gifsicle python3" ;;
+    report) packages="$packages libbenchmark-dev xvfb python3" ;;
     assets) packages="$packages python3-fonttools python3-shapely" ;;
     *) echo "install_packages.sh: no such group: $group" >&2; exit 2 ;;
     esac
