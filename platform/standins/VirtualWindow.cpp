@@ -19,6 +19,7 @@ SDL_Surface surface;
 /// A line among the calls of GL.
 template <class... Parts>
 void note(const Parts&... parts) {
+    if (!glRecorder().recording) return;
     std::ostringstream line;
     (line << ... << parts);
     glRecorder().note(line.str());
