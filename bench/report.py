@@ -70,7 +70,7 @@ def tick_rows(bench):
     yield ("busy frame, %.0f calls that are only counted" % frame["gl_calls"],
            ms(cost("busyFrame")), "", None, by)
     allocations = frame["allocations"] + bench[tick_name(USUAL)]["allocations"]
-    yield ("allocations in such a tick and frame", figure(allocations), "", None, by)
+    yield ("allocations in such a tick and frame", "%.0f" % allocations, "", None, by)
 
 
 # Frames in a window
@@ -141,9 +141,9 @@ def processor_seconds(process):
 
 
 def idle_rows():
-    used = watched(9, processor_seconds, program("kov"))
+    used = watched(9, processor_seconds, program("kov"), "-u")
     share = (used[-1] - used[0]) / (len(used) - 1)
-    yield ("menu with Save CPU on", "%.0f %% of a core" % (share * 100), "", None, "`kov`")
+    yield ("menu with Save CPU on", "%.0f %% of a core" % (share * 100), "", None, "`kov -u`")
 
 
 def replay_rows():
@@ -248,9 +248,9 @@ def main():
     bench = benchmarks()
     rows = [*tick_rows(bench), *frame_rows(), *start_rows(), *memory_rows(), *idle_rows(),
             *replay_rows()]
+    curves = plot([("ms a tick", growth_of_ticks(bench)), ("ms a frame", growth_of_frames())])
     with open(PLOT, "w", encoding="utf-8") as file:
-        file.write(plot([("ms a tick", growth_of_ticks(bench)),
-                         ("ms a frame", growth_of_frames())]))
+        file.write(curves)
     with open(PAGE, encoding="utf-8") as file:
         page = file.read()
     before, rest = page.split(BEGIN)
