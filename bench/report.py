@@ -1,6 +1,13 @@
 """What bench/report.sh runs: measures, then writes docs/performance.md's table and its plot."""
 
-import json, os, platform, re, statistics, subprocess, sys, time
+import json
+import os
+import platform
+import re
+import statistics
+import subprocess
+import sys
+import time
 
 BUILD = os.path.realpath(sys.argv[1])
 PAGE, PLOT = "docs/performance.md", "docs/performance.svg"
