@@ -18,7 +18,9 @@ namespace {
 
 class PicturesOfAField : public FieldTest {
 protected:
-    PicturesOfAField() { furnish(); }
+    /// As wide as the screen that line widths are authored for: on a narrower one, all thin lines
+    /// come out one pixel wide.
+    PicturesOfAField() : FieldTest(1280, 800) { furnish(); }
 
     /// All that can be on a field: actors, effects, and arrows that show how far each gun is.
     void furnish() {

@@ -26,7 +26,7 @@ inline void press(quorva::headless::HeadlessGame& run, std::initializer_list<int
 /// test makes its body active.
 class Field {
 public:
-    Field() : run(100) {
+    explicit Field(unsigned short width = 0, unsigned short height = 0) : run(100, width, height) {
         run.startLevel();
         level = run.game().level;
         player = level->player;

@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
-class FieldTest : public testing::Test, protected Field {};
+class FieldTest : public testing::Test, protected Field {
+protected:
+    using Field::Field;
+};
 
 /// How often a message has been published.
 template <class Message>
