@@ -2,8 +2,10 @@
 // between.
 
 #include "headless/Sandbox.h"
+#include "platform/standins/GLRecorder.h"
 #include "replay/Blocks.h"
 #include "replay/Script.h"
+#include "replay/Tape.h"
 
 #include "Framework/math/MTRand.h"
 #include "tests/support/Field.h"
@@ -194,6 +196,26 @@ TEST_F(Replay, AnEditedFileDiffers) {
     };
     for (void (*const edit)(replay::Setup&) : {+bind, +fade, +refine})
         EXPECT_EQ(verify(edited(other, {}, edit)).code, 1);
+}
+
+TEST(Frames, StayEmptyWhileTheTapeShowsNone) {
+    struct : Tape {
+        bool draws() override { return shown; }
+        bool shown = false;
+    } tape;
+    const headless::Sandbox sandbox(KOV_SOURCE_DIR);
+    headless::HeadlessGame game(11);
+    game.startLevel();
+    game.process();
+    insert(&tape);
+    for (const bool shown : {false, true}) {
+        tape.shown = shown;
+        standins::glRecorder().start();
+        game.frame();
+        EXPECT_EQ(standins::glRecorder().callsTo("glVertex3f").empty(), !shown);
+    }
+    standins::glRecorder().stop();
+    insert(nullptr);
 }
 
 TEST(Comparison, NamesTheFirstObjectThatDiffers) {
