@@ -2,6 +2,7 @@
 
 #include "Framework/Graphics/Stuff/GTransparentBox.h"
 #include "Framework/Graphics/Stuff/GWord.h"
+#include "Framework/Timer.h"
 #include "Framework/menus/ConfigMenu.h"
 #include "Framework/menus/MainMenu.h"
 #include "game/GameOverScreen.h"
@@ -191,14 +192,17 @@ TEST_F(MenusTest, ASecondLevelIsRefused) {
 
 TEST_F(MenusTest, AMenuOverTheLevelFreezesIt) {
     messages::MenuLoad load;
-    load.active = true;
+    messages::MenuUnLoad unload;
+    load.active = unload.active = true;
     publish(load);
-    EXPECT_EQ(Engine::Instance().components.size(), 3U) << "without a level nothing happens";
+    EXPECT_FALSE(Timer::Instance().paused) << "without a level nothing happens";
+    publish(unload);
+    EXPECT_TRUE(main.shown) << "without a level nothing happens";
     run.startLevel();
     publish(load);
+    EXPECT_TRUE(Timer::Instance().paused);
     EXPECT_EQ(main.loadMode, menu_load_pause);
-    messages::MenuUnLoad unload;
-    unload.active = true;
+    Timer::Instance().unPauseGame();
     publish(unload);
     EXPECT_FALSE(main.shown);
     const std::uint32_t tick = run.game().level->tickCount;
