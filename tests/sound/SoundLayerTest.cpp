@@ -425,6 +425,13 @@ TEST_F(SoundLayer, APauseLosesAndRepeatsNothing) {
     for (std::size_t i = step; i < heard.size(); i += step)
         crossings += heard[i - step] < 0 && heard[i] >= 0;
     EXPECT_NEAR(crossings, 146, 1) << "a hundred a second";
+
+    write("louder.wav", wav, {300, 3, 0.1, 1, 0, 0.9});
+    const Playing effect("louder.wav", false);
+    hear(1.9);
+    FMOD_Channel_SetPaused(effect.channel, 0);
+    hear(0.2);
+    EXPECT_GT(levelOf(hear(0.5), 300), 0.5) << "it plays already, and isn't started anew";
 }
 
 TEST_F(SoundLayer, RefusesBadFilesWithACode) {
@@ -472,4 +479,8 @@ TEST_F(SoundLayer, RefusesBadFilesWithACode) {
         EXPECT_EQ(codeOf(FMOD_System_CreateStream, path), FMOD_ERR_FILE_NOTFOUND) << path;
     EXPECT_EQ(codeOf(FMOD_System_CreateStream, "zeros.mp3"), FMOD_ERR_FORMAT);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+
+    EXPECT_STREQ(FMOD_ErrorString(FMOD_ERR_FILE_NOTFOUND), "File not found.");
+    for (const int code : {-1, 74})
+        EXPECT_STREQ(FMOD_ErrorString(static_cast<FMOD_RESULT>(code)), "Unknown error.") << code;
 }
