@@ -214,6 +214,7 @@ TEST_F(ConfigTest, TakesArgumentsAndTellsWhetherToStart) {
         {"-w=99999999999999999999", false, true, &ConfigClass::getScreenWidth, 800},
         {"-w", false, true, {}, 0},
         {"-fx", false, true, {}, 0},
+        {"-xFullScreen", false, true, &ConfigClass::getFullScreen, 0},
         {"-r=20000", false, true, &ConfigClass::getRate, 41000},
         {"-f=0", true, false, &ConfigClass::getFullScreen, 1},
         {"-x", true, false, &ConfigClass::getIgnoreTime, 1},

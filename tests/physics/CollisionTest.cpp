@@ -58,6 +58,18 @@ TEST_F(CollisionTest, ForgetsWhatTheEngineDeletes) {
     Engine::Instance().cleanupDeadEntities();
     EXPECT_TRUE(physics->lines.empty());
     EXPECT_TRUE(body(triangle).lines.empty());
+
+    for (const double side : {-3.0, 3.0}) {
+        across(side, -4, 4);
+        upright(side, -4, 4);
+    }
+    physics->process();
+    EXPECT_FALSE(physics->squares.empty());
+    for (TrapLine* each : physics->lines)
+        each->dead = true; // all of them in one tick
+    Engine::Instance().cleanupDeadEntities();
+    physics->process();
+    EXPECT_TRUE(physics->squares.empty());
 }
 
 TEST_F(CollisionTest, RunsWhatAControllerAsksFor) {

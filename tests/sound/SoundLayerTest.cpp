@@ -428,6 +428,7 @@ TEST_F(SoundLayer, APauseLosesAndRepeatsNothing) {
 
     write("louder.wav", wav, {300, 3, 0.1, 1, 0, 0.9});
     const Playing effect("louder.wav", false);
+    EXPECT_EQ(effect.length(), 3000U);
     hear(1.9);
     FMOD_Channel_SetPaused(effect.channel, 0);
     hear(0.2);
