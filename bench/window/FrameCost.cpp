@@ -131,9 +131,10 @@ bool measureBusyField(int frames) {
     return measure("busy field", frames, [&field] { field.run.frame(); });
 }
 
+using Amount = int bench::Furniture::*;
+
 /// Prints the least cost of a frame of the busy field, one of its amounts changed.
-void measureGrowth(const char* what, int bench::Furniture::*amount,
-                   std::initializer_list<int> steps) {
+void measureGrowth(const char* what, Amount amount, std::initializer_list<int> steps) {
     for (const int step : steps) {
         bench::Furniture furniture;
         furniture.*amount = step;

@@ -50,7 +50,8 @@ Bytes pixelsOf(const TGA& image, int count) {
     return image.getImg() == nullptr ? Bytes() : Bytes(image.getImg(), image.getImg() + count);
 }
 
-Header with(int Header::*field, int value, Header h = {}) {
+using FieldOfHeader = int Header::*;
+Header with(FieldOfHeader field, int value, Header h = {}) {
     h.*field = value;
     return h;
 }

@@ -48,7 +48,10 @@ struct Line {
 };
 
 template <class Resource, class Value>
-void expectLines(Value Resource::*value, const std::vector<Line<Value>>& lines) {
+using ValueOf = Value Resource::*;
+
+template <class Resource, class Value>
+void expectLines(ValueOf<Resource, Value> value, const std::vector<Line<Value>>& lines) {
     for (const Line<Value>& expected : lines) {
         std::string name;
         Resource resource;

@@ -125,7 +125,8 @@ TEST(Matrix, Calculates) {
 
 TEST(Box, IsNothingAtFirstAndRoundsInEveryCopy) {
     using quorva::primitives::Box;
-    for (double Box::*const side : {&Box::top, &Box::bottom, &Box::left, &Box::right}) {
+    using Side = double Box::*;
+    for (const Side side : {&Box::top, &Box::bottom, &Box::left, &Box::right}) {
         Box box;
         EXPECT_EQ(box.*side, 0.0);
         box.*side = 0.1;

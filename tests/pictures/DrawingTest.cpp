@@ -276,13 +276,14 @@ TEST(Pictures, OfTheFigures) {
 TEST(Pictures, OfTheCameraAsItMoves) {
     using C = CameraClass;
     C camera;
-    void (C::*const moves[])() = {&C::zoomOut,     &C::zoomIn,     &C::moveUp,     &C::moveDown,
-                                  &C::strafeRight, &C::strafeLeft, &C::rotateXPos, &C::rotateXNeg,
-                                  &C::rotateYPos,  &C::rotateYNeg, &C::rotateZPos, &C::rotateZNeg};
-    void (C::*const movesBy[])(float) = {&C::zoomOut,    &C::zoomIn,      &C::moveUp,
-                                         &C::moveDown,   &C::strafeRight, &C::strafeLeft,
-                                         &C::rotateXPos, &C::rotateXNeg,  &C::rotateYPos,
-                                         &C::rotateYNeg, &C::rotateZPos,  &C::rotateZNeg};
+    using Move = void (C::*)();
+    using MoveBy = void (C::*)(float);
+    const Move moves[] = {&C::zoomOut,     &C::zoomIn,     &C::moveUp,     &C::moveDown,
+                          &C::strafeRight, &C::strafeLeft, &C::rotateXPos, &C::rotateXNeg,
+                          &C::rotateYPos,  &C::rotateYNeg, &C::rotateZPos, &C::rotateZNeg};
+    const MoveBy movesBy[] = {&C::zoomOut,     &C::zoomIn,     &C::moveUp,     &C::moveDown,
+                              &C::strafeRight, &C::strafeLeft, &C::rotateXPos, &C::rotateXNeg,
+                              &C::rotateYPos,  &C::rotateYNeg, &C::rotateZPos, &C::rotateZNeg};
     expectPicture("camera", callsOf([&] {
                       camera.zoomIn(); // no further than home
                       for (const auto move : movesBy)
