@@ -487,6 +487,7 @@ TEST_F(SoundLayer, RefusesBadFilesWithACode) {
     EXPECT_EQ(codeOf(FMOD_System_CreateStream, "zeros.mp3"), FMOD_ERR_FORMAT);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
 
+    EXPECT_EQ(FMOD_System_Update(nullptr), FMOD_ERR_INVALID_PARAM);
     EXPECT_STREQ(FMOD_ErrorString(FMOD_ERR_FILE_NOTFOUND), "File not found.");
     for (const int code : {-1, 74})
         EXPECT_STREQ(FMOD_ErrorString(static_cast<FMOD_RESULT>(code)), "Unknown error.") << code;
