@@ -76,6 +76,12 @@ TEST(Matrix, RotatesAsARightHandDoes) {
     EXPECT_EQ(m * Vector(0, 1, 0), Vector(0, 0, 1));
     m.makeRotation(120, 1, 1, 1);
     EXPECT_EQ(m * Vector(1, 0, 0), Vector(0, 1, 0));
+    m = Matrix(9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9);
+    m.makeRotation(0, 1, 0, 0);
+    std::ostringstream left, identity;
+    left << m;
+    identity << Matrix(1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1);
+    EXPECT_EQ(left.str(), identity.str()) << "nothing is left of what was there";
 }
 
 TEST(Matrix, KnowsItsRotation) {
