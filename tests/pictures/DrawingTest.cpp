@@ -18,6 +18,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <sstream>
 
 using namespace quorva;
@@ -28,7 +29,7 @@ namespace {
 
 struct Row {
     const char* name;
-    void (*draw)();
+    std::function<void()> draw;
 };
 
 template <std::size_t Count>
@@ -51,47 +52,43 @@ void note(const Parts&... parts) {
 const Colour colour(0.1F, 0.2F, 0.3F, 0.4F);
 const math::Point a(1, 2, 3), b(-4, 5, 6), c(7, -8, 9);
 
+/// Draws a shape with these settings.
+template <class Shape>
+std::function<void()> drawn(void (*set)(Shape&)) {
+    return [set] {
+        Shape shape;
+        set(shape);
+        shape.render();
+    };
+}
+
 template <unsigned int points>
-void drawDisc() {
-    GCircle disc;
-    disc.radius = 2;
-    disc.resolution = points;
-    disc.render();
+void disc(GCircle& shape) {
+    shape.radius = 2;
+    shape.resolution = points;
 }
 
 template <int divisions>
-void drawGrid() {
-    GGrid grid;
-    grid.divisions = divisions;
-    grid.box = primitives::Box(4, -2, -1, 3);
-    grid.render();
+void grid(GGrid& shape) {
+    shape.divisions = divisions;
+    shape.box = primitives::Box(4, -2, -1, 3);
 }
 
 // What the game draws is seen in the pictures of its states.
 const Row shapes[] = {
     {"outlined box",
-     [] {
-         GLinedBox shape;
-         shape.box = primitives::Box(4, -2, -1, 3);
-         shape.render();
-     }},
-    {"disc", drawDisc<5>},
-    {"disc of no points", drawDisc<0>},
-    {"cube of lines",
-     [] {
-         GLinedCube cube;
+     drawn<GLinedBox>([](GLinedBox& shape) { shape.box = primitives::Box(4, -2, -1, 3); })},
+    {"disc", drawn(disc<5>)},
+    {"disc of no points", drawn(disc<0>)},
+    {"cube of lines", drawn<GLinedCube>([](GLinedCube& cube) {
          cube.sizeX = 2;
          cube.sizeY = 4;
          cube.sizeZ = 6;
-         cube.render();
-     }},
-    {"dead triangle",
-     [] {
-         GTriangle triangle;
+     })},
+    {"dead triangle", drawn<GTriangle>([](GTriangle& triangle) {
          triangle.points = {a, b, c};
          triangle.deathMode = true;
-         triangle.render();
-     }},
+     })},
     {"slide bar without, and from end to end",
      [] {
          GSlideBar bar;
@@ -103,23 +100,15 @@ const Row shapes[] = {
              bar.render();
          }
      }},
-    {"grid of no parts", drawGrid<0>},
-    {"grid of one", drawGrid<1>},
-    {"grid of three", drawGrid<3>},
-    {"axes",
-     [] {
-         GAxesIndicator axes;
-         axes.length = 2;
-         axes.render();
-     }},
-    {"sheet",
-     [] {
-         SillyGrid grid;
-         grid.rows = 5;
-         grid.planes = 9;
-         grid.spacing = 2;
-         grid.render();
-     }},
+    {"grid of no parts", drawn(grid<0>)},
+    {"grid of one", drawn(grid<1>)},
+    {"grid of three", drawn(grid<3>)},
+    {"axes", drawn<GAxesIndicator>([](GAxesIndicator& axes) { axes.length = 2; })},
+    {"sheet", drawn<SillyGrid>([](SillyGrid& sheet) {
+         sheet.rows = 5;
+         sheet.planes = 9;
+         sheet.spacing = 2;
+     })},
 };
 
 const Row functions[] = {
