@@ -49,15 +49,9 @@ void ByteWriter::text(const std::string& value) {
     bytes += value;
 }
 
-std::uint8_t ByteReader::peek() const {
-    if (left() == 0) damaged();
-    return static_cast<std::uint8_t>(bytes[at]);
-}
-
 std::uint8_t ByteReader::byte() {
-    const std::uint8_t next = peek();
-    ++at;
-    return next;
+    if (left() == 0) damaged();
+    return static_cast<std::uint8_t>(bytes[at++]);
 }
 
 std::uint64_t ByteReader::number(std::uint64_t most) {

@@ -19,13 +19,13 @@ T* activeComponent() {
 
 constexpr int lives_at_first = 2; // spare ones
 
-Result resultNow() {
+GameEnd endNow() {
     const MarvoClass& marvo = Marvo::Instance();
-    Result result;
-    result.score = marvo.score;
-    result.lost = marvo.lives < 0;
-    result.deaths = static_cast<std::uint32_t>(lives_at_first + (marvo.nextLife - 1) - marvo.lives);
-    return result;
+    GameEnd end;
+    end.score = marvo.score;
+    end.lost = marvo.lives < 0;
+    end.deaths = static_cast<std::uint32_t>(lives_at_first + (marvo.nextLife - 1) - marvo.lives);
+    return end;
 }
 
 } // namespace
@@ -46,7 +46,7 @@ void Progress::look() {
     inGame = activeComponent<physics::PhysicsProcessor>() != nullptr; // works in games alone
     began = inGame && !wasInGame;
     ended = wasInGame && !inGame;
-    if (ended) result = resultNow();
+    if (ended) end = endNow();
 }
 
 } // namespace quorva::replay

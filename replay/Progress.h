@@ -22,10 +22,11 @@ public:
     // Since the last look.
     bool ticked = false;
     bool began = false, ended = false; ///< a game
-    Result result;                     ///< of the game that has ended
+    GameEnd end;                       ///< of the game that has ended
+
+    bool inGame = false;
 
 private:
-    bool inGame = false;
     std::uint32_t lastBlips = 0, lastStart = 0; ///< as the game's clock had them
 };
 

@@ -1,5 +1,7 @@
 #include "replay/Script.h"
 
+#include <algorithm>
+
 namespace quorva::replay {
 
 namespace {
@@ -14,27 +16,34 @@ Script::Script(const std::string& path) : file(path), block(file.read()) {
     setup = Setup::read(block);
 }
 
-const Record* Script::peek() {
+bool Script::atEnd() {
     if (!ahead && !ended) fetch();
-    return ahead ? &*ahead : nullptr;
+    return !ahead;
 }
 
-std::optional<Record> Script::next() {
-    peek();
-    std::optional<Record> record;
-    ahead.swap(record);
-    return record;
+std::optional<Record> Script::take() {
+    if (atEnd()) return {};
+    return std::exchange(ahead, std::nullopt);
 }
 
 void Script::fetch() {
     if (block.left() == 0) block = ByteReader(file.read());
     if (block.left() == 0) return;
     ahead = reader.read(block);
-    idle += ahead->pass_.idle;
-    if (idle > most_idle_a_byte * file.size()) damaged();
-    if (ahead->kind != Record::end) return;
+    if (const auto* const pass = std::get_if<Pass>(&*ahead)) require(*pass);
+    if (!std::holds_alternative<End>(*ahead)) return;
     ended = true;
     if (block.left() != 0 || !file.read().empty() || file.isCutOff()) damaged(); // more follows
+}
+
+/// That it is one which can have been recorded.
+void Script::require(const Pass& pass) {
+    idle += pass.idle;
+    if (idle > most_idle_a_byte * file.size()) damaged();
+    if (setup.hasOpenJoystick()) return;
+    const bool usesOne = std::any_of(pass.events.begin(), pass.events.end(),
+                                     [](const Event& event) { return event.isOfJoystick(); });
+    if (usesOne || !pass.axes.empty()) damaged();
 }
 
 } // namespace quorva::replay

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "headless/Sandbox.h"
-#include "replay/Records.h"
+#include "replay/Setup.h"
 
 #include <boost/filesystem/path.hpp>
 
@@ -18,7 +18,8 @@ private:
     headless::Sandbox sandbox;
 };
 
-/// Runs the whole game with the recorded settings, from its main to its end.
+/// Runs the whole game with the recorded settings, from its main to its end. Interruptions wait
+/// until a Playback catches them.
 /// @return its exit code
 int runGame(const Setup& setup);
 

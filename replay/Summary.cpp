@@ -28,16 +28,20 @@ Summary::Summary(const std::string& path) {
     Script script(path);
     setup = script.setup;
     size = script.size();
+    SettingValues settings = setup.settings;
     bool first = true;
-    while (const auto record = script.next()) {
-        if (record->kind == Record::pass && !record->pass_.clock.empty()) {
-            if (std::exchange(first, false)) start = record->pass_.clock.back();
-            length = record->pass_.clock.back() - start;
+    while (const auto record = script.take()) {
+        if (const auto* const pass = std::get_if<Pass>(&*record)) {
+            if (pass->clock.empty()) continue;
+            if (std::exchange(first, false)) start = pass->clock.back();
+            length = pass->clock.back() - start;
+        } else if (const auto* const changed = std::get_if<ChangedSettings>(&*record)) {
+            settings = changed->values;
+        } else if (std::holds_alternative<GameBegin>(*record)) {
+            games.push_back({length, settings, {}});
+        } else if (const auto* const end = std::get_if<GameEnd>(&*record)) {
+            if (!games.empty()) games.back().end = *end;
         }
-        if (record->kind == Record::game_begin) games.push_back({length, {}});
-        if (record->kind != Record::game_end || games.empty()) continue;
-        games.back().result = record->result;
-        games.back().ended = true;
     }
     cutOff = script.isCutOff();
 }
@@ -48,7 +52,7 @@ std::string Summary::text() const {
         << (cutOff ? ", cut off there" : "") << '\n';
     for (const Game& game : games)
         out << "game      at " << minutes(game.begin) << ": "
-            << (game.ended ? inWords(game.result) : "not to its end") << '\n';
+            << (game.end ? inWords(*game.end) : "not to its end") << '\n';
     out << "settings ";
     for (const auto& [letter, value] : setup.settings)
         out << ' ' << config::settingWith(letter).longName << '=' << value;

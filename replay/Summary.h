@@ -3,6 +3,7 @@
 #include "replay/Records.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,8 +13,8 @@ namespace quorva::replay {
 struct Summary {
     struct Game {
         std::uint32_t begin; ///< ms after the start
-        Result result;
-        bool ended = false; ///< else the file breaks off within it
+        SettingValues settings;
+        std::optional<GameEnd> end; ///< empty if the file breaks off within it
     };
 
     /// Throws BadFile.

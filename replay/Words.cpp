@@ -12,14 +12,14 @@ std::string counted(std::uint32_t count, const char* what) {
 
 } // namespace
 
-std::string inWords(const Result& result) {
+std::string inWords(const GameEnd& result) {
     return counted(result.score, "point") + ", " + counted(result.deaths, "death") +
            (result.lost ? "" : ", left");
 }
 
-std::string inWords(std::uint32_t ticks, const std::vector<Result>& results) {
+std::string inWords(std::uint32_t ticks, const std::vector<GameEnd>& results) {
     std::string text = counted(ticks, "tick");
-    for (const Result& result : results)
+    for (const GameEnd& result : results)
         text += (&result == results.data() ? ", " : "; ") + inWords(result);
     return text;
 }

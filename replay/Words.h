@@ -8,13 +8,14 @@
 
 namespace quorva::replay {
 
-constexpr int exit_differs = 1, exit_unusable = 2; ///< of the programs
+/// Of the programs.
+constexpr int exit_differs = 1, exit_unusable = 2, exit_interrupted = 3, exit_marked = 4;
 
 /// Such as "20000 ticks, 1234 points, 3 deaths".
-std::string inWords(std::uint32_t ticks, const std::vector<Result>& results);
+std::string inWords(std::uint32_t ticks, const std::vector<GameEnd>& results);
 
 /// Such as "1234 points, 3 deaths".
-std::string inWords(const Result& result);
+std::string inWords(const GameEnd& result);
 
 /// Minutes and seconds, such as "12:05".
 std::string minutes(std::uint64_t ms);

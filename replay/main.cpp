@@ -1,6 +1,8 @@
 // Keeps games, shows them again, proves them and makes films of them: see usage_text.
 
+#include "replay/CommandLine.h"
 #include "replay/Film.h"
+#include "replay/Interruption.h"
 #include "replay/Recorder.h"
 #include "replay/Stage.h"
 #include "replay/Summary.h"
@@ -10,17 +12,14 @@
 #include "Framework/GameInfo.h"
 #include "Framework/Utility.h"
 #include "game/GameIdentity.h"
+#include "headless/GameMain.h"
 
 #include <boost/filesystem.hpp>
 
 #include <algorithm>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <iostream>
-#include <utility>
-
-int gameMain(int argc, char* argv[]); // of the game itself
 
 using namespace quorva::replay;
 namespace fs = boost::filesystem;
@@ -32,42 +31,22 @@ const char* const usage_text =
     "       kov-replay watch FILE [--speed N] [--from M:SS]\n"
     "                        space stops, arrows change the speed or step, Escape leaves\n"
     "       kov-replay verify FILE...                    play again, unseen, and compare\n"
-    "       kov-replay film FILE OUT.mp4 [--size WxH]    make a film, by the program ffmpeg\n"
+    "       kov-replay film FILE OUT.mp4 [--size WxH] [--from M:SS] [--to M:SS] [--full]\n"
+    "                                                    make a film, by the program ffmpeg\n"
     "       kov-replay show FILE                         say what is in it\n"
     "In front of these: --data FOLDER, the game's files; the current folder if not given.\n";
 
 const char* const ending = ".kovreplay";
-const char* const replay_folder = "Replays"; // where the game keeps its files
-constexpr double slowest = Watcher::slowest, fastest = Watcher::fastest;
+const char* const replay_folder = "Replays";                 // where the game keeps its files
 constexpr int smallest_picture = 16, largest_picture = 8192; // pixels
-
-/// A wrong command line; what is wrong, in words, or nothing for the usage text.
-struct BadUsage : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-using Words = std::vector<std::string>;
 
 int complain(const std::string& what) {
     std::cerr << "kov-replay: " << quorva::utility::printable(what) << '\n';
     return exit_unusable;
 }
 
-/// Takes "--name value" out of the words; empty if it isn't there.
-std::string takeOption(Words& words, const std::string& name) {
-    const auto found = std::find(words.begin(), words.end(), name);
-    if (found == words.end()) return {};
-    if (found + 1 == words.end()) throw BadUsage(name + " wants a value");
-    std::string value = std::move(found[1]);
-    words.erase(found, found + 2);
-    return value;
-}
-
-/// The words that are left: so many files.
-void requireFiles(const Words& words, std::size_t least, std::size_t most) {
-    for (const std::string& word : words)
-        if (word.size() > 1 && word[0] == '-') throw BadUsage("no such option: " + word);
-    if (words.size() < least || words.size() > most) throw BadUsage("");
+void requireFiles(const CommandLine& line, std::size_t least, std::size_t most) {
+    if (line.files.size() < least || line.files.size() > most) throw BadUsage("");
 }
 
 std::string stamp() {
@@ -75,15 +54,6 @@ std::string stamp() {
     char text[sizeof "-2147483648-12-31 23.59.59"];
     std::strftime(text, sizeof text, "%Y-%m-%d %H.%M.%S", std::localtime(&now));
     return text;
-}
-
-int playGame(Words options) {
-    options.insert(options.begin(), "kov");
-    std::vector<char*> arguments;
-    for (std::string& word : options)
-        arguments.push_back(word.data());
-    arguments.push_back(nullptr);
-    return gameMain(static_cast<int>(options.size()), arguments.data());
 }
 
 /// @param path where the file is now; it gets its score into the name if that wasn't given
@@ -103,22 +73,20 @@ void nameFile(const fs::path& path, const Recorder& recorder, bool nameGiven) {
     std::cout << "kept in " << name.string() << '\n';
 }
 
-int record(const fs::path&, Words words) {
+int record(const fs::path&, const Words& words) {
     const auto dashes = std::find(words.begin(), words.end(), "--");
-    Words options;
-    if (dashes != words.end()) options.assign(dashes + 1, words.end());
-    words.erase(dashes, words.end());
-    requireFiles(words, 0, 1);
-    const bool named = !words.empty();
-    const fs::path path =
-        fs::absolute(named ? fs::path(words[0]) : fs::path(replay_folder) / (stamp() + ending));
+    const CommandLine line(Words(words.begin(), dashes), {});
+    requireFiles(line, 0, 1);
+    const bool named = !line.files.empty();
+    const fs::path path = fs::absolute(named ? fs::path(line.files[0])
+                                             : fs::path(replay_folder) / (stamp() + ending));
     boost::system::error_code ignored; // the recorder says what is wrong
     if (!named) fs::create_directories(path.parent_path(), ignored);
     try {
         Recorder recorder(path.string());
         insert(&recorder);
-        // cppcheck-suppress invalidContainer // the options are copies
-        const int code = playGame(options);
+        const int code = quorva::headless::runGameMain(
+            dashes == words.end() ? Words() : Words(dashes + 1, words.end()));
         recorder.finish();
         insert(nullptr);
         nameFile(path, recorder, named);
@@ -128,47 +96,33 @@ int record(const fs::path&, Words words) {
     }
 }
 
-/// ms of "M:SS" or "S".
-std::uint32_t toTime(const std::string& text) {
-    unsigned int m = 0, s = 0;
-    int length = -1;
-    if (std::sscanf(text.c_str(), "%5u:%2u%n", &m, &s, &length) != 2) {
-        m = 0;
-        std::sscanf(text.c_str(), "%6u%n", &s, &length);
-    }
-    if (length != static_cast<int>(text.size())) throw BadUsage("no time such as 1:30: " + text);
-    return (m * 60 + s) * 1000;
-}
-
-double toSpeed(const std::string& text) {
-    char* end = nullptr;
-    const double speed = std::strtod(text.c_str(), &end);
-    if (*end != '\0' || !(speed >= slowest && speed <= fastest))
-        throw BadUsage("no speed from 0.125 to 64: " + text);
-    return speed;
-}
-
 /// Says what has been found; the window is gone.
-int judge(Player& player) {
-    player.finish();
+int judge(Playback& playback, std::uint32_t start) {
+    playback.finish();
     insert(nullptr);
-    if (!player.damage().empty()) return complain(player.damage());
-    if (player.difference().empty()) return 0;
-    complain(player.difference());
-    return exit_differs;
+    if (!playback.damage().empty()) return complain(playback.damage());
+    if (!playback.difference().empty()) {
+        complain(playback.difference());
+        return exit_differs;
+    }
+    if (!isInterrupted()) return 0;
+    complain("interrupted at " + minutes(playback.now() - start));
+    return exit_interrupted;
 }
 
 void requireDisplay() {
     if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
 }
 
-int watch(const fs::path& data, Words words) {
-    const std::string speed = takeOption(words, "--speed"), from = takeOption(words, "--from");
-    requireFiles(words, 1, 1);
-    const std::string path = fs::absolute(words[0]).string();
+int watch(const fs::path& data, const Words& words) {
+    const CommandLine line(words, {{"speed", true}, {"from", true}});
+    requireFiles(line, 1, 1);
+    const std::string speed = line.value("speed"), from = line.value("from");
+    const std::string path = fs::absolute(line.files[0]).string();
     const Summary summary(path);
-    const Watcher::Times times = {summary.start, summary.length, from.empty() ? 0 : toTime(from),
-                                  speed.empty() ? 1.0 : toSpeed(speed)};
+    const Watcher::Times times = {
+        summary.start, summary.length, from.empty() ? 0 : toTime(from),
+        speed.empty() ? 1.0 : toSpeed(speed, Watcher::slowest, Watcher::fastest)};
     requireDisplay();
     const fs::path songs = fs::absolute(data) / "Songs";
     Script script(path);
@@ -176,30 +130,32 @@ int watch(const fs::path& data, Words words) {
     Watcher watcher(script, songs, times);
     insert(&watcher);
     runGame(script.setup);
-    return judge(watcher);
+    return judge(watcher, summary.start);
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): as all commands
-int verify(const fs::path& data, Words words) {
-    requireFiles(words, 1, words.size());
-    const fs::path program = fs::read_symlink("/proc/self/exe").parent_path() / "kov-replay-verify";
+/// The program that plays games unseen, which lies beside this one.
+ProgramEnd playUnseen(const Words& words) {
+    const fs::path self = fs::read_symlink("/proc/self/exe");
+    Words all = {(self.parent_path() / "kov-replay-verify").string()};
+    all.insert(all.end(), words.begin(), words.end());
+    return runProgram(all);
+}
+
+int verify(const fs::path& data, const Words& words) {
+    const CommandLine line(words, {});
+    requireFiles(line, 1, line.files.size());
     int worst = 0;
-    for (const std::string& word : words) {
-        const int code = runProgram({program.string(), word, data.string()});
-        if (code < 0) complain(word + ": the game has failed");
-        worst = std::max(worst, code < 0 ? exit_differs : code);
+    for (const std::string& file : line.files) {
+        const ProgramEnd end = playUnseen({file, data.string()});
+        if (end.interrupted || end.code == exit_interrupted) return exit_interrupted;
+        if (end.code < 0) complain(file + ": the game has failed");
+        worst = std::max(worst, end.code < 0 ? exit_differs : end.code);
     }
     return worst;
 }
 
-Film::Format toFormat(const std::string& size, const Summary& summary) {
-    Film::Format format = {0, 0, summary.start, summary.length};
-    for (const auto& [letter, value] : summary.setup.settings) {
-        if (letter == 'w') format.width = value;
-        if (letter == 'l') format.height = value;
-    }
+void takeSize(const std::string& size, Film::Format& format) {
     int length = -1;
-    if (size.empty()) return format;
     const auto isUsual = [](int pixels) {
         return pixels >= smallest_picture && pixels <= largest_picture;
     };
@@ -207,21 +163,29 @@ Film::Format toFormat(const std::string& size, const Summary& summary) {
     if (length != static_cast<int>(size.size()) || !isUsual(format.width) ||
         !isUsual(format.height))
         throw BadUsage("no size such as 1280x720: " + size);
+}
+
+Film::Format toFormat(const CommandLine& line, const Summary& summary) {
+    const SettingValues& settings = summary.setup.settings;
+    Film::Format format = {valueOf(settings, 'w'), valueOf(settings, 'l'), summary.start, 0,
+                           summary.length,         line.has("full")};
+    if (line.has("size")) takeSize(line.value("size"), format);
+    if (line.has("from")) format.from = toTime(line.value("from"));
+    if (line.has("to")) format.to = std::min(format.to, toTime(line.value("to")));
+    if (format.from >= format.to)
+        throw BadUsage("the file is " + minutes(summary.length) + " long: nothing lies between " +
+                       minutes(format.from) + " and " + minutes(format.to));
     return format;
 }
 
-int film(const fs::path& data, Words words) {
-    const std::string size = takeOption(words, "--size");
-    requireFiles(words, 2, 2);
-    const std::string path = fs::absolute(words[0]).string();
-    const std::string out = fs::absolute(words[1]).string();
+int film(const fs::path& data, const Words& words) {
+    const CommandLine line(words, {{"size", true}, {"from", true}, {"to", true}, {"full", false}});
+    requireFiles(line, 2, 2);
+    const std::string path = fs::absolute(line.files[0]).string();
+    const std::string out = fs::absolute(line.files[1]).string();
     const Summary summary(path);
-    const Film::Format format = toFormat(size, summary);
-    if (fs::exists(out)) throw std::runtime_error(out + " is there already");
-    if (runProgram({"ffmpeg", "-nostdin", "-v", "quiet", "-f", "lavfi", "-i", "anullsrc",
-                    "-frames:a", "1", "-f", "null", "-"}) != 0)
-        throw std::runtime_error("films are made by the program ffmpeg; please install the package "
-                                 "ffmpeg");
+    const Film::Format format = toFormat(line, summary);
+    Film::requireTarget(out);
     requireDisplay();
     const fs::path songs = fs::absolute(data) / "Songs";
     Script script(path);
@@ -229,41 +193,45 @@ int film(const fs::path& data, Words words) {
     Film film(script, songs, format);
     insert(&film);
     runGame(script.setup);
-    const int code = judge(film);
-    film.finishFilm(out);
+    const int code = judge(film, summary.start);
+    if (code != exit_interrupted) film.finishFilm(out);
     return code;
 }
 
-int show(const fs::path&, Words words) {
-    requireFiles(words, 1, 1);
-    std::cout << Summary(words[0]).text();
+int show(const fs::path&, const Words& words) {
+    const CommandLine line(words, {});
+    requireFiles(line, 1, 1);
+    std::cout << Summary(line.files[0]).text();
     return 0;
 }
 
 const struct {
     const char* name;
-    int (*run)(const fs::path& data, Words words);
+    int (*run)(const fs::path& data, const Words& words);
 } commands[] = {
     {"record", record}, {"watch", watch}, {"verify", verify}, {"film", film}, {"show", show},
 };
 
-int run(Words words) {
-    const std::string data = takeOption(words, "--data");
-    if (words.empty()) throw BadUsage("");
-    const std::string name = words[0];
-    words.erase(words.begin());
-    if (name == "--help" || name == "-h") {
+int sayVersion() {
+    introduceGame();
+    std::cout << "KOV " << quorva::GameInfo::Instance().version << '\n';
+    return 0;
+}
+
+int run(const Words& words) {
+    const CommandLine line(words, {{"data", true}, {"help", false}, {"version", false}},
+                           CommandLine::options_first);
+    if (line.has("help")) {
         std::cout << usage_text;
         return 0;
     }
-    if (name == "--version") {
-        introduceGame();
-        std::cout << "KOV " << quorva::GameInfo::Instance().version << '\n';
-        return 0;
-    }
+    if (line.has("version")) return sayVersion();
+    if (line.files.empty()) throw BadUsage("");
+    const std::string data = line.has("data") ? line.value("data") : ".";
     for (const auto& command : commands)
-        if (name == command.name) return command.run(data.empty() ? "." : data, words);
-    throw BadUsage("no such command: " + name);
+        if (line.files[0] == command.name)
+            return command.run(data, Words(line.files.begin() + 1, line.files.end()));
+    throw BadUsage("no such command: " + line.files[0]);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "platform/standins/GLRecorder.h"
 #include "replay/Blocks.h"
 #include "replay/Script.h"
+#include "replay/Snapshot.h"
 #include "replay/Tape.h"
 
 #include "Framework/math/MTRand.h"
@@ -67,7 +68,7 @@ std::string edited(const std::string& path, const Edit& edit,
         std::remove("edited"); // of the edit before
         BlockWriter blocks("edited");
         bool done = !edit;
-        while (auto record = script.next()) {
+        while (auto record = script.take()) {
             if (!done) done = edit(*record);
             records.write(*record, bytes);
             if (bytes.bytes.size() < 4000) continue;
@@ -80,9 +81,21 @@ std::string edited(const std::string& path, const Edit& edit,
     return contentsOf("edited");
 }
 
+/// Changes the first record of a kind.
+template <class Kind>
+Edit ofFirst(void (*change)(Kind&)) {
+    return [change](Record& record) {
+        auto* const found = std::get_if<Kind>(&record);
+        if (found != nullptr) change(*found);
+        return found != nullptr;
+    };
+}
+
 /// The first key that fires.
 bool changeKey(Record& record) {
-    for (Event& event : record.pass_.events)
+    auto* const pass = std::get_if<Pass>(&record);
+    if (pass == nullptr) return false;
+    for (Event& event : pass->events)
         if (event.which == SDLK_w) return event.which = SDLK_s, true;
     return false;
 }
@@ -137,7 +150,7 @@ TEST_F(Replay, ADamagedFileIsToldInALine) {
         {"Up, W\n", "no replay"},
         {whole.substr(0, 12), "damaged"},
         {whole.substr(0, 13), "nothing was recorded"},
-        {with(11, 2), "newer version"},
+        {with(11, format_version + 1), "newer version"},
         {with(12, 9), "rules of another version"},
         {flipped(13), ""}, // sizes and checksum of a block
         {flipped(17), "damaged"},
@@ -164,21 +177,15 @@ TEST_F(Replay, AnEditedFileDiffers) {
         const char* words;
         Edit edit;
     } cases[] = {
-        {"score, deaths",
-         [](Record& r) { return r.kind == Record::game_end && ++r.result.score != 0; }},
-        {"score, deaths",
-         [](Record& r) { return r.kind == Record::game_end && ++r.result.deaths != 0; }},
-        {"score, deaths",
-         [](Record& r) { return r.kind == Record::game_end && (r.result.lost = true); }},
+        {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { ++end.score; })},
+        {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { ++end.deaths; })},
+        {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { end.lost = true; })},
         {"the first that differs: ", changeKey},
-        {"only the hash differs",
-         [](Record& r) { return r.kind == Record::check && ++r.check_.hash != 0; }},
-        {"differs: score and lives",
-         [](Record& r) { return r.kind == Record::check && (++r.check_.marks[0], true); }},
-        {"the first that differs: ",
-         [](Record& r) { return r.kind == Record::end && (++r.check_.marks[0], true); }},
+        {"only the hash differs", ofFirst<Check>([](Check& check) { ++check.hash; })},
+        {"differs: score and lives", ofFirst<Check>([](Check& check) { ++check.partHashes[0]; })},
+        {"the first that differs: ", ofFirst<End>([](End& end) { ++end.check.partHashes[0]; })},
         {"goes another way",
-         [](Record& r) { return r.kind == Record::game_begin && (r.kind = Record::check, true); }},
+         [](Record& r) { return std::holds_alternative<GameBegin>(r) && (r = Check(), true); }},
     };
     for (const auto& c : cases) {
         const Outcome outcome = verify(edited(other, c.edit));
@@ -238,9 +245,9 @@ TEST(Comparison, NamesTheFirstObjectThatDiffers) {
     game.startLevel();
     game.ticks(300);
     for (const auto& c : cases) {
-        const Check before = Check::ofGame();
+        const Check before = checkOfGame();
         c.change();
-        const std::string found = before.compare(Check::ofGame());
+        const std::string found = firstDifference(before, checkOfGame());
         EXPECT_NE(found.find(c.words), std::string::npos) << found;
         EXPECT_EQ(found.empty(), *c.words == '\0') << found;
     }

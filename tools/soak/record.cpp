@@ -4,6 +4,7 @@
 // With --idle, N passes go by between two ticks, as on a real machine.
 
 #include "headless/Bot.h"
+#include "headless/GameMain.h"
 #include "headless/Sandbox.h"
 #include "platform/standins/SoundRecorder.h"
 #include "platform/standins/VirtualSDL.h"
@@ -16,8 +17,6 @@
 #include <fstream>
 #include <iostream>
 #include <map>
-
-int gameMain(int argc, char* argv[]); // the game's own main
 
 using namespace quorva;
 using standins::sdl;
@@ -80,9 +79,7 @@ int main(int argc, char* argv[]) {
     };
     replay::Recorder recorder(path);
     replay::insert(&recorder);
-    std::string words[] = {"kov", options["--music"] != 0 ? "-m" : "-M"};
-    char* arguments[] = {words[0].data(), words[1].data(), nullptr};
-    const int code = gameMain(2, arguments);
+    const int code = headless::runGameMain({options["--music"] != 0 ? "-m" : "-M"});
     recorder.finish();
     std::cout << passes << " passes, games " << bot.games << ", best score " << recorder.bestScore
               << '\n';
