@@ -167,7 +167,7 @@ bool Recorder::couldRepeat() const {
 void Recorder::endPass() {
     Record record;
     // Where all would do the same at the last of these times, that one is enough.
-    if (isPlain() && songIsDue(pass.clock.front()) == songIsDue(now)) pass.clock = {now};
+    if (isPlain() && songIsDue(pass.clock.front()) == songIsDue(now)) pass.clock.assign(1, now);
     std::swap(record.pass_, pass);
     record.pass_.idle = std::exchange(idle, 0);
     if (!record.pass_.clock.empty()) lastClock = record.pass_.clock.back();
