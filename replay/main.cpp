@@ -8,6 +8,7 @@
 #include "replay/Words.h"
 
 #include "Framework/GameInfo.h"
+#include "Framework/Graphics/VideoDriver.h"
 #include "Framework/Utility.h"
 #include "game/GameIdentity.h"
 
@@ -103,12 +104,18 @@ void nameFile(const fs::path& path, const Recorder& recorder, bool nameGiven) {
     std::cout << "kept in " << name.string() << '\n';
 }
 
+void requireDisplay() {
+    quorva::graphics::keepToDriversWithGL();
+    if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
+}
+
 int record(const fs::path&, Words words) {
     const auto dashes = std::find(words.begin(), words.end(), "--");
     Words options;
     if (dashes != words.end()) options.assign(dashes + 1, words.end());
     words.erase(dashes, words.end());
     requireFiles(words, 0, 1);
+    requireDisplay();
     const bool named = !words.empty();
     const fs::path path =
         fs::absolute(named ? fs::path(words[0]) : fs::path(replay_folder) / (stamp() + ending));
@@ -156,10 +163,6 @@ int judge(Player& player) {
     if (player.difference().empty()) return 0;
     complain(player.difference());
     return exit_differs;
-}
-
-void requireDisplay() {
-    if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
 }
 
 int watch(const fs::path& data, Words words) {
