@@ -35,7 +35,8 @@ const char* const usage_text =
     "       kov-replay verify FILE...                    play again, unseen, and compare\n"
     "       kov-replay film FILE OUT.mp4 [--size WxH]    make a film, by the program ffmpeg\n"
     "       kov-replay show FILE                         say what is in it\n"
-    "In front of these: --data FOLDER, the game's files; the current folder if not given.\n";
+    "       kov-replay --help | --version\n"
+    "In front of these: --data FOLDER, other game files than its own.\n";
 
 const char* const ending = ".kovreplay";
 const char* const replay_folder = "Replays"; // where the game keeps its files
@@ -251,7 +252,10 @@ const struct {
 };
 
 int run(Words words) {
-    const std::string data = takeOption(words, "--data");
+    // The launcher says where the game is installed; what the user says comes behind it.
+    std::string data = ".";
+    for (std::string given; given = takeOption(words, "--data"), !given.empty();)
+        data = given;
     if (words.empty()) throw BadUsage("");
     const std::string name = words[0];
     words.erase(words.begin());
@@ -265,7 +269,7 @@ int run(Words words) {
         return 0;
     }
     for (const auto& command : commands)
-        if (name == command.name) return command.run(data.empty() ? "." : data, words);
+        if (name == command.name) return command.run(data, words);
     throw BadUsage("no such command: " + name);
 }
 
