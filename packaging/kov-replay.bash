@@ -5,8 +5,7 @@ _kov_replay_files() {
     local i files=0
     for ((i = 2; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-        --speed | --size) ((i++)) ;;
-        --from) [[ ${COMP_WORDS[i + 2]} == : ]] && ((i += 3)) || ((i++)) ;; # three words to bash
+        --speed | --size | --from | :) ((i++)) ;; # a time is three words to bash, 2 : 30
         -*) ;;
         *) ((files++)) ;;
         esac

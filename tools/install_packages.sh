@@ -73,7 +73,7 @@ run_apt() { # arguments of apt-get
         code=0
         $as_root env DEBIAN_FRONTEND=noninteractive LC_ALL=C \
             apt-get -qq -o DPkg::Lock::Timeout=$left "$@" >/dev/null 2>"$errors" || code=$?
-        if [ $code -eq 0 ] || ! grep -q 'Could not get lock' "$errors"; then break; fi
+        if [ "$code" -eq 0 ] || ! grep -q 'Could not get lock' "$errors"; then break; fi
         if [ -z "$until" ]; then
             holder=$(sed -n 's/.*held by \(process .*)\).*/\1/p' "$errors")
             echo "apt is busy: waits for ${holder:-another program}, up to $((patience / 60)) minutes."
@@ -84,7 +84,7 @@ run_apt() { # arguments of apt-get
         sleep 1
     done
     cat "$errors" >&2
-    return $code
+    return "$code"
 }
 run_apt update
 
