@@ -21,8 +21,8 @@ step() { # name, command...
 }
 
 check_format() {
-    find Framework game headless platform replay tests tools fuzz bench \( -name '*.cpp' -o -name '*.h' \) \
-        -print0 2>/dev/null | xargs -0 clang-format --dry-run --Werror
+    find Framework game headless packaging platform replay tests tools fuzz bench \
+        \( -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null | xargs -0 clang-format --dry-run --Werror
 }
 
 build() { # preset

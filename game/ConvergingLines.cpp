@@ -3,6 +3,7 @@
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Stuff/GLine.h"
 #include "Framework/Timer.h"
+#include "Framework/math/Elementary.h"
 
 using namespace quorva;
 
@@ -30,8 +31,8 @@ math::Point ConvergingLines::aim(std::size_t i) {
     angles[i] = math::randomFraction(Rand) * 360.0;
     math::rotate(angles[i], math::z_axis, rotations[i]);
     const double a = (angles[i] + 90.0) * math::pi / 180.0;
-    const math::Point start(circle_radius * std::cos(a) + centre.x,
-                            circle_radius * std::sin(a) + centre.y, 0.0);
+    const math::Point start(circle_radius * math::cos(a) + centre.x,
+                            circle_radius * math::sin(a) + centre.y, 0.0);
     velocities[i] = centre - start;
     velocities[i].normalise();
     velocities[i].x *= line_speed;

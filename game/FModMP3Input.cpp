@@ -142,13 +142,23 @@ void FModMP3Input::stopSong() {
     if (song != nullptr) FMOD_Sound_Release(song);
     song = nullptr;
     songPlaying = false;
+    songPaused = false; // a game may end in its pause
+}
+
+std::int32_t FModMP3Input::overdueAt(std::uint32_t clock) const {
+    // Signed: the clock may be set back, and wraps after 49.7 days.
+    return static_cast<std::int32_t>(clock - (songEndTime + pausedTime));
+}
+
+bool FModMP3Input::songIsDue(std::uint32_t clock) const {
+    return songPlaying && !songPaused && overdueAt(clock) > 0;
 }
 
 void FModMP3Input::update() {
-    // By signed difference: the clock may be set back, and wraps after 49.7 days.
-    const auto overdue = static_cast<std::int32_t>(SDL_GetTicks() - (songEndTime + pausedTime));
-    if (overdue > longest_overdue) songEndTime += overdue - longest_overdue;
-    if (songPlaying && overdue > 0) playSong(getRandomSongID());
+    const std::uint32_t now = SDL_GetTicks();
+    const std::int32_t overdue = overdueAt(now);
+    if (overdue > longest_overdue && !songPaused) songEndTime += overdue - longest_overdue;
+    if (songIsDue(now)) playSong(getRandomSongID());
     FMOD_System_Update(system);
 }
 
@@ -161,12 +171,10 @@ void FModMP3Input::receiveMessage(const PlaySong* m) {
 }
 
 void FModMP3Input::receiveMessage(const PauseGame* m) {
-    if (m->paused) {
-        pauseStartTime = SDL_GetTicks();
-    } else {
-        pauseEndTime = SDL_GetTicks();
-        pausedTime += pauseEndTime - pauseStartTime;
-    }
+    const std::uint32_t now = SDL_GetTicks();
+    if (songPaused) pausedTime += now - pauseStartTime;
+    (m->paused ? pauseStartTime : pauseEndTime) = now;
+    songPaused = m->paused;
     FMOD_Channel_SetPaused(musicChannel, m->paused ? 1 : 0);
 }
 

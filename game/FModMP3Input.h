@@ -53,6 +53,10 @@ public:
     void playSong(unsigned short id);
     void stopSong();
 
+    /// Whether the next song, or the one that waits for the setting, would start at this clock.
+    /// Never in a pause: the song that it halts has the rest of its time still to come.
+    [[nodiscard]] bool songIsDue(std::uint32_t clock) const;
+
     /// A draw of the shared random stream, or several: never the last song again, if there are
     /// two. 0, without a draw, if there are none.
     unsigned short getRandomSongID();
@@ -76,14 +80,17 @@ public:
     std::vector<std::string> songs; ///< file names, without the folder
     bool songPlaying = false;       ///< update watches for the song's end, or for the setting
     std::uint16_t lastSongID;
-    std::uint32_t pausedTime = 0; ///< ms that the current song stood paused
+    std::uint32_t pausedTime = 0; ///< ms of the current song's pauses, but for one that lasts
     std::uint32_t pauseStartTime = 0;
     std::uint32_t pauseEndTime = 0;
+    bool songPaused = false; ///< as the last PauseGame said, until a song is stopped or started
 
 private:
     void subscribeToAll();
     void loadEffects();
     void playEffect(FMOD_SOUND* sound);
+    /// ms since the song's end, below 0 before it.
+    [[nodiscard]] std::int32_t overdueAt(std::uint32_t clock) const;
 
     std::set<std::string> brokenSongs; ///< paths whose failure has been reported
 };

@@ -1,6 +1,7 @@
 #include "game/Logo.h"
 
 #include "Framework/Graphics/Draw.h"
+#include "Framework/math/Elementary.h"
 
 using namespace quorva;
 using namespace quorva::graphics;
@@ -44,12 +45,12 @@ void drawStroke(const Corner& from, const Corner& to) {
 }
 
 void drawJoin(const Corner& before, const Corner& corner, const Corner& after) {
-    const double arrives = std::atan2(corner[1] - before[1], corner[0] - before[0]);
+    const double arrives = math::atan2(corner[1] - before[1], corner[0] - before[0]);
     const double turn = std::remainder(
-        std::atan2(after[1] - corner[1], after[0] - corner[0]) - arrives, 2.0 * math::pi);
+        math::atan2(after[1] - corner[1], after[0] - corner[0]) - arrives, 2.0 * math::pi);
     for (int step = 1; step < join_steps; ++step) {
         const double angle = arrives + turn * step / join_steps;
-        const double dx = half_join * std::cos(angle), dy = half_join * std::sin(angle);
+        const double dx = half_join * math::cos(angle), dy = half_join * math::sin(angle);
         drawStroke({corner[0] - dx, corner[1] - dy}, {corner[0] + dx, corner[1] + dy});
     }
 }
@@ -78,8 +79,8 @@ void drawCircle() {
     draw::begin(SHAPE_LINE_LOOP);
     for (unsigned int i = 0; i < circle_points; ++i) {
         const double angle = i * 360.0 / circle_points * math::pi / 180.0;
-        draw::vertex2D(circle_x + circle_radius * std::cos(angle),
-                       circle_y + circle_radius * std::sin(angle));
+        draw::vertex2D(circle_x + circle_radius * math::cos(angle),
+                       circle_y + circle_radius * math::sin(angle));
     }
     draw::end();
 }

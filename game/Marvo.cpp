@@ -9,7 +9,7 @@
 #include "game/PlayerCharacter.h"
 #include "game/SquareIndicator.h"
 
-#include <cmath>
+#include <boost/multiprecision/cpp_bin_float.hpp>
 
 using namespace quorva;
 
@@ -18,14 +18,18 @@ namespace {
 const std::string high_score_file = STARTING_PATH + "s.dat";
 constexpr std::int16_t first_lives = 2;
 constexpr unsigned long extra_life_interval = 100000; // points
-constexpr long double points_scale = 1000.0L;
+constexpr int points_scale = 1000;
+
+/// 64 bits of mantissa, each operation rounded to nearest: the extended double of x86 processors,
+/// on every machine.
+using Extended = boost::multiprecision::cpp_bin_float_double_extended;
 
 /// Truncated toward zero, low 32 bits; a sum that is no number leaves the score alone.
-std::uint32_t toScore(long double sum, std::uint32_t unchanged) {
-    if (!std::isfinite(sum)) return unchanged;
-    constexpr long double range = 4294967296.0L;
-    const long double wrapped = std::fmod(std::trunc(sum), range);
-    return static_cast<std::uint32_t>(wrapped < 0.0L ? wrapped + range : wrapped);
+std::uint32_t toScore(const Extended& sum, std::uint32_t unchanged) {
+    if (!isfinite(sum)) return unchanged;
+    const Extended range = 4294967296.0, whole = trunc(sum);
+    const Extended wrapped = whole - range * floor(whole / range); // exact, as range is 2^32
+    return wrapped.convert_to<std::uint32_t>();
 }
 
 } // namespace
@@ -80,9 +84,9 @@ void MarvoClass::killPlayer() {
 void MarvoClass::killTriangles(const primitives::Box& box, unsigned short count) {
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): a copy is rounded
     const primitives::Box sides(box); // through single precision
-    const long double width = static_cast<long double>(sides.right) - sides.left;
-    const long double height = static_cast<long double>(sides.top) - sides.bottom;
-    const long double f = 1.0L - width * height / fieldArea;
+    const Extended width = Extended(sides.right) - sides.left;
+    const Extended height = Extended(sides.top) - sides.bottom;
+    const Extended f = 1 - width * height / fieldArea;
     score = toScore(score + f * f * f * f * points_scale * (2 * count), score);
     Engine::Instance().createEntity<SquareIndicator>("Square Indicator", box);
     publish(SoundSquare());

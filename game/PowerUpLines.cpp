@@ -2,6 +2,7 @@
 
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/Stuff/GLine.h"
+#include "Framework/math/Elementary.h"
 #include "Framework/math/MTRand.h"
 #include "Framework/physics/PhysicsObject.h"
 
@@ -24,7 +25,7 @@ constexpr double fade_step = 0.00125;    // alpha per tick and ray
 void placeEnd(const ParticleLine& ray) {
     const double radians = ray.angle * math::pi / 180.0;
     ray.line->end =
-        math::Point(std::cos(radians) * ray.length, std::sin(radians) * ray.length, 0.0);
+        math::Point(math::cos(radians) * ray.length, math::sin(radians) * ray.length, 0.0);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "Framework/Managers/ColourManager.h"
 #include "Framework/Managers/PointManager.h"
 #include "Framework/Timer.h"
+#include "Framework/math/Elementary.h"
 #include "Framework/math/MTRand.h"
 #include "Framework/physics/PhysicsObject.h"
 #include "game/GTriangle.h"
@@ -35,8 +36,8 @@ double squaredLength(const math::Vector& v) {
 /// `corner` of the model turned by `radians`, at `length` from the origin.
 /// With x at 0 the slope is infinite, and atan gives the right angle that is wanted.
 math::Point turned(const math::Point& corner, double radians, double length) {
-    const double direction = std::atan(corner.y / corner.x) + radians;
-    return {std::cos(direction) * length, std::sin(direction) * length, 0.0};
+    const double direction = math::atan(corner.y / corner.x) + radians;
+    return {math::cos(direction) * length, math::sin(direction) * length, 0.0};
 }
 
 math::Vector unitInPlane(const math::Point& from, const math::Point& to) {
@@ -99,7 +100,7 @@ void Triangle::changeRotation(double radians) {
 
 void Triangle::changeMovement() {
     const double heading = angle + math::right_angle;
-    step = math::Vector(10.0 * std::cos(heading), 10.0 * std::sin(heading), step.z);
+    step = math::Vector(10.0 * math::cos(heading), 10.0 * math::sin(heading), step.z);
     step.normalise();
     step.x /= slowest_divisor - speed;
     step.y /= slowest_divisor - speed;
@@ -115,9 +116,9 @@ void Triangle::reposition() {
     toPlayer.normalise();
     // Deliberately unguarded: exactly where the player is, `angle` becomes not-a-number.
     const double cosine = forward.dot(toPlayer);
-    const double turn = std::acos(cosine < -1.0  ? -1.0
-                                  : cosine > 1.0 ? 1.0
-                                                 : cosine) *
+    const double turn = math::acos(cosine < -1.0  ? -1.0
+                                   : cosine > 1.0 ? 1.0
+                                                  : cosine) *
                         180.0 / math::pi;
     const double side = toPlayer.x * forward.y - toPlayer.y * forward.x;
     const double radians = (turn > turn_limit ? turn_limit : turn) * math::pi / 180.0;

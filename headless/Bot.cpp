@@ -45,7 +45,7 @@ const Point& placeOf(const Entity* e) {
 }
 
 double distance(const Point& a, const Point& b) {
-    return std::hypot(a.x - b.x, a.y - b.y);
+    return (a - b).length();
 }
 
 Point onField(Point p) {
@@ -69,8 +69,7 @@ Point middleOf(const Entity* triangle) {
 double distanceFrom(const Entity* triangle, const Point& p) {
     double least = std::numeric_limits<double>::infinity();
     for (const Point& corner : triangle->physics->vertices)
-        least = std::min(least, std::hypot(placeOf(triangle).x + corner.x - p.x,
-                                           placeOf(triangle).y + corner.y - p.y));
+        least = std::min(least, distance(placeOf(triangle) + corner, p));
     return least;
 }
 

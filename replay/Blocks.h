@@ -17,7 +17,7 @@ namespace quorva::replay {
 constexpr std::uint8_t format_version = 2;
 /// Of the rules of play: to be raised with any change that makes recorded games play differently.
 /// Another one is refused.
-constexpr std::uint8_t rule_set = 1;
+constexpr std::uint8_t rule_set = 2;
 
 class BlockWriter {
 public:

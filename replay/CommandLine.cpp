@@ -47,9 +47,10 @@ CommandLine::CommandLine(const Words& words, const std::vector<Option>& known, O
     while ((found = getopt_long(count, given, order == mixed ? ":" : "+:", options.data(),
                                 nullptr)) != -1) {
         if (found == '?' || found == ':') refuse(found, known, given[std::max(optind - 1, 1)]);
-        const std::string name = known[static_cast<std::size_t>(found) - 1].name;
-        if (!values.emplace(name, optarg != nullptr ? optarg : "").second)
-            throw BadUsage("--" + name + " stands there twice");
+        const Option& option = known[static_cast<std::size_t>(found) - 1];
+        const std::string name = option.name;
+        if (has(name) && !option.mayRepeat) throw BadUsage("--" + name + " stands there twice");
+        values[name] = optarg != nullptr ? optarg : "";
     }
     files.assign(given + optind, given + count);
 }

@@ -21,6 +21,7 @@ public:
     struct Option {
         const char* name; ///< without the dashes
         bool takesValue;
+        bool mayRepeat = false; ///< the last one counts; else a second one is refused
     };
     enum Order {
         mixed,        ///< options may stand behind files

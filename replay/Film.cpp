@@ -7,10 +7,13 @@
 
 #include <GL/gl.h>
 #include <boost/filesystem.hpp>
+#include <fcntl.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
 
 namespace quorva::replay {
@@ -46,25 +49,32 @@ Words soundWords() {
                    "aac", "-b:a", "192k", sound_file});
 }
 
+/// A tenth of a second, as the film will be.
 Words testWords(const std::string& path) {
-    return {"ffmpeg",        "-nostdin", "-v",    "quiet", "-f",       "lavfi",   "-i",
-            "color=s=16x16", "-f",       "lavfi", "-i",    "anullsrc", "-t",      "0.1",
-            "-c:v",          "libx264",  "-c:a",  "aac",   "-pix_fmt", "yuv420p", "file:" + path};
+    return {"ffmpeg",   "-y",       "-nostdin",      "-v",          "quiet",   "-f",
+            "lavfi",    "-i",       "color=s=16x16", "-f",          "lavfi",   "-i",
+            "anullsrc", "-t",       "0.1",           "-c:v",        "libx264", "-c:a",
+            "aac",      "-pix_fmt", "yuv420p",       "file:" + path};
+}
+
+/// Any ffmpeg can do this.
+Words soundTestWords() {
+    return {"ffmpeg",   "-nostdin",  "-v", "quiet", "-f",   "lavfi", "-i",
+            "anullsrc", "-frames:a", "1",  "-f",    "null", "-"};
 }
 
 } // namespace
 
 void Film::requireTarget(const std::string& path) {
     namespace fs = boost::filesystem;
-    if (fs::exists(path)) throw std::runtime_error(path + " is there already");
-    const fs::path folder = fs::path(path).parent_path();
-    if (!fs::is_directory(folder) || access(folder.c_str(), W_OK) != 0)
-        throw std::runtime_error("no folder that can be written: " + folder.string());
+    const int made = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (made < 0) throw std::runtime_error("can't make " + path + ": " + std::strerror(errno));
+    close(made);
     const ProgramEnd test = runProgram(testWords(path));
-    boost::system::error_code ignored; // it may not be there
+    boost::system::error_code ignored; // ffmpeg may have removed it
     fs::remove(path, ignored);
     if (test.code == 0 || test.interrupted) return;
-    if (runProgram({"ffmpeg", "-nostdin", "-v", "quiet", "-version"}).code < 0)
+    if (runProgram(soundTestWords()).code != 0)
         throw std::runtime_error("films are made by the program ffmpeg; please install the package "
                                  "ffmpeg");
     throw std::runtime_error("ffmpeg makes no films like " + fs::path(path).filename().string() +

@@ -46,8 +46,7 @@ bool toEvent(const SDL_Event& from, Event& event) {
 
 bool songIsDue(std::uint32_t clock) {
     const FModMP3Input* const songs = songPlayer();
-    return songs != nullptr &&
-           static_cast<std::int32_t>(clock - (songs->songEndTime + songs->pausedTime)) > 0;
+    return songs != nullptr && songs->songIsDue(clock);
 }
 
 } // namespace
@@ -146,7 +145,7 @@ bool Recorder::isIdle() const {
 /// The same would be done again with the clock as it was: a song is due and can't be played.
 bool Recorder::couldRepeat() const {
     if (idle == longest_idle) return false;
-    return songPlayer()->songPlaying && songIsDue(lastClock);
+    return songIsDue(lastClock);
 }
 
 void Recorder::endPass() {

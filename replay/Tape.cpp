@@ -1,14 +1,11 @@
 #include "replay/Tape.h"
 
-#include "Framework/Graphics/RenderableThing.h"
+#include "Framework/Graphics/Renderer.h"
 
 #include <GL/gl.h>
 #include <unistd.h>
 
-using quorva::graphics::RenderableThing;
-
 // The linker's --wrap leads the game's calls to __wrap_, and those to __real_ to the library.
-// RenderableThing::render is wrapped by the name that the compiler gives it.
 extern "C" {
 Uint32 __real_SDL_GetTicks();
 int __real_SDL_PollEvent(SDL_Event* event);
@@ -25,7 +22,6 @@ FMOD_RESULT __real_FMOD_System_CreateStream(FMOD_SYSTEM* system, const char* pat
 FMOD_RESULT __real_FMOD_System_PlaySound(FMOD_SYSTEM* system, int channelIndex, FMOD_SOUND* sound,
                                          int paused, FMOD_CHANNEL** channel);
 FMOD_RESULT __real_FMOD_Sound_GetLength(FMOD_SOUND* sound, unsigned int* length, unsigned int unit);
-void __real__ZN6quorva8graphics15RenderableThing6renderEv(RenderableThing* thing);
 }
 
 namespace quorva::replay {
@@ -46,6 +42,7 @@ Tape& tape() {
 
 void insert(Tape* tape) {
     inserted = tape;
+    graphics::Renderer::drawsFrame = [] { return replay::tape().draws(); };
 }
 
 std::uint32_t Tape::clock() {
@@ -158,9 +155,6 @@ FMOD_RESULT __wrap_FMOD_System_PlaySound(FMOD_SYSTEM* system, int channelIndex, 
 }
 FMOD_RESULT __wrap_FMOD_Sound_GetLength(FMOD_SOUND* sound, unsigned int* length, unsigned int) {
     return tape().songLength(sound, length);
-}
-void __wrap__ZN6quorva8graphics15RenderableThing6renderEv(RenderableThing* thing) {
-    if (tape().draws()) __real__ZN6quorva8graphics15RenderableThing6renderEv(thing);
 }
 
 } // extern "C"

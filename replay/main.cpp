@@ -10,6 +10,7 @@
 #include "replay/Words.h"
 
 #include "Framework/GameInfo.h"
+#include "Framework/Graphics/VideoDriver.h"
 #include "Framework/Utility.h"
 #include "game/GameIdentity.h"
 #include "headless/GameMain.h"
@@ -34,7 +35,8 @@ const char* const usage_text =
     "       kov-replay film FILE OUT.mp4 [--size WxH] [--from M:SS] [--to M:SS] [--full]\n"
     "                                                    make a film, by the program ffmpeg\n"
     "       kov-replay show FILE                         say what is in it\n"
-    "In front of these: --data FOLDER, the game's files; the current folder if not given.\n";
+    "       kov-replay --help | --version\n"
+    "In front of these: --data FOLDER, other game files than its own.\n";
 
 const char* const ending = ".kovreplay";
 const char* const replay_folder = "Replays";                 // where the game keeps its files
@@ -73,10 +75,16 @@ void nameFile(const fs::path& path, const Recorder& recorder, bool nameGiven) {
     std::cout << "kept in " << name.string() << '\n';
 }
 
+void requireDisplay() {
+    quorva::graphics::keepToDriversWithGL();
+    if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
+}
+
 int record(const fs::path&, const Words& words) {
     const auto dashes = std::find(words.begin(), words.end(), "--");
     const CommandLine line(Words(words.begin(), dashes), {});
     requireFiles(line, 0, 1);
+    requireDisplay();
     const bool named = !line.files.empty();
     const fs::path path = fs::absolute(named ? fs::path(line.files[0])
                                              : fs::path(replay_folder) / (stamp() + ending));
@@ -108,10 +116,6 @@ int judge(Playback& playback, std::uint32_t start) {
     if (!isInterrupted()) return 0;
     complain("interrupted at " + minutes(playback.now() - start));
     return exit_interrupted;
-}
-
-void requireDisplay() {
-    if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
 }
 
 int watch(const fs::path& data, const Words& words) {
@@ -173,8 +177,9 @@ Film::Format toFormat(const CommandLine& line, const Summary& summary) {
     if (line.has("from")) format.from = toTime(line.value("from"));
     if (line.has("to")) format.to = std::min(format.to, toTime(line.value("to")));
     if (format.from >= format.to)
-        throw BadUsage("the file is " + minutes(summary.length) + " long: nothing lies between " +
-                       minutes(format.from) + " and " + minutes(format.to));
+        throw std::runtime_error("the file is " + minutes(summary.length) +
+                                 " long: nothing lies between " + minutes(format.from) + " and " +
+                                 minutes(format.to));
     return format;
 }
 
@@ -219,7 +224,7 @@ int sayVersion() {
 }
 
 int run(const Words& words) {
-    const CommandLine line(words, {{"data", true}, {"help", false}, {"version", false}},
+    const CommandLine line(words, {{"data", true, true}, {"help", false}, {"version", false}},
                            CommandLine::options_first);
     if (line.has("help")) {
         std::cout << usage_text;
@@ -227,6 +232,7 @@ int run(const Words& words) {
     }
     if (line.has("version")) return sayVersion();
     if (line.files.empty()) throw BadUsage("");
+    // The launcher says where the game is installed; what the user says comes behind it.
     const std::string data = line.has("data") ? line.value("data") : ".";
     for (const auto& command : commands)
         if (line.files[0] == command.name)

@@ -44,6 +44,7 @@ for group in "$@"; do
         ;;
     test)
         header_is gtest/gtest.h "GoogleTest" gtest-devel gtest
+        header_is mpfr.h "MPFR" mpfr-devel mpfr
         command_is clang-format clang-tools-extra clang
         command_is Xvfb xorg-x11-server-Xvfb xorg-server-xvfb
         ;;

@@ -1,8 +1,7 @@
 #include "Framework/Graphics/DrawPrimitives.h"
 
 #include "Framework/Graphics/Draw.h"
-
-#include <cmath>
+#include "Framework/math/Elementary.h"
 
 namespace quorva::graphics::draw::primitives {
 
@@ -13,7 +12,7 @@ constexpr double full_turn = 6.283185; // radians, as the game has always rounde
 /// Point `i` of `n` on a circle about the origin. The angle has passed through single precision.
 math::Point onCircle(double r, unsigned int i, unsigned int n) {
     const float angle = static_cast<float>(i * full_turn / n);
-    return {r * std::cos(angle), r * std::sin(angle), 0.0};
+    return {r * math::cos(angle), r * math::sin(angle), 0.0};
 }
 
 /// In the plane of z = cz.

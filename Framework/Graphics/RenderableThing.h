@@ -19,7 +19,6 @@ enum LayerOrder : int {
 };
 
 /// One layer of an entity's look: shapes that are placed, turned, sorted and drawn together.
-/// Final, so that calls of render() are direct and a program can replace it at link time.
 class RenderableThing final : public RenderInterface {
 public:
     RenderableThing() = default;

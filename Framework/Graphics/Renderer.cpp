@@ -96,6 +96,8 @@ bool RenderObjectSort::operator()(const RenderableThing* a, const RenderableThin
     return a->layer != b->layer ? a->layer < b->layer : a->depth < b->depth;
 }
 
+bool (*Renderer::drawsFrame)() = nullptr;
+
 // Once in a run: a later video mode keeps caption and icon.
 Renderer::Renderer(physics::PhysicsProcessor* physics_) : physics(physics_) {
     subscribe<messages::ResetVideo>(this);
@@ -119,8 +121,9 @@ void Renderer::setupVideo() {
 void Renderer::update() {
     sortInPlace(renderables);
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
-    for (RenderableThing* thing : renderables)
-        thing->render();
+    if (drawsFrame == nullptr || drawsFrame())
+        for (RenderableThing* thing : renderables)
+            thing->render();
     SDL_GL_SwapBuffers();
 }
 

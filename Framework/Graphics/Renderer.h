@@ -41,6 +41,10 @@ public:
     /// no shape sets for itself: what gives the game its look.
     void setupVideo();
 
+    /// Asked in each frame whether its things are drawn; if not, it stays empty. Null: always. For
+    /// programs that play a game without showing all of it.
+    static bool (*drawsFrame)();
+
     std::vector<RenderableThing*> renderables; ///< in last frame's order; entities own them
     physics::PhysicsProcessor* physics;        ///< null when no level runs; not owned; unread
 };

@@ -1,5 +1,7 @@
 #include "Framework/math/Matrix.h"
 
+#include "Framework/math/Elementary.h"
+
 #include <algorithm>
 #include <ostream>
 
@@ -23,7 +25,7 @@ void Matrix::makeRotation(double angle, double x, double y, double z) {
     Vector axis(x, y, z);
     axis.normalise();
     const double radians = angle * pi / 180.0;
-    const double c = std::cos(radians), s = std::sin(radians), t = 1.0 - c;
+    const double c = math::cos(radians), s = math::sin(radians), t = 1.0 - c;
     makeIdentity();
     m[0] = axis.x * axis.x * t + c;
     m[1] = axis.x * axis.y * t + axis.z * s;
@@ -67,14 +69,14 @@ double halfTurnDegrees(double radians) {
 
 Vector Matrix::getEulerXYZ() const {
     Vector angles;
-    angles.y = std::asin(m[8]);
+    angles.y = math::asin(m[8]);
     if (angles.y >= right_angle) {
-        angles.x = std::atan2(m[1], m[5]);
+        angles.x = math::atan2(m[1], m[5]);
     } else if (angles.y <= -right_angle) {
-        angles.x = -std::atan2(m[1], m[5]);
+        angles.x = -math::atan2(m[1], m[5]);
     } else {
-        angles.x = std::atan2(-m[9], m[10]);
-        angles.z = std::atan2(-m[4], m[0]);
+        angles.x = math::atan2(-m[9], m[10]);
+        angles.z = math::atan2(-m[4], m[0]);
     }
     return {halfTurnDegrees(angles.x), halfTurnDegrees(angles.y), halfTurnDegrees(angles.z)};
 }

@@ -1,5 +1,7 @@
 #include "Framework/math/Quaternion.h"
 
+#include "Framework/math/Elementary.h"
+
 namespace quorva::math {
 
 void Quaternion::getAngleAxis(double& angle, Vector& axis) const {
@@ -10,7 +12,7 @@ void Quaternion::getAngleAxis(double& angle, Vector& axis) const {
         return;
     }
     const double cosine = w > 1.0 ? 1.0 : w < -1.0 ? -1.0 : w;
-    angle = 2.0 * std::acos(cosine) * 180.0 / pi;
+    angle = 2.0 * math::acos(cosine) * 180.0 / pi;
     const double norm = std::sqrt(n);
     axis = Vector(x / norm, y / norm, z / norm);
 }
@@ -27,8 +29,8 @@ void divideByNorm(Quaternion& q) {
 
 void rotate(double angle, const Vector& axis, Quaternion& q) {
     const double half = 0.5 * angle * pi / 180.0;
-    const double sine = std::sin(half);
-    Quaternion d(std::cos(half), axis.x * sine, axis.y * sine, axis.z * sine);
+    const double sine = math::sin(half);
+    Quaternion d(math::cos(half), axis.x * sine, axis.y * sine, axis.z * sine);
     divideByNorm(d);
     q = Quaternion(q.w + d.w, q.x + d.x, q.y + d.y, q.z + d.z);
     divideByNorm(q);

@@ -55,12 +55,46 @@ protected:
         for (const char* name : names)
             fill(std::string("Songs/") + name, "song");
     }
+    static void start() { publish(PlaySong()); }
+    static void stop() { publish(StopSong()); }
     static void pause(bool paused) {
         PauseGame message;
         message.paused = paused;
         publish(message);
     }
+    static void nothing() {}
+    static void set(const char* setting, int value) { activate({{setting, value}}); }
+
+    struct Step {
+        const char* what;
+        std::uint32_t later; ///< ms
+        std::function<void()> act;
+        const char* calls; ///< A is the song that comes first
+    };
+    /// An update after each step, with two songs.
+    static void expectCalls(const std::vector<Step>& steps) {
+        songs({"a.mp3", "b.ogg"});
+        FModMP3Input audio;
+        std::string first, second;
+        for (const Step& step : steps) {
+            const unsigned int updates = sound().updates;
+            sdl().ticks += step.later;
+            sound().take();
+            step.act();
+            audio.update();
+            if (first.empty()) {
+                first = "Songs/" + audio.songs[audio.lastSongID];
+                second = "Songs/" + audio.songs[1 - audio.lastSongID];
+            }
+            std::string calls = boost::replace_all_copy(sound().take(), first, "A");
+            EXPECT_EQ(boost::replace_all_copy(calls, second, "B"), step.calls) << step.what;
+            EXPECT_EQ(sound().updates, updates + 1) << step.what;
+        }
+        EXPECT_EQ(sound().openStreams, 0U);
+    }
 };
+
+constexpr std::uint32_t near_wrap = 4'294'960'000; // ms; the clock has 7.3 s to go
 
 } // namespace
 
@@ -133,19 +167,9 @@ TEST_F(AudioTest, DrawsFromTheSharedStreamOnlyWhereThereIsAChoice) {
 }
 
 TEST_F(AudioTest, PlaysSongsByTheClockWithPausesTakenOut) {
-    constexpr std::uint32_t ten_days = 864'000'000, near_wrap = 4'294'960'000; // ms
-    songs({"a.mp3", "b.ogg"});
-    FModMP3Input audio;
+    constexpr std::uint32_t ten_days = 864'000'000; // ms
     activate({{"EffectsVolume", 50}, {"MusicVolume", 25}});
-    const auto start = [] { publish(PlaySong()); };
-    const auto nothing = [] {};
-    const auto set = [](const char* setting, int value) { activate({{setting, value}}); };
-    const struct {
-        const char* what;
-        std::uint32_t later; ///< ms
-        std::function<void()> act;
-        const char* calls; ///< A is the song that comes first
-    } steps[] = {
+    expectCalls({
         {"start", 0, start, "open A 64; play A; volume A 0.25; "},
         {"pause", 40000, [] { pause(true); }, "pause A; "},
         {"in the pause", 9000, nothing, ""},
@@ -154,42 +178,76 @@ TEST_F(AudioTest, PlaysSongsByTheClockWithPausesTakenOut) {
         {"end", 1, nothing, "release A; open B 64; play B; volume B 0.25; "},
         {"the pause counts once", 90000, nothing, ""},
         {"end again", 1, nothing, "release B; open A 64; play A; volume A 0.25; "},
-        {"level", 0, [&] { set("MusicVolume", 75); }, ""},
+        {"level", 0, [] { set("MusicVolume", 75); }, ""},
         {"level of the next", 90001, nothing, "release A; open B 64; play B; volume B 0.75; "},
-        {"off", 1, [&] { set("NoPlayMusic", 0); }, ""},
+        {"off", 1, [] { set("NoPlayMusic", 0); }, ""},
         {"end while off", 90001, nothing, ""},
-        {"on again", 1, [&] { set("PlayMusic", 0); },
+        {"on again", 1, [] { set("PlayMusic", 0); },
          "release B; open A 64; play A; volume A 0.75; "},
         {"clock set back, below its start", 0, [] { sdl().ticks = near_wrap; }, ""},
         {"start there", 0, start, "release A; open B 64; play B; volume B 0.75; "},
         {"not anew at each pass", 1, nothing, ""},
         {"wrapped", 89999, nothing, ""},
         {"end behind the wrap", 1, nothing, "release B; open A 64; play A; volume A 0.75; "},
-        {"stop", 1, [] { publish(StopSong()); }, "release A; "},
+        {"stop", 1, stop, "release A; "},
         {"long after", 1'000'000, nothing, ""},
-        {"start while off", 0, [&] { set("NoPlayMusic", 0), start(); }, ""},
+        {"start while off", 0, [] { set("NoPlayMusic", 0), start(); }, ""},
         {"off for ten days", ten_days, nothing, ""},
         {"for twenty", ten_days, nothing, ""},
         {"for thirty", ten_days, nothing, ""},
-        {"on after a month", 0, [&] { set("PlayMusic", 0); }, "open B 64; play B; volume B 0.75; "},
-        {"stop at last", 0, [] { publish(StopSong()); }, "release B; "},
-    };
-    std::string first, second;
-    for (const auto& step : steps) {
-        const unsigned int updates = sound().updates;
-        sdl().ticks += step.later;
-        sound().take();
-        step.act();
-        audio.update();
-        if (first.empty()) {
-            first = "Songs/" + audio.songs[audio.lastSongID];
-            second = "Songs/" + audio.songs[1 - audio.lastSongID];
-        }
-        std::string calls = boost::replace_all_copy(sound().take(), first, "A");
-        EXPECT_EQ(boost::replace_all_copy(calls, second, "B"), step.calls) << step.what;
-        EXPECT_EQ(sound().updates, updates + 1) << step.what;
-    }
-    EXPECT_EQ(sound().openStreams, 0U);
+        {"on after a month", 0, [] { set("PlayMusic", 0); }, "open B 64; play B; volume B 0.75; "},
+        {"stop at last", 0, stop, "release B; "},
+    });
+}
+
+TEST_F(AudioTest, HoldsTheSongsWhileTheGameIsPaused) {
+    const auto halt = [] { pause(true); };
+    const auto goOn = [] { pause(false); };
+    expectCalls({
+        {"start", 0, start, "open A 64; play A; volume A 1; "},
+        {"pause", 60000, halt, "pause A; "},
+        {"the song would be over", 30001, nothing, ""},
+        {"and the one after it", 90001, nothing, ""},
+        {"resume", 9998, goOn, "resume A; "},
+        {"the rest of it", 30000, nothing, ""},
+        {"end", 1, nothing, "release A; open B 64; play B; volume B 1; "},
+
+        {"the first of two pauses", 30000, halt, "pause B; "},
+        {"over its end", 100000, goOn, "resume B; "},
+        {"the second", 30000, halt, "pause B; "},
+        {"told again", 100000, halt, "pause B; "},
+        {"also over its end", 100000, goOn, "resume B; "},
+        {"resumed without a pause", 10000, goOn, "resume B; "},
+        {"what is left", 20000, nothing, ""},
+        {"end of that", 1, nothing, "release B; open A 64; play A; volume A 1; "},
+
+        {"a pause with music off", 0, [&] { set("NoPlayMusic", 0), halt(); }, "pause A; "},
+        {"past the end", 90001, nothing, ""},
+        {"resume to silence", 0, goOn, "resume A; "},
+        {"waits", 90001, nothing, ""},
+        {"a pause of that", 0, halt, "pause A; "},
+        {"on again in it", 1, [] { set("PlayMusic", 0); }, ""},
+        {"the wait is over", 1, goOn, "resume A; release A; open B 64; play B; volume B 1; "},
+
+        {"a game that ends in its pause", 1000, halt, "pause B; "},
+        {"ends", 200000, stop, "release B; "},
+        {"the next game", 1000, start, "open A 64; play A; volume A 1; "},
+        {"isn't paused", 90001, nothing, "release A; open B 64; play B; volume B 1; "},
+        {"a song for a paused one", 10, [&] { halt(), start(); },
+         "pause B; release B; open A 64; play A; volume A 1; "},
+        {"of its full length", 90000, nothing, ""},
+        {"has no pause", 1, nothing, "release A; open B 64; play B; volume B 1; "},
+
+        {"near the wrap", 0, [] { sdl().ticks = near_wrap, start(); },
+         "release B; open A 64; play A; volume A 1; "},
+        {"a pause of forty days", 5000, halt, "pause A; "},
+        {"behind the wrap", 1'728'000'000, nothing, ""},
+        {"past half the clock", 1'728'000'000, nothing, ""},
+        {"over", 0, goOn, "resume A; "},
+        {"the rest behind the wrap", 85000, nothing, ""},
+        {"the last end", 1, nothing, "release A; open B 64; play B; volume B 1; "},
+        {"stop", 0, stop, "release B; "},
+    });
 }
 
 TEST_F(AudioTest, ReportsASongThatIsNotThere) {

@@ -132,7 +132,8 @@ TEST(Matrix, Calculates) {
 TEST(Box, IsNothingAtFirstAndRoundsInEveryCopy) {
     using quorva::primitives::Box;
     using Side = double Box::*;
-    for (const Side side : {&Box::top, &Box::bottom, &Box::left, &Box::right}) {
+    for (const Side side :
+         {&Box::top, &Box::bottom, &Box::left, &Box::right, &Box::near, &Box::far}) {
         Box box;
         EXPECT_EQ(box.*side, 0.0);
         box.*side = 0.1;

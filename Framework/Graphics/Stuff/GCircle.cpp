@@ -1,6 +1,7 @@
 #include "Framework/Graphics/Stuff/GCircle.h"
 
 #include "Framework/Graphics/Draw.h"
+#include "Framework/math/Elementary.h"
 #include "Framework/math/Quaternion.h"
 
 using namespace quorva;
@@ -12,7 +13,7 @@ void GCircle::render() {
     draw::begin(SHAPE_POLYGON);
     for (unsigned int i = 0; i < resolution; ++i) {
         const double angle = i * 360.0 / resolution * math::pi / 180.0;
-        draw::vertex2D(radius * std::cos(angle), radius * std::sin(angle));
+        draw::vertex2D(radius * math::cos(angle), radius * math::sin(angle));
     }
     draw::end();
     draw::enableDepthTest();
