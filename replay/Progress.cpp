@@ -1,6 +1,5 @@
 #include "replay/Progress.h"
 
-#include "Framework/Engine.h"
 #include "Framework/Timer.h"
 #include "Framework/physics/PhysicsProcessor.h"
 #include "game/FModMP3Input.h"
@@ -9,13 +8,6 @@
 namespace quorva::replay {
 
 namespace {
-
-template <class T>
-T* activeComponent() {
-    for (Component* const component : Engine::Instance().components)
-        if (auto* const found = dynamic_cast<T*>(component)) return found;
-    return nullptr;
-}
 
 constexpr int lives_at_first = 2; // spare ones
 

@@ -40,7 +40,8 @@ std::string argument(char letter, int value) {
 
 } // namespace
 
-Stage::Stage(const fs::path& source, const Setup& setup) : sandbox(source) {
+Stage::Stage(const fs::path& source, const Setup& setup)
+    : shipped(fs::absolute(source)), sandbox(source) {
     const fs::path shared = fs::read_symlink("data");
     fs::remove("data");
     fs::create_directory("data");
@@ -50,7 +51,11 @@ Stage::Stage(const fs::path& source, const Setup& setup) : sandbox(source) {
         fs::remove(name);
     writeColours(setup.colours);
     writePoints(setup.points);
-    std::ofstream("bind1.conf"); // there, but empty: the recorded keys come later
+    // There in any case: the recorded keys come later.
+    if (shipped.bindings.empty())
+        std::ofstream("bind1.conf");
+    else
+        fs::copy_file(shipped.bindings, "bind1.conf");
 }
 
 int runGame(const Setup& setup) {

@@ -2,17 +2,21 @@
 
 #include "headless/Sandbox.h"
 #include "replay/Setup.h"
+#include "replay/Shipped.h"
 
 #include <boost/filesystem/path.hpp>
 
 namespace quorva::replay {
 
 /// A folder to play a recorded game in, entered: the game's files with the recorded colours and
-/// points, and nothing of whoever watches. What the game writes goes with it.
+/// points and the shipped bindings, and nothing of whoever watches. What the game writes goes with
+/// it.
 class Stage {
 public:
     /// @param source the folder of the game's data. Throws boost::filesystem::filesystem_error.
     Stage(const boost::filesystem::path& source, const Setup& setup);
+
+    const Shipped shipped;
 
 private:
     headless::Sandbox sandbox;

@@ -31,10 +31,10 @@ const char* const usage_text =
     "usage: kov-replay record [FILE] [-- GAME OPTIONS]   play, and keep the games\n"
     "       kov-replay watch FILE [--speed N] [--from M:SS]\n"
     "                        space stops, arrows change the speed or step, Escape leaves\n"
-    "       kov-replay verify FILE...                    play again, unseen, and compare\n"
+    "       kov-replay verify [--fair] FILE...           play again, unseen, and compare\n"
     "       kov-replay film FILE OUT.mp4 [--size WxH] [--from M:SS] [--to M:SS] [--full]\n"
     "                                                    make a film, by the program ffmpeg\n"
-    "       kov-replay show FILE                         say what is in it\n"
+    "       kov-replay show FILE                         tell what is in it\n"
     "       kov-replay --help | --version\n"
     "In front of these: --data FOLDER, other game files than its own.\n";
 
@@ -137,6 +137,17 @@ int watch(const fs::path& data, const Words& words) {
     return judge(watcher, summary.start);
 }
 
+/// Of two exit codes: what is unusable, what differs, what is marked, what is well.
+int worse(int a, int b) {
+    const auto rank = [](int code) {
+        return code == exit_marked     ? 1
+               : code == exit_differs  ? 2
+               : code == exit_unusable ? 3
+                                       : code;
+    };
+    return rank(a) > rank(b) ? a : b;
+}
+
 /// The program that plays games unseen, which lies beside this one.
 ProgramEnd playUnseen(const Words& words) {
     const fs::path self = fs::read_symlink("/proc/self/exe");
@@ -146,14 +157,16 @@ ProgramEnd playUnseen(const Words& words) {
 }
 
 int verify(const fs::path& data, const Words& words) {
-    const CommandLine line(words, {});
+    const CommandLine line(words, {{"fair", false}});
     requireFiles(line, 1, line.files.size());
     int worst = 0;
     for (const std::string& file : line.files) {
-        const ProgramEnd end = playUnseen({file, data.string()});
+        Words all = {"--", file, data.string()};
+        if (line.has("fair")) all.insert(all.begin(), "--fair");
+        const ProgramEnd end = playUnseen(all);
         if (end.interrupted || end.code == exit_interrupted) return exit_interrupted;
         if (end.code < 0) complain(file + ": the game has failed");
-        worst = std::max(worst, end.code < 0 ? exit_differs : end.code);
+        worst = worse(worst, end.code < 0 ? exit_differs : end.code);
     }
     return worst;
 }
@@ -203,11 +216,14 @@ int film(const fs::path& data, const Words& words) {
     return code;
 }
 
-int show(const fs::path&, const Words& words) {
+int show(const fs::path& data, const Words& words) {
     const CommandLine line(words, {});
     requireFiles(line, 1, 1);
-    std::cout << Summary(line.files[0]).text();
-    return 0;
+    const ProgramEnd end = playUnseen({"--show", "--", line.files[0], data.string()});
+    if (end.interrupted) return exit_interrupted;
+    if (end.code >= 0) return end.code;
+    complain(line.files[0] + ": the game has failed");
+    return exit_differs;
 }
 
 const struct {

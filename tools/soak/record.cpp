@@ -61,7 +61,7 @@ int main(int argc, char* argv[]) {
     }
     const std::string path = boost::filesystem::absolute(argv[1]).string();
     const headless::Sandbox sandbox(KOV_SOURCE_DIR);
-    std::ofstream("bind1.conf"); // there, but empty: every action has its usual key
+    boost::filesystem::copy_file(KOV_SOURCE_DIR "/packaging/bind1.conf", "bind1.conf");
     makeSongs(options["--songs"]);
     const auto seed = static_cast<std::uint32_t>(options["--seed"]);
     headless::Bot bot(seed);
