@@ -3,8 +3,8 @@
 #include <getopt.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <cstdlib>
+#include <regex>
 #include <sstream>
 
 namespace quorva::replay {
@@ -61,14 +61,11 @@ std::string CommandLine::value(const std::string& option) const {
 }
 
 std::uint32_t toTime(const std::string& text) {
-    unsigned int m = 0, s = 0;
-    int length = -1;
-    if (std::sscanf(text.c_str(), "%5u:%2u%n", &m, &s, &length) != 2) {
-        m = 0;
-        std::sscanf(text.c_str(), "%6u%n", &s, &length);
-    }
-    if (length != static_cast<int>(text.size())) throw BadUsage("no time such as 1:30: " + text);
-    return (m * 60 + s) * 1000;
+    static const std::regex pattern("(?:(\\d{1,5}):)?(\\d{1,6})");
+    std::smatch parts;
+    if (!std::regex_match(text, parts, pattern)) throw BadUsage("no time such as 1:30: " + text);
+    const unsigned long m = parts[1].matched ? std::stoul(parts[1]) : 0;
+    return static_cast<std::uint32_t>((m * 60 + std::stoul(parts[2])) * 1000);
 }
 
 double toSpeed(const std::string& text, double slowest, double fastest) {

@@ -3,8 +3,8 @@
 #include <boost/filesystem.hpp>
 
 #include <algorithm>
-#include <cstdio>
 #include <ctime>
+#include <regex>
 #include <set>
 
 namespace quorva::replay {
@@ -29,9 +29,8 @@ std::vector<Kept> automaticGamesIn(const fs::path& folder) {
         Kept kept = {path, {}, fs::file_size(path, error)};
         if (!error && KeptName::parse(path.filename().string(), kept.name)) games.push_back(kept);
     }
-    std::stable_sort(games.begin(), games.end(), [](const Kept& a, const Kept& b) {
-        return a.name.date < b.name.date;
-    });
+    std::stable_sort(games.begin(), games.end(),
+                     [](const Kept& a, const Kept& b) { return a.name.date < b.name.date; });
     return games;
 }
 
@@ -69,23 +68,13 @@ KeptName KeptName::now(bool isAutomatic) {
 }
 
 bool KeptName::parse(const std::string& fileName, KeptName& name) {
-    constexpr std::size_t date_length = sizeof "2026-11-26 20.15.00" - 1;
-    constexpr std::size_t most_digits = sizeof "4294967295" - 1;
-    const std::string end = automatic + replay_ending;
-    if (fileName.size() < date_length + end.size()) return false;
-    const std::string date = fileName.substr(0, date_length);
-    const std::string rest = fileName.substr(date_length);
-    const std::string pattern = "dddd-dd-dd dd.dd.dd";
-    const auto fits = [](char c, char expected) {
-        return expected == 'd' ? c >= '0' && c <= '9' : c == expected;
-    };
-    if (!std::equal(date.begin(), date.end(), pattern.begin(), fits)) return false;
-    if (rest.compare(rest.size() - end.size(), end.size(), end) != 0) return false;
-    const std::string score = rest.substr(0, rest.size() - end.size());
-    if (score.size() < 2 || score.size() > 1 + most_digits || score[0] != ' ' ||
-        !std::all_of(score.begin() + 1, score.end(), [&](char c) { return fits(c, 'd'); }))
-        return false;
-    name = {date, static_cast<std::uint32_t>(std::stoull(score)), true};
+    static const std::regex pattern(
+        "(\\d{4}-\\d{2}-\\d{2} \\d{2}\\.\\d{2}\\.\\d{2})( \\d{1,9})? auto\\.kovreplay");
+    std::smatch parts;
+    if (!std::regex_match(fileName, parts, pattern)) return false;
+    name.date = parts[1];
+    name.score = parts[2].matched ? static_cast<std::uint32_t>(std::stoul(parts[2])) : 0;
+    name.isAutomatic = true;
     return true;
 }
 

@@ -23,7 +23,8 @@ struct KeptName {
     bool isAutomatic = false;
 
     static KeptName now(bool isAutomatic); ///< without score
-    /// @return whether it is one of those that are kept by themselves, with a score
+    /// @return whether it is one of those that are kept by themselves. A game that broke off has
+    ///         no score in its name.
     static bool parse(const std::string& fileName, KeptName& name);
 
     std::string unfinished() const; ///< the file's name, without score

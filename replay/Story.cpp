@@ -66,7 +66,8 @@ std::string inWords(const GameStory& game) {
                 counted(best->triangles, "triangle") + " at " + minutes(game.begin + best->time);
     text += "; " + counted(game.shots, "shot") + ", " + std::to_string(game.sides()) +
             " of them a side; " + counted(game.powerUps, "power-up") + "; " +
-            minutes(game.length()) + " long";
+            (game.end ? counted(game.end->deaths, "death") + "; " : "") + minutes(game.length()) +
+            " long";
     return text;
 }
 

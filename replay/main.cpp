@@ -1,9 +1,13 @@
 // Keeps games, shows them again, proves them and makes films of them: see usage_text.
 
+#include "replay/Best.h"
 #include "replay/CommandLine.h"
 #include "replay/Film.h"
 #include "replay/Interruption.h"
+#include "replay/KeptGames.h"
+#include "replay/Page.h"
 #include "replay/Recorder.h"
+#include "replay/Shipped.h"
 #include "replay/Stage.h"
 #include "replay/Summary.h"
 #include "replay/Watcher.h"
@@ -16,11 +20,12 @@
 #include "headless/GameMain.h"
 
 #include <boost/filesystem.hpp>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
-#include <ctime>
 #include <iostream>
+#include <stdexcept>
 
 using namespace quorva::replay;
 namespace fs = boost::filesystem;
@@ -35,12 +40,23 @@ const char* const usage_text =
     "       kov-replay film FILE OUT.mp4 [--size WxH] [--from M:SS] [--to M:SS] [--full]\n"
     "                                                    make a film, by the program ffmpeg\n"
     "       kov-replay show FILE                         tell what is in it\n"
+    "       kov-replay best [FOLDER] [--page FOLDER]     the ten best games, proved\n"
     "       kov-replay --help | --version\n"
     "In front of these: --data FOLDER, other game files than its own.\n";
 
-const char* const ending = ".kovreplay";
-const char* const replay_folder = "Replays";                 // where the game keeps its files
+constexpr std::size_t most_games = 10;                       // of the best
 constexpr int smallest_picture = 16, largest_picture = 8192; // pixels
+
+/// Folders that are given in front of the command.
+struct Places {
+    fs::path data = ".";          ///< of the game
+    fs::path replays = "Replays"; ///< where games are kept that have no other place
+};
+
+/// By SIGINT, SIGTERM or SIGHUP.
+struct Interrupted : std::runtime_error {
+    Interrupted() : std::runtime_error("interrupted") {}
+};
 
 int complain(const std::string& what) {
     std::cerr << "kov-replay: " << quorva::utility::printable(what) << '\n';
@@ -51,28 +67,20 @@ void requireFiles(const CommandLine& line, std::size_t least, std::size_t most) 
     if (line.files.size() < least || line.files.size() > most) throw BadUsage("");
 }
 
-std::string stamp() {
-    const std::time_t now = std::time(nullptr);
-    char text[sizeof "-2147483648-12-31 23.59.59"];
-    std::strftime(text, sizeof text, "%Y-%m-%d %H.%M.%S", std::localtime(&now));
-    return text;
-}
-
-/// @param path where the file is now; it gets its score into the name if that wasn't given
-void nameFile(const fs::path& path, const Recorder& recorder, bool nameGiven) {
+/// Gives the file its score, or removes it if there is nothing in it.
+/// @return where it is now; empty if nowhere
+fs::path finishFile(const fs::path& path, const Recorder& recorder, KeptName* name) {
     boost::system::error_code ignored; // it keeps the name that it has
     if (recorder.games == 0) {
         fs::remove(path, ignored);
-        if (!nameGiven) fs::remove(path.parent_path(), ignored); // unless there are others
-        return;
+        if (name != nullptr) fs::remove(path.parent_path(), ignored); // unless there are others
+        return {};
     }
-    fs::path name = path;
-    if (!nameGiven) {
-        name = path.parent_path() /
-               (path.stem().string() + ' ' + std::to_string(recorder.bestScore) + ending);
-        fs::rename(path, name, ignored);
-    }
-    std::cout << "kept in " << name.string() << '\n';
+    if (name == nullptr) return path;
+    name->score = recorder.bestScore;
+    const fs::path finished = path.parent_path() / name->finished();
+    fs::rename(path, finished, ignored);
+    return fs::exists(finished) ? finished : path;
 }
 
 void requireDisplay() {
@@ -80,27 +88,39 @@ void requireDisplay() {
     if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
 }
 
-int record(const fs::path&, const Words& words) {
+/// Plays, and keeps it in a file.
+/// @param name by which it is kept; null if the path is the player's choice
+int record(const fs::path& path, KeptName* name, const Words& gameOptions, bool quiet) {
+    Recorder recorder(path.string());
+    insert(&recorder);
+    const int code = quorva::headless::runGameMain(gameOptions);
+    recorder.finish();
+    insert(nullptr);
+    const fs::path kept = finishFile(path, recorder, name);
+    if (name != nullptr && name->isAutomatic) tidy(path.parent_path());
+    if (!quiet && fs::exists(kept)) std::cout << "kept in " << kept.string() << '\n';
+    return code;
+}
+
+int record(const Places& places, const Words& words) {
     const auto dashes = std::find(words.begin(), words.end(), "--");
-    const CommandLine line(Words(words.begin(), dashes), {});
-    requireFiles(line, 0, 1);
+    const CommandLine line(Words(words.begin(), dashes), {{"auto", false}});
+    const bool isAutomatic = line.has("auto");
+    requireFiles(line, 0, isAutomatic ? 0 : 1);
     requireDisplay();
-    const bool named = !line.files.empty();
-    const fs::path path = fs::absolute(named ? fs::path(line.files[0])
-                                             : fs::path(replay_folder) / (stamp() + ending));
+    const Words gameOptions = dashes == words.end() ? Words() : Words(dashes + 1, words.end());
+    const bool isNamed = !line.files.empty();
+    KeptName name = KeptName::now(isAutomatic);
+    const fs::path path =
+        fs::absolute(isNamed ? fs::path(line.files[0]) : places.replays / name.unfinished());
     boost::system::error_code ignored; // the recorder says what is wrong
-    if (!named) fs::create_directories(path.parent_path(), ignored);
+    if (!isNamed) fs::create_directories(path.parent_path(), ignored);
     try {
-        Recorder recorder(path.string());
-        insert(&recorder);
-        const int code = quorva::headless::runGameMain(
-            dashes == words.end() ? Words() : Words(dashes + 1, words.end()));
-        recorder.finish();
-        insert(nullptr);
-        nameFile(path, recorder, named);
-        return code;
+        return record(path, isNamed ? nullptr : &name, gameOptions,
+                      isAutomatic && isatty(STDOUT_FILENO) == 0);
     } catch (const std::runtime_error& e) {
-        return complain("can't write " + path.string() + ": " + e.what());
+        complain("can't write " + path.string() + ": " + e.what());
+        return isAutomatic ? quorva::headless::runGameMain(gameOptions) : exit_unusable;
     }
 }
 
@@ -118,7 +138,7 @@ int judge(Playback& playback, std::uint32_t start) {
     return exit_interrupted;
 }
 
-int watch(const fs::path& data, const Words& words) {
+int watch(const Places& places, const Words& words) {
     const CommandLine line(words, {{"speed", true}, {"from", true}});
     requireFiles(line, 1, 1);
     const std::string speed = line.value("speed"), from = line.value("from");
@@ -128,9 +148,9 @@ int watch(const fs::path& data, const Words& words) {
         summary.start, summary.length, from.empty() ? 0 : toTime(from),
         speed.empty() ? 1.0 : toSpeed(speed, Watcher::slowest, Watcher::fastest)};
     requireDisplay();
-    const fs::path songs = fs::absolute(data) / "Songs";
+    const fs::path songs = fs::absolute(places.data) / "Songs";
     Script script(path);
-    const Stage stage(data, script.setup);
+    const Stage stage(places.data, script.setup);
     Watcher watcher(script, songs, times);
     insert(&watcher);
     runGame(script.setup);
@@ -148,20 +168,23 @@ int worse(int a, int b) {
     return rank(a) > rank(b) ? a : b;
 }
 
-/// The program that plays games unseen, which lies beside this one.
+/// Plays games unseen; lies beside this one.
+fs::path verifyProgram() {
+    return fs::read_symlink("/proc/self/exe").parent_path() / "kov-replay-verify";
+}
+
 ProgramEnd playUnseen(const Words& words) {
-    const fs::path self = fs::read_symlink("/proc/self/exe");
-    Words all = {(self.parent_path() / "kov-replay-verify").string()};
+    Words all = {verifyProgram().string()};
     all.insert(all.end(), words.begin(), words.end());
     return runProgram(all);
 }
 
-int verify(const fs::path& data, const Words& words) {
+int verify(const Places& places, const Words& words) {
     const CommandLine line(words, {{"fair", false}});
     requireFiles(line, 1, line.files.size());
     int worst = 0;
     for (const std::string& file : line.files) {
-        Words all = {"--", file, data.string()};
+        Words all = {"--", file, places.data.string()};
         if (line.has("fair")) all.insert(all.begin(), "--fair");
         const ProgramEnd end = playUnseen(all);
         if (end.interrupted || end.code == exit_interrupted) return exit_interrupted;
@@ -196,7 +219,7 @@ Film::Format toFormat(const CommandLine& line, const Summary& summary) {
     return format;
 }
 
-int film(const fs::path& data, const Words& words) {
+int film(const Places& places, const Words& words) {
     const CommandLine line(words, {{"size", true}, {"from", true}, {"to", true}, {"full", false}});
     requireFiles(line, 2, 2);
     const std::string path = fs::absolute(line.files[0]).string();
@@ -205,9 +228,9 @@ int film(const fs::path& data, const Words& words) {
     const Film::Format format = toFormat(line, summary);
     Film::requireTarget(out);
     requireDisplay();
-    const fs::path songs = fs::absolute(data) / "Songs";
+    const fs::path songs = fs::absolute(places.data) / "Songs";
     Script script(path);
-    const Stage stage(data, script.setup);
+    const Stage stage(places.data, script.setup);
     Film film(script, songs, format);
     insert(&film);
     runGame(script.setup);
@@ -216,21 +239,71 @@ int film(const fs::path& data, const Words& words) {
     return code;
 }
 
-int show(const fs::path& data, const Words& words) {
+int show(const Places& places, const Words& words) {
     const CommandLine line(words, {});
     requireFiles(line, 1, 1);
-    const ProgramEnd end = playUnseen({"--show", "--", line.files[0], data.string()});
+    const ProgramEnd end = playUnseen({"--show", "--", line.files[0], places.data.string()});
     if (end.interrupted) return exit_interrupted;
     if (end.code >= 0) return end.code;
     complain(line.files[0] + ": the game has failed");
     return exit_differs;
 }
 
+/// By another program, which leaves a report.
+bool prove(const Places& places, const fs::path& file, const fs::path& report) {
+    const ProgramEnd end =
+        playUnseen({"--report", report.string(), "--", file.string(), places.data.string()});
+    if (end.interrupted || end.code == exit_interrupted) throw Interrupted();
+    if (end.code < 0) complain(file.string() + ": the game has failed");
+    return end.code == 0 || end.code == exit_differs;
+}
+
+std::vector<RankedGame> provenGames(const Places& places, const fs::path& folder) {
+    const fs::path data = fs::absolute(places.data);
+    Proofs proofs(
+        folder,
+        {verifyProgram(), data / "data/Colour.kov", data / "data/Point.kov",
+         Shipped(data).bindings},
+        [&](const fs::path& file, const fs::path& report) { return prove(places, file, report); });
+    std::vector<RankedGame> games;
+    for (const fs::path& file : replaysIn(folder)) {
+        const auto report = proofs.of(file);
+        if (!report) continue;
+        if (!report->verdict.empty()) {
+            complain(file.filename().string() + ": " + report->verdict);
+            continue;
+        }
+        for (const Report::Game& game : report->games)
+            games.push_back({file, report->date, game});
+    }
+    proofs.forgetOthers();
+    return games;
+}
+
+int best(const Places& places, const Words& words) {
+    const CommandLine line(words, {{"page", true}});
+    requireFiles(line, 0, 1);
+    const fs::path folder =
+        fs::absolute(line.files.empty() ? places.replays : fs::path(line.files[0]));
+    if (!line.files.empty() && !fs::is_directory(folder))
+        throw std::runtime_error("no such folder: " + folder.string());
+    const std::vector<RankedGame> games = best(provenGames(places, folder), most_games);
+    if (games.empty())
+        std::cout << "no games are kept in " << folder.string() << '\n';
+    else
+        std::cout << inWords(games);
+    if (!line.has("page")) return 0;
+    writePage(line.value("page"), games);
+    std::cout << "page in " << (fs::absolute(line.value("page")) / "index.html").string() << '\n';
+    return 0;
+}
+
 const struct {
     const char* name;
-    int (*run)(const fs::path& data, const Words& words);
+    int (*run)(const Places& places, const Words& words);
 } commands[] = {
-    {"record", record}, {"watch", watch}, {"verify", verify}, {"film", film}, {"show", show},
+    {"record", record}, {"watch", watch}, {"verify", verify},
+    {"film", film},     {"show", show},   {"best", best},
 };
 
 int sayVersion() {
@@ -240,8 +313,9 @@ int sayVersion() {
 }
 
 int run(const Words& words) {
-    const CommandLine line(words, {{"data", true, true}, {"help", false}, {"version", false}},
-                           CommandLine::options_first);
+    const CommandLine line(
+        words, {{"data", true, true}, {"replays", true, true}, {"help", false}, {"version", false}},
+        CommandLine::options_first);
     if (line.has("help")) {
         std::cout << usage_text;
         return 0;
@@ -249,10 +323,12 @@ int run(const Words& words) {
     if (line.has("version")) return sayVersion();
     if (line.files.empty()) throw BadUsage("");
     // The launcher says where the game is installed; what the user says comes behind it.
-    const std::string data = line.has("data") ? line.value("data") : ".";
+    Places places;
+    if (line.has("data")) places.data = line.value("data");
+    if (line.has("replays")) places.replays = line.value("replays");
     for (const auto& command : commands)
         if (line.files[0] == command.name)
-            return command.run(data, Words(line.files.begin() + 1, line.files.end()));
+            return command.run(places, Words(line.files.begin() + 1, line.files.end()));
     throw BadUsage("no such command: " + line.files[0]);
 }
 
@@ -265,6 +341,9 @@ int main(int argc, char* argv[]) {
         if (e.what()[0] != '\0') complain(e.what());
         std::cerr << usage_text;
         return exit_unusable;
+    } catch (const Interrupted& e) {
+        complain(e.what());
+        return exit_interrupted;
     } catch (const std::exception& e) {
         return complain(e.what());
     }
