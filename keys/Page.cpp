@@ -15,7 +15,7 @@ constexpr unsigned short word_layer = 1, drawing_layer = 2;
 constexpr double usual_half_width = 20.0; // of the view, world units
 constexpr double title_y = 12.6, action_y = 10.0, prompt_y = 8.3, drawing_y = 1.6, note_y = -11.4,
                  hint_y = -13.4;
-constexpr double action_scale = 1.75, prompt_scale = 0.9, row_scale = 0.75, hint_scale = 0.75;
+constexpr double action_scale = 1.75, prompt_scale = 0.75, row_scale = 0.75, hint_scale = 0.62;
 constexpr double label_scale = 0.8, label_drop = 0.22;
 constexpr float dimness = 0.4F; // alpha
 
