@@ -21,7 +21,7 @@ step() { # name, command...
 }
 
 check_format() {
-    find Framework game headless platform replay tests tools fuzz bench \( -name '*.cpp' -o -name '*.h' \) \
+    find Framework game headless keys platform replay tests tools fuzz bench \( -name '*.cpp' -o -name '*.h' \) \
         -print0 2>/dev/null | xargs -0 clang-format --dry-run --Werror
 }
 

@@ -60,7 +60,8 @@ Outcome replaceFile(const std::string& text, const Bindings& changed) {
         return {false, "Can't write " + old_file_name + ". Your keys are as they were."};
     if (!utility::replaceContents(input::bind_file_name, rebind(text, changed)))
         return {false, "Can't write " + input::bind_file_name + ". Your keys are as they were."};
-    return {true, input::bind_file_name + " is written. The old file is " + old_file_name + "."};
+    return {true, input::bind_file_name + " is written, for the next start. The old file is " +
+                      old_file_name + "."};
 }
 
 } // namespace
@@ -85,7 +86,7 @@ Outcome save(const Bindings& before, const Bindings& after) {
     std::error_code ignored;
     if (!std::filesystem::exists(input::bind_file_name, ignored)) {
         if (utility::replaceContents(input::bind_file_name, rebind(head, after)))
-            return {true, input::bind_file_name + " is written."};
+            return {true, input::bind_file_name + " is written, for the next start."};
         return {false, "Can't write " + input::bind_file_name + ". Your keys are as they were."};
     }
     std::ifstream file = utility::openForReading(input::bind_file_name, utility::largest_text_file);

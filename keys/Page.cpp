@@ -51,8 +51,7 @@ std::string actionOf(const Questions& questions) {
 
 std::string buttonThatSaves(const Questions& questions) {
     if (questions.device() == Device::keyboard) return "";
-    const input::InputKey& select = questions.bindings()[questions.bindings().size() - 2];
-    return ", and so does " + wordOf(select, Device::pad);
+    return ", and so does " + wordOf(questions.bindingOf("Menu Select"), Device::pad);
 }
 
 std::string promptOf(const Questions& questions) {
@@ -66,7 +65,7 @@ std::string promptOf(const Questions& questions) {
     case Questions::Step::confirm:
         return "Return saves what you see" + buttonThatSaves(questions) + ".";
     default:
-        return questions.failed() ? "" : "It holds from the next game on.";
+        return "";
     }
 }
 

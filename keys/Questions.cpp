@@ -79,58 +79,67 @@ unsigned short& Questions::valueOf(std::size_t action) {
 }
 
 void Questions::pressKey(int symbol) {
+    if (currentStep == Step::left) return; // of one pass there may be more
     ++changeCount;
-    if (currentStep == Step::told) {
+    if (currentStep == Step::told)
         currentStep = Step::left;
-    } else if (isControl(symbol)) {
+    else if (isControl(symbol))
         control(symbol);
-    } else if (currentStep == Step::choose) {
+    else if (currentStep == Step::choose)
         begin(Device::keyboard);
-    } else if (currentStep == Step::ask) {
-        if (chosen == Device::pad) return refuse("This is about the pad: a button, please.");
-        const auto key = static_cast<input::QuorvaKey>(symbol);
-        const std::string word = input::wordFromKey(key);
-        if (word.empty()) return refuse("The game doesn't know this key. Another key, please.");
-        answer(key, word);
-    }
+    else if (currentStep == Step::ask)
+        answerByKey(static_cast<input::QuorvaKey>(symbol));
 }
 
 void Questions::pressButton(int button) {
+    if (currentStep == Step::left) return; // of one pass there may be more
     ++changeCount;
-    if (currentStep == Step::told) {
+    if (currentStep == Step::told)
         currentStep = Step::left;
-    } else if (currentStep == Step::choose) {
+    else if (currentStep == Step::choose)
         begin(Device::pad);
-    } else if (currentStep == Step::ask) {
-        if (chosen == Device::keyboard) return refuse("This is about the keyboard: a key, please.");
-        const auto value = static_cast<input::QuorvaJKey>(button);
-        const std::string word = input::wordFromJsbutton(value);
-        if (word.empty())
-            return refuse("The game knows the buttons 1 to 16. Another button, please.");
-        answer(value, word);
-    } else if (currentStep == Step::confirm && chosen == Device::pad) {
-        if (isBoundTo("Menu Select", button))
-            control(SDLK_RETURN);
-        else if (isBoundTo("Menu Escape", button))
-            control(SDLK_ESCAPE);
-    }
+    else if (currentStep == Step::ask)
+        answerByButton(static_cast<input::QuorvaJKey>(button));
+    else if (chosen == Device::pad && button == bindingOf("Menu Select").jsButton)
+        control(SDLK_RETURN);
+    else if (chosen == Device::pad && button == bindingOf("Menu Escape").jsButton)
+        control(SDLK_ESCAPE);
 }
 
-bool Questions::isBoundTo(const char* action, int button) const {
-    return std::any_of(answers.begin(), answers.end(), [&](const input::InputKey& binding) {
-        return binding.name == action && binding.jsButton == button;
-    });
+void Questions::answerByKey(input::QuorvaKey key) {
+    const std::string word = input::wordFromKey(key);
+    if (chosen == Device::pad)
+        noted = "This is about the pad: a button, please.";
+    else if (word.empty())
+        noted = "The game doesn't know this key. Another key, please.";
+    else
+        answer(key, word);
+}
+
+void Questions::answerByButton(input::QuorvaJKey button) {
+    const std::string word = input::wordFromJsbutton(button);
+    if (chosen == Device::keyboard)
+        noted = "This is about the keyboard: a key, please.";
+    else if (word.empty())
+        noted = "The game knows the buttons 1 to 16. Another button, please.";
+    else
+        answer(button, word);
+}
+
+const input::InputKey& Questions::bindingOf(const std::string& action) const {
+    return *std::find_if(answers.begin(), answers.end(),
+                         [&](const input::InputKey& binding) { return binding.name == action; });
 }
 
 void Questions::pushStick() {
     if (currentStep != Step::ask || chosen != Device::pad) return;
     ++changeCount;
-    refuse("The stick moves you without being bound: a button, please.");
+    noted = "The stick moves you without being bound: a button, please.";
 }
 
 /// Return and Escape can be given to the actions in the menus alone: everywhere else they lead
 /// through the questions.
-bool Questions::isControl(int symbol) {
+bool Questions::isControl(int symbol) const {
     const bool isKeyAsked = currentStep == Step::ask && chosen == Device::keyboard;
     switch (symbol) {
     case SDLK_RETURN:
@@ -185,10 +194,6 @@ void Questions::finish() {
     currentStep = Step::told;
 }
 
-void Questions::refuse(const std::string& why) {
-    noted = why;
-}
-
 bool Questions::clash(std::size_t one, std::size_t other) const {
     return one != other && (momentsOf(one, chosen) & momentsOf(other, chosen)) != 0;
 }
@@ -210,8 +215,10 @@ bool Questions::canTakeOver(std::size_t action) const {
 void Questions::answer(unsigned short value, const std::string& word) {
     noted.clear();
     if (value == valueOf(current)) return goOn();
-    if (!canHave(current, value))
-        return refuse(word + " is for guns and the pause: in menus, every key would do the same.");
+    if (!canHave(current, value)) {
+        noted = word + " is for guns and the pause: in menus, every key would do the same.";
+        return;
+    }
     if (!trade(value, word)) return;
     valueOf(current) = value;
     goOn();
@@ -225,7 +232,7 @@ bool Questions::trade(unsigned short value, const std::string& word) {
     for (std::size_t i = 0; i < answers.size(); ++i) {
         if (!clash(i, current) || valueOf(i) != value) continue;
         if (i < current || !canTakeOver(i)) {
-            refuse(word + " is " + answers[i].name + " already." + another(chosen));
+            noted = word + " is " + answers[i].name + " already." + another(chosen);
             return false;
         }
         traders.push_back(i);

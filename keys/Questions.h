@@ -25,7 +25,8 @@ public:
     };
     using Save = std::function<Outcome(const Bindings& before, const Bindings& after)>;
 
-    /// @param hasPad else there is nothing to choose
+    /// @param bindings of all actions of the game
+    /// @param hasPad   else there is nothing to choose
     Questions(const std::vector<std::unique_ptr<input::InputKey>>& bindings, bool hasPad,
               Save save);
 
@@ -37,6 +38,7 @@ public:
     Device device() const { return chosen; }
     /// In the order of asking. On a pad, the directions in front are not asked for.
     const Bindings& bindings() const { return answers; }
+    const input::InputKey& bindingOf(const std::string& action) const;
     /// The binding asked for; null while none is.
     const input::InputKey* asked() const;
     std::size_t number() const { return current - first() + 1; } ///< of the question, from 1
@@ -48,21 +50,21 @@ public:
 
 private:
     std::size_t first() const;
-    bool isControl(int symbol);
+    bool isControl(int symbol) const;
     void control(int symbol);
+    void answerByKey(input::QuorvaKey key);
+    void answerByButton(input::QuorvaJKey button);
     void answer(unsigned short value, const std::string& word);
     bool trade(unsigned short value, const std::string& word);
     bool clash(std::size_t one, std::size_t other) const;
     bool canHave(std::size_t action, unsigned short value) const;
     bool canTakeOver(std::size_t action) const;
-    bool isBoundTo(const char* action, int button) const;
     unsigned short valueOf(std::size_t action) const;
     unsigned short& valueOf(std::size_t action);
     void begin(Device device);
     void goOn();
     void goBack();
     void finish();
-    void refuse(const std::string& why);
 
     const Bindings before;
     Bindings answers;

@@ -19,7 +19,7 @@ namespace {
 
 const char* const usage_text =
     "usage: kov-keys   asks for keys, or for the buttons of a pad, and writes bind1.conf\n"
-    "The current folder is the game's. Its settings in game.conf hold for the window.\n";
+    "       kov-keys --help | --version\n";
 constexpr int exit_unusable = 2;
 
 /// @return the exit code, if that is all that was asked for; else -1

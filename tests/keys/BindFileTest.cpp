@@ -87,7 +87,8 @@ TEST_F(BindFileTest, SetsTheOldFileAside) {
     EXPECT_EQ(contentsOf("bind1.conf.bak"), "older");
     const Outcome saved = save(before, after);
     EXPECT_TRUE(saved.good);
-    EXPECT_EQ(saved.text, "bind1.conf is written. The old file is bind1.conf.bak.");
+    EXPECT_EQ(saved.text,
+              "bind1.conf is written, for the next start. The old file is bind1.conf.bak.");
     EXPECT_EQ(contentsOf("bind1.conf"), "# mine\nFire Up, NUM8, JOY4\nnot a binding\n");
     EXPECT_EQ(contentsOf("bind1.conf.bak"), old);
 
@@ -98,7 +99,7 @@ TEST_F(BindFileTest, SetsTheOldFileAside) {
     EXPECT_EQ(contentsOf("shared.conf"), "# mine\nFire Up, W, JOY4\nnot a binding\n");
 
     std::filesystem::remove("bind1.conf");
-    EXPECT_EQ(save(before, after).text, "bind1.conf is written.");
+    EXPECT_EQ(save(before, after).text, "bind1.conf is written, for the next start.");
     EXPECT_EQ(inForce("Up"), "273 15");
     EXPECT_EQ(inForce("Fire Up"), "264 3");
 }

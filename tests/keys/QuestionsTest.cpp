@@ -121,7 +121,7 @@ TEST_F(QuestionsTest, AsksForEachKeyAndWritesTheAnswers) {
     EXPECT_EQ(contentsOf("bind1.conf"), shipped) << "nothing is written before";
     keys({SDLK_BACKSPACE, SDLK_RETURN, SDLK_RETURN});
     EXPECT_EQ(asked(), "Done");
-    EXPECT_EQ(note(), "bind1.conf is written. The old file is bind1.conf.bak.");
+    EXPECT_EQ(note(), "bind1.conf is written, for the next start. The old file is bind1.conf.bak.");
     EXPECT_EQ(contentsOf("bind1.conf"),
               "Up, I\nDown, K\nLeft, A\nRight, L\nFire Up, W, JOY4\nFire Down, D, JOY1\n"
               "Fire Left, LSHIFT, JOY3\nFire Right, S, JOY2\nGame Pause, TAB, JOY8\n"
@@ -188,6 +188,15 @@ TEST_F(QuestionsTest, LeavesAllAsItWas) {
         {"back at the choice", true,
          [] {
              keys({SDLK_x, SDLK_i, SDLK_BACKSPACE, SDLK_BACKSPACE, SDLK_BACKSPACE, SDLK_ESCAPE});
+         }},
+        {"more in the same pass", true,
+         [] {
+             buttons({0});
+             for (const int key : {SDLK_RETURN, SDLK_ESCAPE, SDLK_RETURN, SDLK_RETURN, SDLK_RETURN,
+                                   SDLK_RETURN, SDLK_RETURN, SDLK_RETURN, SDLK_RETURN})
+                 standins::pushKey(key, true);
+             standins::pushButton(2, true);
+             pass();
          }},
         {"the window", false, [] { keys({SDLK_i}), standins::pushQuit(), pass(); }},
         {"at the end, by pad", true,
