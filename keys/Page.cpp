@@ -5,6 +5,8 @@
 #include "Framework/Managers/ColourManager.h"
 #include "Framework/Managers/FontManager.h"
 
+#include <SDL_keysym.h>
+
 #include <algorithm>
 
 namespace quorva::keys {
@@ -30,7 +32,7 @@ constexpr double pair_y = -1.0, keyboard_x = -9.4, keyboard_size = 0.52, pad_x =
 
 std::string titleOf(const Questions& questions) {
     if (questions.step() == Questions::Step::choose) return "Keys and buttons";
-    const std::string device = questions.device() == Device::keyboard ? "Keyboard" : "Pad";
+    std::string device = questions.device() == Device::keyboard ? "Keyboard" : "Pad";
     if (questions.asked() == nullptr) return device;
     return device + "   " + std::to_string(questions.number()) + " of " +
            std::to_string(questions.count());
@@ -49,9 +51,10 @@ std::string actionOf(const Questions& questions) {
     }
 }
 
-std::string buttonThatSaves(const Questions& questions) {
+std::string buttonsAtTheEnd(const Questions& questions) {
     if (questions.device() == Device::keyboard) return "";
-    return ", and so does " + wordOf(questions.bindingOf("Menu Select"), Device::pad);
+    return wordOf(questions.bindingOf("Menu Select"), Device::pad) + " saves it, " +
+           wordOf(questions.bindingOf("Menu Escape"), Device::pad) + " leaves all as it was.";
 }
 
 std::string promptOf(const Questions& questions) {
@@ -63,28 +66,27 @@ std::string promptOf(const Questions& questions) {
                (questions.device() == Device::keyboard ? "key" : "button") + ". It is " +
                wordOf(*questions.asked(), questions.device()) + " now.";
     case Questions::Step::confirm:
-        return "Return saves what you see" + buttonThatSaves(questions) + ".";
+        return buttonsAtTheEnd(questions);
     default:
         return "";
     }
 }
 
+/// What the keys do that lead through the questions just now.
 std::string hintOf(const Questions& questions) {
-    const std::string keep = "Return keeps it", back = "Backspace goes back",
-                      leave = "Escape leaves all as it was", space = "      ";
-    const bool isKeyAsked = questions.asked() != nullptr && questions.device() == Device::keyboard;
-    switch (questions.step()) {
-    case Questions::Step::choose:
-        return leave;
-    case Questions::Step::ask:
-        if (isKeyAsked && questions.asked()->name == "Menu Select") return back + space + leave;
-        if (isKeyAsked && questions.asked()->name == "Menu Escape") return keep + space + back;
-        return keep + space + back + space + leave;
-    case Questions::Step::confirm:
-        return back + space + leave;
-    default:
-        return "Any key leaves";
-    }
+    if (questions.step() == Questions::Step::told) return "Any key leaves";
+    const bool isEnd = questions.step() == Questions::Step::confirm;
+    const struct {
+        int symbol;
+        const char* text;
+    } ways[] = {{SDLK_RETURN, isEnd ? "Return saves it" : "Return keeps it"},
+                {SDLK_BACKSPACE, "Backspace goes back"},
+                {SDLK_ESCAPE, "Escape leaves all as it was"}};
+    std::string hint;
+    for (const auto& way : ways)
+        if (questions.isControl(way.symbol))
+            hint += (hint.empty() ? "" : "      ") + std::string(way.text);
+    return hint;
 }
 
 /// The character of a key, if it has one, also on the number pad: "NUM7" is a word of the files.
@@ -192,9 +194,10 @@ void Page::showRows() {
         const bool isShown = questions.step() != Questions::Step::choose && i >= skipped;
         rows[i].action->active = rows[i].word->active = isShown;
         if (!isShown) continue;
-        const auto column = static_cast<double>((i - skipped) / rows_in_column);
-        const auto line = static_cast<double>((i - skipped) % rows_in_column);
-        const double x = left + column * column_width, y = row_top - line * row_height;
+        const std::size_t column = (i - skipped) / rows_in_column;
+        const std::size_t line = (i - skipped) % rows_in_column;
+        const double x = left + static_cast<double>(column) * column_width;
+        const double y = row_top - static_cast<double>(line) * row_height;
         const bool isAsked = questions.asked() == &binding;
         rows[i].action->position = math::Point(fit * x, y, graphics::word_depth);
         rows[i].action->setColour1(isAsked ? wordOnColour : wordOffColour);

@@ -34,6 +34,9 @@ public:
     void pressButton(int button); ///< of a pad, from 0
     void pushStick();             ///< of a pad, which is no answer
 
+    /// Whether the key leads through the questions now, and is no answer.
+    bool isControl(int symbol) const;
+
     Step step() const { return currentStep; }
     Device device() const { return chosen; }
     /// In the order of asking. On a pad, the directions in front are not asked for.
@@ -50,7 +53,6 @@ public:
 
 private:
     std::size_t first() const;
-    bool isControl(int symbol) const;
     void control(int symbol);
     void answerByKey(input::QuorvaKey key);
     void answerByButton(input::QuorvaJKey button);

@@ -51,14 +51,8 @@ void setUp() {
     mapActions();
 }
 
-} // namespace
-
-int main(int argc, char* argv[]) {
-    introduceGame();
-    GameInfo::Instance().title = "KOV Keys";
-    const int code = answerOptions(argc, argv);
-    if (code >= 0) return code;
-
+/// @return the exit code
+int ask() {
     endOnSignals();
     setUp();
     keys::Program program;
@@ -67,4 +61,18 @@ int main(int argc, char* argv[]) {
     if (!questions.saved().empty())
         (questions.failed() ? std::cerr : std::cout) << "kov-keys: " << questions.saved() << '\n';
     return questions.failed() ? EXIT_FAILURE : EXIT_SUCCESS;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    try {
+        introduceGame();
+        GameInfo::Instance().title = "KOV Keys";
+        const int code = answerOptions(argc, argv);
+        return code >= 0 ? code : ask();
+    } catch (const std::exception& e) {
+        std::cerr << "kov-keys: " << e.what() << '\n';
+        return EXIT_FAILURE;
+    }
 }

@@ -76,6 +76,7 @@ protected:
         }
     }
     std::string asked() const { return program->page->actionWord->word; }
+    std::string hint() const { return program->page->hintWord->word; }
     std::string note() const { return program->page->noteWord->word; }
     std::string shown(std::size_t row) const { return program->page->rows[row].word->word; }
 
@@ -118,9 +119,13 @@ TEST_F(QuestionsTest, AsksForEachKeyAndWritesTheAnswers) {
         EXPECT_EQ(note(), step.note) << step.asked << ", " << step.key;
     }
     EXPECT_EQ(asked(), "Save?");
+    EXPECT_EQ(hint(), "Return saves it      Backspace goes back      Escape leaves all as it was");
     EXPECT_EQ(contentsOf("bind1.conf"), shipped) << "nothing is written before";
-    keys({SDLK_BACKSPACE, SDLK_RETURN, SDLK_RETURN});
+    keys({SDLK_BACKSPACE});
+    EXPECT_EQ(hint(), "Return keeps it      Backspace goes back") << "Escape is the answer here";
+    keys({SDLK_RETURN, SDLK_RETURN});
     EXPECT_EQ(asked(), "Done");
+    EXPECT_EQ(hint(), "Any key leaves");
     EXPECT_EQ(note(), "bind1.conf is written, for the next start. The old file is bind1.conf.bak.");
     EXPECT_EQ(contentsOf("bind1.conf"),
               "Up, I\nDown, K\nLeft, A\nRight, L\nFire Up, W, JOY4\nFire Down, D, JOY1\n"
@@ -162,7 +167,7 @@ TEST_F(QuestionsTest, AsksForTheButtonsOfAPad) {
         buttons({step.button});
         EXPECT_EQ(note(), step.note) << step.asked << ", " << step.button;
     }
-    EXPECT_EQ(program->page->promptWord->word, "Return saves what you see, and so does JOY5.");
+    EXPECT_EQ(program->page->promptWord->word, "JOY5 saves it, JOY9 leaves all as it was.");
     buttons({0, 4});
     EXPECT_EQ(asked(), "Done");
     EXPECT_EQ(contentsOf("bind1.conf"),

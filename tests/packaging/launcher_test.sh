@@ -190,7 +190,7 @@ rm "$bin/kov-replay"
 
 # By a third name it asks for the keys of that folder, and does so nowhere else.
 cp "$programs/kov" "$programs/kov-keys" && ln -s kov "$bin/kov-keys"
-keys() { "$bin/kov-keys" "$@" >"$root/out" 2>&1 </dev/null; }
+keys() { "$bin/kov-keys" >"$root/out" 2>&1 </dev/null; }
 ROUND='pwd; echo "Up, K" >bind1.conf' keys
 expect "keys, where" "$home"
 holds "keys" "$home/bind1.conf" "Up, K"
