@@ -171,12 +171,16 @@ void Page::showDrawings() {
     const bool isPad = questions.device() == Device::pad;
     place(*keyboard, both || !isPad, both ? keyboard_x : 0.0, both ? keyboard_size : 1.0);
     place(*pad, both || isPad, both ? pad_x : 0.0, both ? pad_size : 1.0);
+    showLabels(!both && !isPad);
+}
+
+void Page::showLabels(bool active) {
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const KeyboardDrawing::Key& key = KeyboardDrawing::keys()[i];
         const double x = (key.box.left + key.box.right) / 2.0;
         const double y = (key.box.top + key.box.bottom) / 2.0 - label_drop;
         const Part part = keyboard->partOf(key);
-        labels[i]->active = !both && !isPad;
+        labels[i]->active = active;
         labels[i]->position = math::Point(fit * x, drawing_y + fit * y, graphics::word_depth);
         labels[i]->setScale(fit * label_scale);
         labels[i]->setColour1(part == Part::asked   ? wordOnColour

@@ -33,6 +33,7 @@ private:
     void addLabels();
     void place(Drawing& drawing, bool active, double x, double size);
     void showDrawings();
+    void showLabels(bool active);
     void showRows();
     void showWords();
 

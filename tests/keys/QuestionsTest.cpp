@@ -102,7 +102,7 @@ TEST_F(QuestionsTest, AsksForEachKeyAndWritesTheAnswers) {
         {SDLK_l, "Right", ""},
         {SDLK_w, "Fire Up", ""},
         {SDLK_d, "Fire Down", "D was Fire Right, which has S now."},
-        {SDLK_ESCAPE + 1000, "Fire Left", "The game doesn't know this key. Another key, please."},
+        {SDLK_WORLD_95, "Fire Left", "The game doesn't know this key. Another key, please."},
         {SDLK_LSHIFT, "Fire Left", ""},
         {SDLK_RETURN, "Fire Right", ""},
         {SDLK_TAB, "Game Pause", ""},
