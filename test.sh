@@ -25,7 +25,7 @@ step() { # name, command...
 }
 
 check_format() {
-    find Framework game headless packaging platform replay tests tools fuzz bench \
+    find Framework game headless keys packaging platform replay tests tools fuzz bench \
         \( -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null | xargs -0 clang-format --dry-run --Werror
 }
 
