@@ -1,8 +1,8 @@
 #!/bin/sh
 # In a terminal and without a working display, the programs say what is wrong and leave the terminal
-# as it was: no escape sequence goes there. Usage: terminal_test.sh KOV KOV_REPLAY SOURCES
+# as it was: no escape sequence goes there. Usage: terminal_test.sh KOV KOV_KEYS KOV_REPLAY SOURCES
 set -u
-game=$1 replay=$2 sources=$3
+game=$1 keys=$2 replay=$3 sources=$4
 folder=$(mktemp -d) failures=0
 trap 'rm -rf "$folder"' EXIT
 cd "$folder" || exit
@@ -25,6 +25,7 @@ for display in "" $nobody; do
     expect "$display" 255 "Couldn't set the video mode:" "$game"
     expect "$display" 0 "  -w, --ScreenWidth" "$game --help"
     expect "$display" 0 "Usage: $game [OPTION]..." "$game --nonsense"
+    expect "$display" 255 "Couldn't set the video mode:" "$keys"
     expect "$display" 2 "kov-replay: there is no display here" "$replay watch $kept"
     expect "$display" 2 "kov-replay: there is no display here" "$replay film $kept film.mp4"
     expect "$display" 2 "kov-replay: there is no display here" "$replay record kept.kovreplay"

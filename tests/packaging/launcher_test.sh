@@ -200,6 +200,17 @@ expect "keeping a game without a name" "arguments: record; colours: "
 expect "proving a game" "arguments: --data $share verify a b; colours: "
 rm "$bin/kov-replay"
 
+# By a third name it asks for the keys of that folder, and does so nowhere else.
+cp "$programs/kov" "$programs/kov-keys" && ln -s kov "$bin/kov-keys"
+keys() { "$bin/kov-keys" >"$root/out" 2>&1 </dev/null; }
+ROUND='pwd; echo "Up, K" >bind1.conf' keys
+expect "keys, where" "$home"
+holds "keys" "$home/bind1.conf" "Up, K"
+XDG_DATA_HOME="$root/file" keys && fail "no folder for the keys, and that is success"
+expect "keys without a folder" "Your keys are as they were."
+expect_not "keys without a folder" "arguments:"
+rm "$bin/kov-keys"
+
 # Started by its icon: each way to tell the player is taken if those before it aren't there.
 for tool in xmessage zenity notify-send; do
     double $tool "printf '%s ' $tool \"\$@\" >>'$root/shown'"
