@@ -24,6 +24,17 @@ std::array<double, 3> numbersOf(const PointProperty& p) {
     return {p.value.x, p.value.y, p.value.z};
 }
 
+/// Colour.kov, and the others that a player may put in its place.
+std::vector<fs::path> palettesIn(const fs::path& folder) {
+    std::vector<fs::path> files;
+    boost::system::error_code ignored; // none
+    for (const fs::directory_entry& entry : fs::directory_iterator(folder / "data", ignored))
+        if (entry.path().filename().string().compare(0, 6, "Colour") == 0)
+            files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
 /// The game's own resource file, as the game reads it.
 template <class Value, class Named>
 std::vector<Named> readFile(const fs::path& path) {
@@ -79,18 +90,24 @@ void compareKeys(const Setup& setup, Changes& changes) {
 
 } // namespace
 
-Shipped::Shipped(const fs::path& folder)
-    : colours(readFile<graphics::Colour, Setup::NamedColour>(folder / "data/Colour.kov")),
-      points(readFile<PointProperty, Setup::NamedPoint>(folder / "data/Point.kov")) {
+Shipped::Shipped(const fs::path& folder) : files(palettesIn(folder)) {
+    for (const fs::path& file : files)
+        palettes.push_back(readFile<graphics::Colour, Setup::NamedColour>(file));
+    files.push_back(folder / "data/Point.kov");
+    points = readFile<PointProperty, Setup::NamedPoint>(files.back());
     for (const char* place : {"bind1.conf", "packaging/bind1.conf"})
         if (bindings.empty() && fs::exists(folder / place)) bindings = folder / place;
+    if (!bindings.empty()) files.push_back(bindings);
 }
 
 Changes changesFrom(const Shipped& shipped, const Setup& setup) {
     Changes changes;
-    changes.colours =
-        countChanged(shipped.colours, setup.colours, &Setup::NamedColour::parts,
-                     numbersOf(resources::ResourceTraits<graphics::Colour>::defaultValue()));
+    changes.colours = setup.colours.size();
+    const auto unnamed = numbersOf(resources::ResourceTraits<graphics::Colour>::defaultValue());
+    for (const auto& palette : shipped.palettes)
+        changes.colours =
+            std::min(changes.colours,
+                     countChanged(palette, setup.colours, &Setup::NamedColour::parts, unnamed));
     changes.points = countChanged(shipped.points, setup.points, &Setup::NamedPoint::place,
                                   numbersOf(PointProperty()));
     compareKeys(setup, changes);

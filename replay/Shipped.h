@@ -11,9 +11,10 @@ struct Shipped {
     /// @param folder of the game's data, an installed one or the source tree
     explicit Shipped(const boost::filesystem::path& folder);
 
-    std::vector<Setup::NamedColour> colours;
+    std::vector<std::vector<Setup::NamedColour>> palettes; ///< any of them is as good
     std::vector<Setup::NamedPoint> points;
-    boost::filesystem::path bindings; ///< the file; empty if there is none
+    boost::filesystem::path bindings;           ///< the file; empty if there is none
+    std::vector<boost::filesystem::path> files; ///< that all this has come from
 };
 
 /// How a session's setup differs from it, in numbers.

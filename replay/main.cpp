@@ -259,12 +259,12 @@ bool prove(const Places& places, const fs::path& file, const fs::path& report) {
 }
 
 std::vector<RankedGame> provenGames(const Places& places, const fs::path& folder) {
-    const fs::path data = fs::absolute(places.data);
-    Proofs proofs(
-        folder,
-        {verifyProgram(), data / "data/Colour.kov", data / "data/Point.kov",
-         Shipped(data).bindings},
-        [&](const fs::path& file, const fs::path& report) { return prove(places, file, report); });
+    const Shipped shipped(fs::absolute(places.data));
+    std::vector<fs::path> basis = shipped.files;
+    basis.push_back(verifyProgram());
+    Proofs proofs(folder, basis, [&](const fs::path& file, const fs::path& report) {
+        return prove(places, file, report);
+    });
     std::vector<RankedGame> games;
     for (const fs::path& file : replaysIn(folder)) {
         const auto report = proofs.of(file);

@@ -185,10 +185,11 @@ TEST(RemarksTest, MarkWhatIsUnlikeAnUntouchedGame) {
 TEST_F(StoryTest, ComparesWithWhatIsShipped) {
     headless::HeadlessGame game;
     const Shipped shipped(KOV_SOURCE_DIR);
-    EXPECT_GT(shipped.colours.size(), 15U);
+    ASSERT_EQ(shipped.palettes.size(), 2U);
+    EXPECT_GT(shipped.palettes[1].size(), 15U);
     EXPECT_EQ(shipped.bindings.filename(), "bind1.conf");
     replay::Setup untouched;
-    untouched.colours = shipped.colours;
+    untouched.colours = shipped.palettes[1]; // of the two, the usual
     untouched.colours.push_back({"made by the game", {1.0, 1.0, 1.0, 0.5}});
     untouched.points = {{"made by the game", {0, 0, 0}}};
     for (const auto& key : input::KeyMapper::Instance().keys)
@@ -201,6 +202,10 @@ TEST_F(StoryTest, ComparesWithWhatIsShipped) {
         {1, 0, 0, 1, [](replay::Setup& s) { s.colours[4].parts[3] = 0.25; }},
         {1, 0, 0, 1, [](replay::Setup& s) { s.colours.back().parts[0] = 0.0; }},
         {1, 0, 0, 1, [](replay::Setup& s) { s.colours.erase(s.colours.begin()); }},
+        {0, 0, 0, 1,
+         [](replay::Setup& s) {
+             s.colours = Shipped(KOV_SOURCE_DIR).palettes[0];
+         }}, // for bright light
         {0, 1, 0, 1, [](replay::Setup& s) { s.points[0].place[1] = 2.0; }},
         {0, 0, 2, 1,
          [](replay::Setup& s) {
