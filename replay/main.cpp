@@ -34,7 +34,8 @@ namespace {
 
 const char* const usage_text =
     "usage: kov-replay record [FILE] [-- GAME OPTIONS]   play, and keep the games\n"
-    "       kov-replay watch FILE [--speed N] [--from M:SS]\n"
+    "       kov-replay watch [FILE] [--speed N] [--from M:SS]\n"
+    "                        a game that comes with the game, if no other is given;\n"
     "                        space stops, arrows change the speed or step, Escape leaves\n"
     "       kov-replay verify [--fair] FILE...           play again, unseen, and compare\n"
     "       kov-replay film FILE OUT.mp4 [--size WxH] [--from M:SS] [--to M:SS] [--full]\n"
@@ -138,11 +139,19 @@ int judge(Playback& playback, std::uint32_t start) {
     return exit_interrupted;
 }
 
+/// A game that comes with the game.
+fs::path demonstration(const Places& places) {
+    const fs::path installed = places.data / "demonstration.kovreplay";
+    return fs::exists(installed) ? installed
+                                 : places.data / "packaging" / installed.filename();
+}
+
 int watch(const Places& places, const Words& words) {
     const CommandLine line(words, {{"speed", true}, {"from", true}});
-    requireFiles(line, 1, 1);
+    requireFiles(line, 0, 1);
     const std::string speed = line.value("speed"), from = line.value("from");
-    const std::string path = fs::absolute(line.files[0]).string();
+    const std::string path =
+        fs::absolute(line.files.empty() ? demonstration(places) : fs::path(line.files[0])).string();
     const Summary summary(path);
     const Watcher::Times times = {
         summary.start, summary.length, from.empty() ? 0 : toTime(from),

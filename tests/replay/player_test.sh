@@ -1,8 +1,9 @@
 #!/bin/bash
 # The program as a player uses it, in a window on a display of its own (Xvfb), by keys: a game is
-# kept, told, proved, watched and filmed. Usage: player_test.sh KOV_REPLAY SOURCES CLOSE_WINDOW
+# kept, told, proved, watched and filmed. Usage:
+#   player_test.sh KOV_REPLAY SOURCES CLOSE_WINDOW KOV_RECORD
 set -u
-replay=$1 sources=$2 close=$3
+replay=$1 sources=$2 close=$3 record=$4
 folder=$(mktemp -d) failures=0
 Xvfb -displayfd 3 -screen 0 1024x768x24 -noreset -iglx 3>"$folder/display" 2>/dev/null &
 server=$!
@@ -121,17 +122,30 @@ done
 start watch one.kovreplay --speed=64
 ends "watch to the end" 0 ""
 
+start watch --speed=64
+soon "watch the game that comes with it" " / 2:0"
+press Escape
+ends "watch the game that comes with it" 0 ""
+"$record" night.kovreplay --seed 5 --ticks 300 --wait 30000 >/dev/null
+start watch night.kovreplay --from 0:04
+soon "a pause of a night" "0:0[45] / 500:"
+press Escape
+ends "watch, Escape in a pause of a night" 0 ""
+
 # Filming: 320 by 240 pixels of four bytes.
 picture=307200
 expect "film" 0 "100 %" film one.kovreplay whole.mp4 --size 320x240
 whole=$(($(head -n 1 whole.mp4) / picture))
 length=$("$replay" --data "$sources" show one.kovreplay | sed -n 's/^length *0:0*//p')
-[ $whole -ge $((length * 100 / 3 - 3)) ] && [ $whole -le $(((length + 1) * 100 / 3)) ] ||
+between() { [ "$2" -ge "$1" ] && [ "$2" -le "$3" ]; }
+between $((length * 100 / 3 - 3)) $whole $(((length + 1) * 100 / 3)) ||
     fail "film: $whole pictures of $length s"
 expect "film of a part" 0 "" film one.kovreplay part.mp4 --size=320x240 --from 0:01 --to=0:02
 part=$(($(head -n 1 part.mp4) / picture))
-[ $part -ge 30 ] && [ $part -le 34 ] || fail "film of a part: $part pictures of a second"
+between 30 $part 34 || fail "film of a part: $part pictures of a second"
 [ $((part * 30 * 441 * 4 / 10)) -le $(($(tail -n 1 part.mp4) + 12000)) ] || fail "film: its sound"
+expect "film of a night" 0 "" film night.kovreplay night.mp4 --size=320x240
+between 440 $(($(head -n 1 night.mp4) / picture)) 475 || fail "a film of a night: $(head -n 1 night.mp4)"
 expect "film, there already" 2 "File exists" film one.kovreplay part.mp4
 expect "film, no such folder" 2 "No such file" film one.kovreplay nowhere/o.mp4
 expect "film, no such ending" 2 "ffmpeg makes no films like o.xyz" film one.kovreplay o.xyz
@@ -139,7 +153,7 @@ expect "film, no such part" 2 "nothing lies between" film one.kovreplay o.mp4 --
 start film one.kovreplay stopped.mp4 --size 1920x1200 # takes a while
 kill -TERM "$(pgrep -P $process)"
 ends "film, interrupted" 3 "interrupted at"
-[ ! -e stopped.mp4 ] && [ ! -e o.mp4 ] && [ ! -e o.xyz ] || fail "a film was left"
+for left in stopped.mp4 o.mp4 o.xyz; do [ ! -e $left ] || fail "a film was left: $left"; done
 
 [ -z "$(ls tmp)" ] || fail "left behind: $(ls tmp)"
 exit $failures
