@@ -38,6 +38,7 @@ constexpr unsigned int arrows_fly = 6;       ///< after a death
 constexpr unsigned int pulse_arrives = 63;   ///< its lines are close to the bombs
 constexpr unsigned int film_ticks = 216, ticks_per_frame = 2;
 constexpr std::int16_t spare_lives = 3;
+constexpr std::uint32_t all_digits = 1583246790;
 
 class Gallery {
 public:
@@ -47,6 +48,7 @@ public:
 
     // The scenes.
     void pages();
+    void display();
     void fence();
     void film();
     void powerUps();
@@ -120,6 +122,13 @@ void Gallery::pages() {
     save("config-accuracy");
     press(SDLK_DOWN);
     save("config-cpu");
+}
+
+void Gallery::display() {
+    startGame();
+    Marvo::Instance().score = all_digits;
+    run.tick();
+    save("display");
 }
 
 /// Up to the first shot.
@@ -235,6 +244,7 @@ const struct {
     const char* shows;
 } scenes[] = {
     {"pages", &Gallery::pages, "main menu, configuration, help, about"},
+    {"display", &Gallery::display, "the display's row with all digits, for tools/font/stems.py"},
     {"fence", &Gallery::fence, "three triangles before and after their fence closes; the pause"},
     {"film", &Gallery::film, "the frames of a catch and of what follows"},
     {"power-ups", &Gallery::powerUps, "one of each, and of the bombs"},
