@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Prints which digits of the display look most alike, and how wide the zeros of the next life are, in
-pixels, from pictures of the display as binary PPM, all of one size.
+"""Prints which digits of the display look most alike, and how wide the zeros of the next life are,
+in pixels, from pictures of the display as binary PPM, all of one size.
 
     digits.py display-SCORE.ppm...
 

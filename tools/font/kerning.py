@@ -9,11 +9,11 @@ LEFTS = {
 }
 
 # Where the box of a character starts, if left of its ink. The display centres its score as if it
-# were "0", by half the width of that box: the digits then get stems of one width.
+# were "0", by half the width of that box: its digits then get stems of one width.
 REACH = {"0": -1}
 
-# By how much the second letter of a pair moves. Texts have runs of three to five blanks, and each is
-# to look like one wider gap: so blanks draw together. One is 16 wide, three are 24, five are 32.
+# By how much the second letter of a pair moves. Texts have runs of three to five blanks, and each
+# is to look like one wider gap: so blanks draw together. One is 16 wide, three are 24, five are 32.
 KERNING = {
     "  ": -12, " A": -6, " D": 8, " E": 12, " G": 4, " O": 7, " a": 6, " b": -1, " c": 4, " d": -1,
     " f": 2, " g": 1, " i": 4, " l": -1, " o": 10, " p": 4, " s": 4, " x": 4, "! ": -8, "A ": 2,
