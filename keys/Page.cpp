@@ -63,7 +63,7 @@ std::string promptOf(const Questions& questions) {
         return "Press any key, or any button of the pad.";
     case Questions::Step::ask:
         return std::string("Press the ") +
-               (questions.device() == Device::keyboard ? "key" : "button") + ". It is " +
+               (questions.device() == Device::keyboard ? "key" : "button") + ".  It is " +
                wordOf(*questions.asked(), questions.device()) + " now.";
     case Questions::Step::confirm:
         return buttonsAtTheEnd(questions);

@@ -142,8 +142,7 @@ int judge(Playback& playback, std::uint32_t start) {
 /// A game that comes with the game.
 fs::path demonstration(const Places& places) {
     const fs::path installed = places.data / "demonstration.kovreplay";
-    return fs::exists(installed) ? installed
-                                 : places.data / "packaging" / installed.filename();
+    return fs::exists(installed) ? installed : places.data / "packaging" / installed.filename();
 }
 
 int watch(const Places& places, const Words& words) {

@@ -224,7 +224,7 @@ TEST_F(QuestionsTest, NoActionLosesWhatItHas) {
     fill("bind1.conf", "Up, F2\nMenu Select, JOY2\nMenu Escape, JOY20\nFire Up, JOY4\n");
     errorsOf([&] { start(true); });
     keys({SDLK_x});
-    EXPECT_EQ(program->page->promptWord->word, "Press the key. It is nothing now.");
+    EXPECT_EQ(program->page->promptWord->word, "Press the key.  It is nothing now.");
     keys({SDLK_DOWN}); // of which nothing could come back
     EXPECT_EQ(note(), "DOWN is Down already. Another key, please.");
     keys({SDLK_u, SDLK_BACKSPACE, SDLK_BACKSPACE});
