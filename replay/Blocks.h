@@ -32,6 +32,7 @@ public:
     bool write(const std::string& bytes);
 
     static constexpr std::size_t largest_block = 64U << 10U; ///< bytes
+    static constexpr std::size_t empty_size = 13;            ///< of a file without blocks, bytes
 
 private:
     std::FILE* file;

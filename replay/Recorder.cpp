@@ -182,7 +182,7 @@ void Recorder::keepSettings() {
 
 Check Recorder::check() {
     observing = true;
-    const Check found = checkOfGame();
+    Check found = checkOfGame();
     observing = false;
     return found;
 }

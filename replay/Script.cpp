@@ -6,8 +6,9 @@ namespace quorva::replay {
 
 namespace {
 
-/// Idle passes for each byte of a file: more than a paused game without music takes.
-constexpr std::uint64_t most_idle_a_byte = 1000;
+/// Idle passes, for each byte of a file and for each ms of its session. A game that stands all
+/// night without music makes some thousand passes a second, and hardly a byte.
+constexpr std::uint64_t most_idle_a_byte = 1000, most_idle_a_ms = 10;
 
 } // namespace
 
@@ -38,8 +39,10 @@ void Script::fetch() {
 
 /// That it is one which can have been recorded.
 void Script::require(const Pass& pass) {
+    if (!pass.clock.empty() && !start) start = pass.clock.front();
+    const std::uint32_t ms = pass.clock.empty() ? 0 : pass.clock.back() - *start;
     idle += pass.idle;
-    if (idle > most_idle_a_byte * file.size()) damaged();
+    if (idle > most_idle_a_byte * file.size() + most_idle_a_ms * ms) damaged();
     if (setup.hasOpenJoystick()) return;
     const bool usesOne = std::any_of(pass.events.begin(), pass.events.end(),
                                      [](const Event& event) { return event.isOfJoystick(); });

@@ -40,6 +40,7 @@ private:
     std::optional<Record> ahead;
     bool ended = false; ///< by its end record
     std::uint64_t idle = 0;
+    std::optional<std::uint32_t> start; ///< ms, the clock at the first pass
 };
 
 template <class Kind>

@@ -24,7 +24,9 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 #include <iostream>
+#include <optional>
 #include <stdexcept>
 
 using namespace quorva::replay;
@@ -89,40 +91,53 @@ void requireDisplay() {
     if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
 }
 
+/// The game ends the process by itself if it can't open a window. Nothing stays of that.
+void removeIfEmptyAtExit(const fs::path& path) {
+    static fs::path file;
+    file = path;
+    std::atexit([] {
+        boost::system::error_code error;
+        if (fs::file_size(file, error) <= BlockWriter::empty_size && !error)
+            fs::remove(file, error);
+    });
+}
+
 /// Plays, and keeps it in a file.
 /// @param name by which it is kept; null if the path is the player's choice
-int record(const fs::path& path, KeptName* name, const Words& gameOptions, bool quiet) {
-    Recorder recorder(path.string());
+int record(Recorder& recorder, const fs::path& path, KeptName* name, const Words& gameOptions) {
+    removeIfEmptyAtExit(path);
     insert(&recorder);
     const int code = quorva::headless::runGameMain(gameOptions);
     recorder.finish();
     insert(nullptr);
     const fs::path kept = finishFile(path, recorder, name);
-    if (name != nullptr && name->isAutomatic) tidy(path.parent_path());
-    if (!quiet && fs::exists(kept)) std::cout << "kept in " << kept.string() << '\n';
+    const bool isAutomatic = name != nullptr && name->isAutomatic;
+    if (isAutomatic) tidy(path.parent_path());
+    if (fs::exists(kept) && (!isAutomatic || isatty(STDOUT_FILENO) != 0))
+        std::cout << "kept in " << kept.string() << '\n';
     return code;
 }
 
 int record(const Places& places, const Words& words) {
     const auto dashes = std::find(words.begin(), words.end(), "--");
     const CommandLine line(Words(words.begin(), dashes), {{"auto", false}});
-    const bool isAutomatic = line.has("auto");
-    requireFiles(line, 0, isAutomatic ? 0 : 1);
-    requireDisplay();
     const Words gameOptions = dashes == words.end() ? Words() : Words(dashes + 1, words.end());
-    const bool isNamed = !line.files.empty();
+    const bool isAutomatic = line.has("auto"), isNamed = !line.files.empty();
+    requireFiles(line, 0, isAutomatic ? 0 : 1);
+    if (!isAutomatic) requireDisplay(); // else the game says so
     KeptName name = KeptName::now(isAutomatic);
     const fs::path path =
         fs::absolute(isNamed ? fs::path(line.files[0]) : places.replays / name.unfinished());
     boost::system::error_code ignored; // the recorder says what is wrong
     if (!isNamed) fs::create_directories(path.parent_path(), ignored);
+    std::optional<Recorder> recorder;
     try {
-        return record(path, isNamed ? nullptr : &name, gameOptions,
-                      isAutomatic && isatty(STDOUT_FILENO) == 0);
+        recorder.emplace(path.string());
     } catch (const std::runtime_error& e) {
         complain("can't write " + path.string() + ": " + e.what());
         return isAutomatic ? quorva::headless::runGameMain(gameOptions) : exit_unusable;
     }
+    return record(*recorder, path, isNamed ? nullptr : &name, gameOptions);
 }
 
 /// Says what has been found; the window is gone.

@@ -286,6 +286,30 @@ TEST_F(Replay, WhatIsNeverRecordedIsRefused) {
     EXPECT_EQ(verify(edited(other, wait)).code, 1) << "a long wait is none of these";
 }
 
+TEST_F(Replay, ANightWithoutMusicIsReadAndHalfOfItIsNot) {
+    constexpr std::uint32_t night = 8 * 3600 * 1000; // ms
+    for (const std::uint32_t length : {night, night / 2}) {
+        const auto stand = [length, passes = 0](Record& r) mutable {
+            auto* const pass = std::get_if<Pass>(&r);
+            if (pass == nullptr || ++passes < 50) return false;
+            if (passes < 50 + 16) pass->idle = 1U << 24U; // 250 million in all
+            for (std::uint32_t& ms : pass->clock)
+                ms += length;
+            return false;
+        };
+        fill("a", edited(kept, stand, {}, false));
+        Script script("a");
+        const auto readAll = [&] {
+            while (script.take()) {
+            }
+        };
+        if (length == night)
+            EXPECT_NO_THROW(readAll());
+        else
+            EXPECT_THROW(readAll(), BadFile);
+    }
+}
+
 TEST_F(Replay, AnInterruptionIsNoDifferenceAndLeavesNothing) {
     // More passes to repeat than could be played in a minute.
     fill("a", edited(kept, ofFirst<Pass>([](Pass& p) { p.idle = 1500000; })));
