@@ -111,15 +111,18 @@ bool Film::draws() {
 void Film::show() {
     look();
     if (place() < format.from) return;
-    if (!hasBegun) {
-        hasBegun = true;
-        lastPlace = place();
-    }
-    fill(std::min(place(), format.to) - lastPlace);
-    lastPlace = std::min(place(), format.to);
+    if (!hasBegun) lastPlace = place();
+    hasBegun = true;
+    catchUp();
     if (place() >= format.to) return stop();
     if (somethingGoesOn()) time.enliven();
     takePicture();
+}
+
+/// The last frame, up to now, and what is heard meanwhile.
+void Film::catchUp() {
+    if (hasBegun) fill(std::min(place(), format.to) - lastPlace);
+    lastPlace = std::min(place(), format.to);
 }
 
 /// In a game that isn't paused, or in the menus by a key.
@@ -127,7 +130,7 @@ bool Film::somethingGoesOn() const {
     return progress().inGame ? progress().ticked : !pass().events.empty();
 }
 
-/// The last frame, and what is heard meanwhile, for a stretch of the session.
+/// For a stretch of the session.
 void Film::fill(std::uint32_t ms) {
     const std::uint64_t before = filmed;
     FilmTime then = time;

@@ -39,6 +39,7 @@ public:
     void finishFilm(const std::string& path);
 
 protected:
+    void moveOn() override { catchUp(); }
     void show() override;
     void passIdly() override { look(); }
 
@@ -46,6 +47,7 @@ private:
     std::uint32_t place() const { return now() - format.start; } ///< ms after the start
     bool isFilmed() const { return place() >= format.from && place() <= format.to; }
     bool somethingGoesOn() const;
+    void catchUp();
     void fill(std::uint32_t ms);
     void hear(std::uint64_t until, double volume);
     void takePicture();

@@ -26,8 +26,9 @@ Playback::Playback(Script& script_) : script(script_) {
 }
 
 std::uint32_t Playback::clock() {
-    if (!observing && !isIdle() && clockPlace < pass_.clock.size())
-        now_ = pass_.clock[clockPlace++];
+    if (observing || isIdle() || clockPlace == pass_.clock.size()) return now_;
+    const std::uint32_t before = std::exchange(now_, pass_.clock[clockPlace++]);
+    if (now_ != before) moveOn();
     return now_;
 }
 

@@ -41,6 +41,8 @@ public:
 protected:
     /// The keys and songs of the player whose game it is, once the game has found its own.
     virtual void prepareGame();
+    /// The clock has moved on to `now`, within a pass: what comes next comes at that time.
+    virtual void moveOn() {}
     /// A frame is there, and everything up to it has been compared. Shows it.
     virtual void show() { Tape::endFrame(); }
     /// A pass has gone by in which the game only looked for a song. There may be millions.

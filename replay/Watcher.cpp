@@ -25,7 +25,13 @@ bool Watcher::draws() {
            position - place() <= late * std::max(1.0, times.speed);
 }
 
+/// Here, so that the music of a pause stands as long as the picture does.
+void Watcher::moveOn() {
+    if (hasBegun && draws()) waitFor(place());
+}
+
 void Watcher::show() {
+    hasBegun = true;
     if (draws()) {
         waitFor(place());
         Tape::endFrame();

@@ -26,6 +26,7 @@ public:
     static constexpr double slowest = 0.125, fastest = 64.0; ///< times
 
 protected:
+    void moveOn() override;
     void show() override;
     void passIdly() override;
 
@@ -40,6 +41,7 @@ private:
     double position;            ///< ms after the start, where watching is
     std::uint32_t lastTime = 0; ///< ms, the real clock; as the next
     std::uint32_t lastLook = 0; ///< at the keys
+    bool hasBegun = false;      ///< the first frame is there
     bool standing = false, stepping = false;
     std::string shownTitle;
 };
