@@ -91,7 +91,9 @@ double ByteReader::real() {
 }
 
 std::string ByteReader::text(std::size_t longest) {
-    std::string value(std::min(number(longest), static_cast<std::uint64_t>(left())), ' ');
+    const std::uint64_t length = number(longest);
+    if (length > left()) damaged();
+    std::string value(length, ' ');
     for (char& c : value)
         c = static_cast<char>(byte());
     if (!std::all_of(value.begin(), value.end(), isPrintable)) damaged();

@@ -81,7 +81,7 @@ std::string firstDifference(const Check& kept, const Check& played) {
     const auto first = std::mismatch(is.begin(), is.begin() + shorter, was.begin()).first;
     const auto index = static_cast<std::size_t>(first - is.begin());
     const auto parts = headless::stateParts();
-    if (index < parts.size() && index < is.size())
+    if (index < parts.size())
         out << "the first that differs: " << headless::describe(parts[index]);
     else
         out << (is.size() < was.size() ? "the last are missing" : "only the hash differs");

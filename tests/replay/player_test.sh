@@ -21,15 +21,15 @@ mkdir Songs tmp bin
 export TMPDIR=$folder/tmp PATH=$folder/bin:$PATH
 cat >bin/ffmpeg <<'DOUBLE'
 #!/bin/bash
-# Counts what it is given, in bytes; makes any film but one that ends in .xyz.
+# Counts what it is given, in bytes, and keeps the last of it; makes any film but *.xyz.
 for target; do :; done
 case $target in
 *.xyz) exit 1 ;;
 esac
 target=${target#file:}
 case " $* " in
-*" pipe:0 "*) wc -c >"$target" ;;
-*" -c copy "*) cat pictures.mkv sound.mka >"$target" ;;
+*" pipe:0 "*) tee >(tail -c 384000 >"${target%.*}.last") | wc -c >"$target" ;;
+*" -c copy "*) cat pictures.mkv sound.mka >"$target" && cp pictures.last "$target.last" ;;
 *) [ "$target" = - ] || : >"$target" ;;
 esac
 DOUBLE
@@ -91,6 +91,19 @@ expect "several files, one cut off" 0 "holds, but is cut off" verify cut.kovrepl
 expect "an option twice" 2 "--speed stands there twice" watch one.kovreplay --speed=2 --speed 4
 expect "one that is there" 2 "File exists" record one.kovreplay
 
+# What takes a while says how far it is, on a terminal; a signal that is ignored doesn't end it; and
+# a game that is killed is kept up to nine seconds before.
+"$record" long.kovreplay --seed 8 --ticks 1200 --songs 4 --music 0 --idle 900 >/dev/null
+SHELL=/bin/bash script -qec "'$replay' --data '$sources' verify long.kovreplay" /dev/null >said </dev/null
+grep -q "[0-9] % " said && grep -q ": holds" said || fail "verify on a terminal: $(cat said)"
+timeout -s TERM 0.3 sh -c 'trap "" TERM; exec "$@"' sh "$replay" --data "$sources" verify long.kovreplay >said
+grep -q ": holds" said || fail "verify, TERM ignored: $(cat said)"
+timeout -s KILL 1 "$record" killed.kovreplay --seed 3 --ticks 10000000 >/dev/null 2>&1
+expect "a game that was killed" 0 "holds, but is cut off" verify killed.kovreplay
+ticks=$(sed -n 's/.*replay: \([0-9]*\) ticks.*/\1/p' said)
+[ "${ticks:-0}" -gt 600 ] || fail "a game that was killed: $ticks ticks are left"
+rm -r tmp/*
+
 # Watching.
 start watch one.kovreplay --speed=0.125
 soon "watch" "x0.125$"
@@ -101,8 +114,10 @@ press Right Right # steps: the speed stays
 [ "$(title)" = "$before" ] || fail "watch, right while stopped: '$(title)' after '$before'"
 press Up
 soon "watch, up" "x0.25 *stopped$"
-press Down space
-soon "watch, down and space" "x0.125$"
+press Up Up Up Up Up Up Up Up
+soon "watch, no faster" "x64 *stopped$"
+press Down Down Down Down Down Down Down Down Down Down Down space
+soon "watch, no slower" "x0.125$"
 press Right Right
 soon "watch, right" "x0.5$"
 press Left
@@ -144,12 +159,20 @@ expect "film of a part" 0 "" film one.kovreplay part.mp4 --size=320x240 --from 0
 part=$(($(head -n 1 part.mp4) / picture))
 between 30 $part 34 || fail "film of a part: $part pictures of a second"
 [ $((part * 30 * 441 * 4 / 10)) -le $(($(tail -n 1 part.mp4) + 12000)) ] || fail "film: its sound"
+# In a picture of another shape the game's is in the middle: only beside it its menu isn't.
+expect "film, wide" 0 "" film one.kovreplay wide.mp4 --size=400x240
+beside=$(tr -dc '\033' <wide.mp4.last | wc -c)
+between $((80 * 240 * 3)) "$beside" $((84 * 240 * 3)) || fail "film, wide: $beside bytes"
 expect "film of a night" 0 "" film night.kovreplay night.mp4 --size=320x240
 between 440 $(($(head -n 1 night.mp4) / picture)) 475 || fail "a film of a night: $(head -n 1 night.mp4)"
 expect "film, there already" 2 "File exists" film one.kovreplay part.mp4
 expect "film, no such folder" 2 "No such file" film one.kovreplay nowhere/o.mp4
 expect "film, no such ending" 2 "ffmpeg makes no films like o.xyz" film one.kovreplay o.xyz
 expect "film, no such part" 2 "nothing lies between" film one.kovreplay o.mp4 --from 9:00
+start film night.kovreplay stopped.mp4 --full # the whole night
+sleep 2
+kill -TERM "$(pgrep -P $process)"
+ends "film of a whole night, interrupted" 3 "interrupted at"
 start film one.kovreplay stopped.mp4 --size 1920x1200 # takes a while
 kill -TERM "$(pgrep -P $process)"
 ends "film, interrupted" 3 "interrupted at"
