@@ -179,6 +179,12 @@ TEST_F(QuestionsTest, AsksForTheButtonsOfAPad) {
 }
 
 TEST_F(QuestionsTest, LeavesAllAsItWas) {
+    const auto answerAndLeave = [] { keys({SDLK_i, SDLK_k, SDLK_ESCAPE}); };
+    const auto leaveByPad = [] {
+        buttons({0});
+        keys({SDLK_RETURN});
+        buttons({5, 2, 1, 7, 0, 6, 6});
+    };
     const struct {
         const char* what;
         bool hasPad;
@@ -186,10 +192,7 @@ TEST_F(QuestionsTest, LeavesAllAsItWas) {
     } cases[] = {
         {"at once", false, [] { keys({SDLK_ESCAPE}); }},
         {"at the choice", true, [] { keys({SDLK_ESCAPE}); }},
-        {"after answers", false,
-         [] {
-             keys({SDLK_i, SDLK_k, SDLK_ESCAPE});
-         }},
+        {"after answers", false, answerAndLeave},
         {"back at the choice", true,
          [] {
              keys({SDLK_x, SDLK_i, SDLK_BACKSPACE, SDLK_BACKSPACE, SDLK_BACKSPACE, SDLK_ESCAPE});
@@ -204,10 +207,7 @@ TEST_F(QuestionsTest, LeavesAllAsItWas) {
              pass();
          }},
         {"the window", false, [] { keys({SDLK_i}), standins::pushQuit(), pass(); }},
-        {"at the end, by pad", true,
-         [] {
-             buttons({0}), keys({SDLK_RETURN}), buttons({5, 2, 1, 7, 0, 6, 6});
-         }},
+        {"at the end, by pad", true, leaveByPad},
     };
     for (const auto& c : cases) {
         start(c.hasPad);
