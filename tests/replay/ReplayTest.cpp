@@ -56,7 +56,8 @@ protected:
         return run(KOV_VERIFY " " + path + " " KOV_SOURCE_DIR);
     }
 
-    /// Plays by keys, each held for a pass of 30 ms from the given one on, in a process of its own.
+    /// Plays by keys, in a program that no game has run in, each held for a pass of 30 ms from the
+    /// given one on, in a process of its own.
     static void record(const std::string& path, const std::map<unsigned int, int>& keys) {
         const pid_t child = fork();
         if (child == 0) {
