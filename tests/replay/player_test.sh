@@ -88,6 +88,10 @@ cmp -s one.kovreplay page/one.kovreplay || fail "best: the file to download"
 head -c $(($(stat -c %s one.kovreplay) - 9)) one.kovreplay >cut.kovreplay
 expect "no file" 2 "none that can be read" verify nothing.kovreplay
 expect "several files, one cut off" 0 "holds, but is cut off" verify cut.kovreplay one.kovreplay
+"$record" pauses.kovreplay --seed 6 --ticks 4200 --pages 1 >/dev/null # six of them
+expect "not fair" 4 "6 pauses of 0:03 (!)" verify --fair pauses.kovreplay
+expect "not fair, but well" 0 "6 pauses of 0:03 (!)" verify pauses.kovreplay
+expect "not fair, and worse" 2 "none that can be read" verify --fair nothing.kovreplay pauses.kovreplay
 expect "an option twice" 2 "--speed stands there twice" watch one.kovreplay --speed=2 --speed 4
 expect "one that is there" 2 "File exists" record one.kovreplay
 
