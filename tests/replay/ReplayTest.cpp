@@ -159,6 +159,7 @@ TEST_F(Replay, HoldsWhateverWasPlayed) {
     } cases[] = {
         {"--seed 5 --ticks 6000", "; "},
         {"--seed 6 --ticks 3000 --pages 1 --songs 3", ", left"}, // pauses, settings, broken songs
+        {"--seed 4294960000 --ticks 500", ": 498 ticks"},        // the clock goes around 2^32
         {"--seed 7 --ticks 3000 --stick 1 --songs 1", ""},
         {"--seed 8 --ticks 1000 --songs 4 --music 0 --idle 3", ""}, // each pass draws
     };
