@@ -4,6 +4,7 @@
 #include "headless/GameMain.h"
 #include "headless/Sandbox.h"
 #include "platform/standins/GLRecorder.h"
+#include "platform/standins/SoundRecorder.h"
 #include "replay/Blocks.h"
 #include "replay/Recorder.h"
 #include "replay/Script.h"
@@ -133,6 +134,12 @@ bool changeKey(Record& record) {
         if (event.which == SDLK_w) return event.which = SDLK_s, true;
     return false;
 }
+
+class OpeningPlayback : public WindowPlayback {
+public:
+    using WindowPlayback::openSongOf;
+    using WindowPlayback::WindowPlayback;
+};
 
 /// Gets an Escape after a thousand passes in which nothing is shown, of a ms each.
 class EscapingWatcher : public Watcher {
@@ -354,6 +361,51 @@ TEST_F(Replay, ARecorderThatSawNoFrameWritesNothing) {
     }
     EXPECT_EQ(contentsOf("empty").size(), BlockWriter::empty_size);
     EXPECT_THROW(Recorder("empty"), std::runtime_error) << "there already";
+}
+
+TEST_F(Replay, ARecorderLetsNoClockRunBack) {
+    Recorder recorder("clock");
+    const struct {
+        std::uint32_t time, known; ///< ms
+    } readings[] = {{4294967000U, 4294967000U},
+                    {4294967000U, 4294967000U},
+                    {4294966000U, 4294967000U},
+                    {4U, 4U},
+                    {3U, 4U},
+                    {5U, 5U}};
+    for (const auto& reading : readings) {
+        standins::sdl().ticks = reading.time;
+        EXPECT_EQ(recorder.clock(), reading.known);
+    }
+    standins::sdl() = {};
+}
+
+TEST_F(Replay, ABlockHoldsSecondsOfPlay) {
+    ASSERT_EQ(run(KOV_RECORD " recorded --seed 5 --ticks 3000").code, 0);
+    BlockReader file("recorded");
+    std::size_t blocks = 0;
+    while (!file.read().empty())
+        ++blocks;
+    EXPECT_GE(blocks, 10U); // of 300 ticks
+    EXPECT_LE(blocks, 13U);
+}
+
+TEST_F(Replay, ASongOfTheSameLengthIsHeard) {
+    fs::create_directory("mine");
+    for (const char* song : {"mine/a.ogg", "mine/b.ogg"})
+        fill(song, "");
+    Script script(kept);
+    OpeningPlayback playback(script, "mine");
+    FMOD_SOUND* song = nullptr;
+    for (const bool isHere : {true, false}) {
+        standins::sound() = {};
+        standins::sound().recording = true;
+        playback.openSongOf(isHere ? 90000 : 80000, nullptr, &song);
+        EXPECT_EQ(standins::sound().openStreams, 1U) << "those that were only measured are closed";
+        const std::string calls = standins::sound().take();
+        EXPECT_NE(calls.find(isHere ? "mine/a.ogg" : "silence.wav"), std::string::npos) << calls;
+    }
+    standins::sound() = {};
 }
 
 TEST_F(Replay, AWatcherTakesKeysWhileNothingIsShown) {

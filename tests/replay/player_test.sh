@@ -83,6 +83,7 @@ grep -q "ScreenWidth=800" said || fail "show tells no settings: $(cat said)"
 expect "verify" 0 "one.kovreplay: " verify one.kovreplay
 grep -q ": holds$" said || fail "verify: $(cat said)"
 expect "best" 0 "one.kovreplay, at 0:" best . --page page
+expect "best of the kept ones" 0 "one.kovreplay, at 0:" --replays . best
 [ "$(grep -c '<article>' page/index.html)" = 1 ] || fail "best: the page"
 cmp -s one.kovreplay page/one.kovreplay || fail "best: the file to download"
 head -c $(($(stat -c %s one.kovreplay) - 9)) one.kovreplay >cut.kovreplay
