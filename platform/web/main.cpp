@@ -1,0 +1,81 @@
+// The game in a page, which calls it for each of its passes.
+
+#include "Framework/Config.h"
+#include "Framework/Graphics/Renderer.h"
+#include "Framework/Timer.h"
+#include "game/GameBase.h"
+#include "game/GameIdentity.h"
+#include "platform/web/MenuTouch.h"
+#include "platform/web/gl/Frame.h"
+
+#include <SDL.h>
+#include <emscripten.h>
+
+#include <cstdint>
+#include <memory>
+
+using namespace quorva;
+
+namespace {
+
+std::unique_ptr<GameBase> game; // null once it has ended
+bool isSeen = true;             // what the pass draws
+std::uint32_t tickSeen = 0;     // the last that has been drawn
+
+/// Between two ticks nothing moves, and a player who saves power is shown each of them once.
+bool isIdle() {
+    const TimerClass& timer = Timer::Instance();
+    return config::Config::Instance().getSaveCPU() && !timer.paused && !timer.isItTimeToProcess() &&
+           timer.blips == tickSeen;
+}
+
+} // namespace
+
+/// Starts the game, and returns while it goes on.
+int main(int argc, char* argv[]) {
+    introduceGame();
+    config::ConfigClass& config = config::Config::Instance();
+    config.setDefaults();
+    config.readFile();
+    for (int i = 1; i < argc; ++i)
+        config.parseCmdLineArgs(argv[0], argv[i]);
+    config.activateConfig();
+    graphics::Renderer::drawsFrame = [] { return isSeen; };
+    game = std::make_unique<GameBase>();
+    return 0;
+}
+
+extern "C" {
+
+/// One pass of the main loop. @param seen false between two pictures of the page, when only the
+/// game goes on
+/// @return whether there will be another
+EMSCRIPTEN_KEEPALIVE bool kovPass(bool seen) {
+    if (game == nullptr) return false;
+    if (seen && isIdle()) return true;
+    isSeen = seen;
+    web::seeFrames(seen);
+    game->pass();
+    if (seen) tickSeen = Timer::Instance().blips;
+    if (game->dead) game.reset();
+    return game != nullptr;
+}
+
+/// ms, 0 or less if the tick is due. In a pause there is none to wait for.
+EMSCRIPTEN_KEEPALIVE int kovTimeUntilTick() {
+    const TimerClass& timer = Timer::Instance();
+    // An overdue one shows as a little less than 2^16.
+    return timer.paused ? timer.getProcessRate()
+                        : static_cast<std::int16_t>(timer.getTimeUntilNextProcess());
+}
+
+/// Whether a level runs, also in its pause.
+EMSCRIPTEN_KEEPALIVE bool kovIsPlaying() {
+    return game != nullptr && game->level != nullptr;
+}
+
+EMSCRIPTEN_KEEPALIVE void kovTouchMenu(double x, double y, bool down) {
+    if (game != nullptr && game->level == nullptr) web::touchMenu(*game->mainMenu, x, y, down);
+}
+
+} // extern "C"

@@ -1,0 +1,39 @@
+#!/usr/bin/env python3
+"""Puts together the folder that a web server serves.
+  make_site.py SOURCE PROGRAM OUTPUT
+SOURCE is the project's folder, PROGRAM that of kov.js and kov.wasm."""
+import hashlib
+import json
+import pathlib
+import shutil
+import sys
+
+source, program, output = map(pathlib.Path, sys.argv[1:])
+page = source / "platform/web/page"
+
+# What goes where, songs apart.
+files = {path.name: path for path in page.iterdir() if path.name != "worker.js"}
+files |= {name: program / name for name in ("kov.js", "kov.wasm")}
+files["manual.html"] = source / "manual.html"
+files["picture.png"] = source / "docs/gallery/fence.png"
+for name in ("kov.svg", "kov-48.png", "kov-128.png", "kov-256.png"):
+    files[f"icons/{name}"] = source / "packaging/icons" / name
+files |= {f"Sounds/{path.name}": path for path in (source / "Sounds").glob("*.wav")}
+songs = {f"Songs/{path.name}": path for path in (source / "Songs").iterdir()
+         if path.suffix in (".mp3", ".ogg")}
+licences = {f"licences/{name}": source / name
+            for name in ("LICENSE", "Songs/LICENSE", "Sounds/LICENSE", "fonts/LICENSE-Kov.txt",
+                         "fonts/LICENSE-Vera.txt")}
+
+shutil.rmtree(output, ignore_errors=True)
+version = hashlib.sha256()
+for name, path in sorted((files | songs | licences).items()):
+    (output / name).parent.mkdir(parents=True, exist_ok=True)
+    shutil.copyfile(path, output / name)
+    version.update(name.encode() + path.read_bytes())
+
+kept = ["./", *sorted(set(files) - {"index.html", "picture.png"})]
+worker = (page / "worker.js").read_text()
+worker = worker.replace("@version@", version.hexdigest()[:16])
+worker = worker.replace("@files@", json.dumps(kept))
+(output / "worker.js").write_text(worker)
