@@ -10,6 +10,7 @@
 
 #include <SDL.h>
 #include <emscripten.h>
+#include <sys/stat.h>
 
 #include <cstdint>
 #include <memory>
@@ -33,6 +34,7 @@ bool isIdle() {
 
 /// Starts the game, and returns while it goes on.
 int main(int argc, char* argv[]) {
+    umask(S_IWGRP | S_IWOTH); // the page's own would leave new files without any permission
     introduceGame();
     config::ConfigClass& config = config::Config::Instance();
     config.setDefaults();

@@ -32,12 +32,13 @@ export class Server {
   asked = []; // paths, as they came
   missing = new Set(); // paths that are answered as if they weren't there
   preludes = new Map(); // by path: a text in front of the file's
+  others = new Map(); // by path: the path that takes its place
 
   async start() {
     this.http = createServer(async (request, answer) => {
       const path = new URL(request.url, this.address).pathname.slice(1) || 'index.html';
       this.asked.push(path);
-      const contents = this.missing.has(path) ? null : await read(path);
+      const contents = this.missing.has(path) ? null : await read(this.others.get(path) ?? path);
       if (contents === null) return answer.writeHead(404).end();
       answer.writeHead(200, { 'Content-Type': kinds[extname(path)] ?? 'application/octet-stream' });
       answer.end(Buffer.concat([Buffer.from(this.preludes.get(path) ?? ''), contents]));

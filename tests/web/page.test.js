@@ -1,0 +1,255 @@
+// The page in real browsers.
+
+import assert from 'node:assert/strict';
+import { mkdirSync } from 'node:fs';
+import { join } from 'node:path';
+import { after, before, describe, it } from 'node:test';
+
+import { browserNames, launch } from './browsers.js';
+import { Game, pause } from './game.js';
+import { compare } from './images.js';
+import { root, Server } from './server.js';
+
+const results = join(root, 'build/web-tests'); // for people to look at
+const unnoticed = 24; // of 255
+
+const areEqual = (a, b) => compare(a, b, unnoticed).equal === 1;
+
+// Scripts in front of the page's own.
+const without = {
+  storage: 'Object.defineProperty(globalThis, "indexedDB", { get() { throw new Error("refused"); } });',
+  webGL: 'HTMLCanvasElement.prototype.getContext = () => null;',
+  webAssembly: 'delete globalThis.WebAssembly;',
+};
+
+// Of the first game in the recording that kov_watch plays.
+const record = 7115;
+
+for (const name of browserNames)
+  describe(`the page in ${name}`, { timeout: 300000 }, () => {
+    let server, browser;
+
+    before(async () => {
+      mkdirSync(results, { recursive: true });
+      browser = await launch(name);
+    });
+    after(() => browser?.close());
+
+    /** A test with a server, a page and storage of its own. */
+    function test(what, run, { prelude = '', missing = [], worker = true } = {}) {
+      it(what, async () => {
+        server = await new Server().start();
+        server.preludes.set('page.js', prelude);
+        if (!worker) missing = [...missing, 'worker.js'];
+        missing.forEach(path => server.missing.add(path));
+        const context = await browser.createBrowserContext();
+        const page = await context.newPage();
+        const game = new Game(page);
+        try {
+          await run(game, page);
+          assert.deepEqual(game.faults, []);
+        } catch (error) {
+          await page.screenshot({ path: join(results, `${name}-failure.png`) }).catch(() => {});
+          throw error;
+        } finally {
+          await context.close();
+          await server.stop();
+        }
+      });
+    }
+
+    const shot = (page, what) => page.screenshot({ path: join(results, `${name}-${what}.png`) });
+
+    test('loads, and shows the menu', async (game, page) => {
+      await game.open(server.address);
+      await game.untilShows('menu');
+      assert.equal(await page.title(), 'KOV');
+      assert.equal(await game.message(), '');
+      assert.ok(!server.asked.some(path => path.startsWith('Songs/')), 'no song before its time');
+      await shot(page, 'menu');
+    });
+
+    test('follows keys through the menu, and keeps the settings', async (game, page) => {
+      await game.open(server.address);
+      await game.press('ArrowDown');
+      const menu = await game.picture();
+      await game.press('Enter');
+      await game.until(async () => !areEqual(menu, await game.picture()), 'the configuration');
+      await shot(page, 'configuration');
+      await game.press('ArrowUp', 'ArrowUp', 'Enter'); // over the end to Save
+      await game.until(() => game.kept('game.conf'), 'the settings in the database');
+      assert.equal(await page.evaluate(() => scrollY), 0);
+    });
+
+    test('plays: a shot, a pause, the end by Escape', async (game, page) => {
+      await game.open(server.address);
+      await game.startLevel();
+      await game.until(async () => (await game.press('d'), await game.colourAt(0.75, 0.5))[2] > 150,
+                       'a line to the right');
+      await shot(page, 'play');
+      await game.press('p');
+      await game.until(async () => !await game.shows('play'), 'the pause');
+      const paused = await game.picture();
+      await shot(page, 'pause');
+      await pause(500);
+      assert.ok(areEqual(paused, await game.picture()), 'nothing moves in the pause');
+      await game.press('p');
+      await game.untilShows('play');
+      await game.press('Escape');
+      await game.untilShows('menu');
+      assert.ok(server.asked.some(path => path.startsWith('Songs/')), 'a song was fetched');
+    });
+
+    test('a whole game: its record is there after a reload', async (game, page) => {
+      const scoreOf = bytes => bytes && new DataView(Uint8Array.from(bytes).buffer).getUint32(0, true);
+      await game.open(server.address);
+      const menu = await game.picture();
+      server.others.set('kov.js', 'kov_watch.js');
+      await page.reload();
+      await game.until(async () => scoreOf(await game.kept('s.dat')) === record, 'the record', 90000);
+      await shot(page, 'game-over');
+      server.others.clear();
+      await page.reload();
+      await game.firstPicture();
+      await game.untilShows('menu');
+      assert.ok(!areEqual(menu, await game.picture()), 'the menu shows it');
+      await shot(page, 'record');
+    }, { worker: false });
+
+    test('a hidden tab stands still and goes on', async (game, page) => {
+      const hide = hidden => page.evaluate(now => {
+        Object.defineProperty(document, 'hidden', { value: now, configurable: true });
+        document.dispatchEvent(new Event('visibilitychange'));
+      }, hidden);
+      await game.open(server.address);
+      await game.startLevel();
+      await pause(2000);
+      await hide(true);
+      const left = await page.evaluate(() => document.getElementById('screen').toDataURL());
+      await pause(1000);
+      assert.equal(await page.evaluate(() => document.getElementById('screen').toDataURL()), left);
+      await hide(false);
+      const first = await game.picture();
+      await game.until(async () => !areEqual(first, await game.picture()), 'the game going on');
+    });
+
+    test('a pad', async (game, page) => {
+      await game.open(server.address);
+      await page.evaluate(() => {
+        const buttons = Array.from({ length: 17 }, () => ({ pressed: false }));
+        window.pad = { connected: true, mapping: 'standard', axes: [0, 0, 0, 0], buttons };
+        navigator.getGamepads = () => [null, window.pad];
+        window.tap = async i => {
+          window.pad.buttons[i].pressed = true;
+          await new Promise(resolve => { setTimeout(resolve, 100); });
+          window.pad.buttons[i].pressed = false;
+          await new Promise(resolve => { setTimeout(resolve, 100); });
+        };
+      });
+      const tap = button => page.evaluate(i => window.tap(i), button);
+      await tap(0); // South: Start Game
+      await game.untilShows('play');
+      await game.until(async () => (await tap(1), await game.colourAt(0.75, 0.5))[2] > 150,
+                       'a line to the right');
+      await page.evaluate(() => { window.pad.axes[0] = -1; });
+      await game.until(async () => (await game.colourAt(0.5, 0.5))[0] < 200, 'the cube moving away');
+      await tap(9); // Start: the pause
+      await game.until(async () => !await game.shows('play'), 'the pause');
+      await tap(9);
+      await tap(8); // Back: the end
+      await game.untilShows('menu');
+    });
+
+    test('a touch screen', async (game, page) => {
+      const touch = (...events) => page.evaluate(async list => {
+        const stage = document.getElementById('stage');
+        for (const [type, x, y, pointerId = 1] of list) {
+          stage.dispatchEvent(new PointerEvent(type, {
+            pointerType: 'touch', pointerId, bubbles: true,
+            clientX: x * stage.clientWidth, clientY: y * stage.clientHeight,
+          }));
+          await new Promise(resolve => { setTimeout(resolve, 100); });
+        }
+      }, events);
+      const tap = (x, y) => touch(['pointerdown', x, y], ['pointerup', x, y]);
+      await game.open(server.address);
+      const menu = await game.picture();
+      await tap(0.35, 0.625); // Configuration
+      await game.until(async () => !areEqual(menu, await game.picture()), 'the configuration');
+      const settings = await game.picture();
+      await tap(0.6, 0.275 - 0.005); // the value of Music Volume or of a setting near it
+      await game.until(async () => !areEqual(settings, await game.picture()), 'a setting changed');
+      await tap(0.27, 0.527); // Cancel
+      await game.untilShows('menu');
+      await tap(0.35, 0.56); // Start Game
+      await game.untilShows('play');
+      await shot(page, 'touch');
+      await game.until(async () => {
+        await touch(['pointerdown', 0.7, 0.7], ['pointermove', 0.8, 0.7], ['pointerup', 0.8, 0.7]);
+        return (await game.colourAt(0.75, 0.5))[2] > 150;
+      }, 'a line by a swipe to the right');
+      await touch(['pointerdown', 0.2, 0.6], ['pointermove', 0.1, 0.6]);
+      await game.until(async () => (await game.colourAt(0.5, 0.5))[0] < 200, 'the cube moving away');
+      await touch(['pointerup', 0.1, 0.6]);
+      await page.click('#pause');
+      await game.until(async () => !await game.shows('play'), 'the pause');
+      await page.click('#leave');
+      await game.untilShows('menu');
+    });
+
+    test('a lost context comes back', async (game, page) => {
+      await game.open(server.address);
+      await game.untilShows('menu');
+      await page.evaluate(() => {
+        const gl = document.getElementById('screen').getContext('webgl');
+        window.taker = gl.getExtension('WEBGL_lose_context');
+        window.taker.loseContext();
+      });
+      await game.until(async () => /waits until it is back/.test(await game.message()), 'a message');
+      await page.evaluate(() => window.taker.restoreContext());
+      await game.until(async () => await game.message() === '', 'the message going');
+      await game.untilShows('menu');
+    });
+
+    test('without storage it runs, and says so', async (game) => {
+      await game.open(server.address);
+      assert.match(await game.note(), /keeps nothing here/);
+      await game.startLevel();
+    }, { prelude: without.storage });
+
+    for (const [what, sentence] of [['webGL', /draws with WebGL/],
+                                    ['webAssembly', /needs WebAssembly/]])
+      test(`without ${what} it says so`, async (game, page) => {
+        await page.goto(server.address);
+        await game.until(async () => sentence.test(await game.message()), 'a sentence');
+      }, { prelude: without[what] });
+
+    for (const file of ['kov.wasm', 'kov.js'])
+      test(`without ${file} it says so`, async (game, page) => {
+        await page.goto(server.address);
+        await game.until(async () => /could not be fetched/.test(await game.message()), 'a sentence');
+        game.faults = game.faults.filter(fault => !/fetch|import|load|abort/i.test(fault));
+      }, { missing: [file] });
+
+    test('works without a connection after the first visit', async (game, page) => {
+      await game.open(server.address);
+      await page.evaluate(async () => {
+        await navigator.serviceWorker.ready;
+        while (!navigator.serviceWorker.controller)
+          await new Promise(resolve => { setTimeout(resolve, 50); });
+      });
+      await server.stop();
+      await page.reload();
+      await game.firstPicture();
+      await game.startLevel();
+    });
+
+    test('"Exit" offers to start again', async (game, page) => {
+      await game.open(server.address);
+      await game.press('ArrowUp', 'Enter');
+      await game.until(async () => /has ended/.test(await game.message()), 'the last page');
+      await Promise.all([page.waitForNavigation(), page.click('#again')]);
+      await game.firstPicture();
+      await game.untilShows('menu');
+    });
+  });
