@@ -82,6 +82,14 @@ def tick_rows(bench):
     yield ("allocations in such a tick and frame", "%.0f" % allocations, "", None, by)
 
 
+def elementary_rows(bench):
+    for name in ("sin", "cos", "atan", "atan2", "acos", "asin"):
+        own, library = (1e9 / bench["elementary/" + name + kind]["items_per_second"]
+                        for kind in ("", "/library"))
+        yield ("`math::%s`" % name, "%.0f ns" % own, "C library %.0f ns" % library, own / library,
+               "`kov_bench`")
+
+
 # Frames in a window
 
 
@@ -270,7 +278,7 @@ def table(rows):
 
 def main():
     bench = benchmarks()
-    rows = [*tick_rows(bench), *frame_rows(), *start_rows(), *memory_rows(), *play_rows(),
+    rows = [*tick_rows(bench), *elementary_rows(bench), *frame_rows(), *start_rows(), *memory_rows(), *play_rows(),
             *idle_rows(), *replay_rows()]
     curves = plot([("ms a tick", growth_of_ticks(bench)), ("ms a frame", growth_of_frames())])
     with open(PLOT, "w", encoding="utf-8") as file:

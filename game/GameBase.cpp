@@ -4,14 +4,12 @@
 #include "Framework/Graphics/Renderer.h"
 #include "Framework/Timer.h"
 #include "Framework/input/InputHandler.h"
-#include "Framework/input/KeyMapper.h"
 #include "Framework/input/MenuInputHandler.h"
 #include "Framework/menus/MainMenu.h"
 #include "Framework/physics/PhysicsProcessor.h"
+#include "game/Actions.h"
 #include "game/FModMP3Input.h"
 #include "game/GameLevel.h"
-
-#include <SDL_keysym.h>
 
 #include <iostream>
 
@@ -20,20 +18,6 @@ using namespace quorva;
 namespace {
 
 const math::Vector gravity(0.0, -6.0, 0.0); // without effect: the physics never applies it
-
-/// Every action with its default key and joystick button, in the order of registration.
-const struct {
-    const char* action;
-    int key;
-    int button;
-} default_actions[] = {
-    {"Menu Select", SDLK_RETURN, 2},          {"Menu Escape", SDLK_ESCAPE, 8},
-    {"Game Pause", SDLK_p, input::no_button}, {"Up", SDLK_UP, input::no_button},
-    {"Down", SDLK_DOWN, input::no_button},    {"Left", SDLK_LEFT, input::no_button},
-    {"Right", SDLK_RIGHT, input::no_button},  {"Fire Up", SDLK_w, input::no_button},
-    {"Fire Down", SDLK_s, input::no_button},  {"Fire Left", SDLK_a, input::no_button},
-    {"Fire Right", SDLK_d, input::no_button},
-};
 
 } // namespace
 
@@ -68,11 +52,7 @@ GameBase::~GameBase() {
 }
 
 void GameBase::setDefaultKeyMapping() {
-    input::KeyMapperClass& keys = input::KeyMapper::Instance();
-    for (const auto& row : default_actions)
-        keys.addMappableKey(row.action, static_cast<input::QuorvaKey>(row.key),
-                            static_cast<input::QuorvaJKey>(row.button), 0);
-    keys.readBindFiles();
+    mapActions();
 }
 
 void GameBase::receiveMessage(const messages::LoadLevel* m) {

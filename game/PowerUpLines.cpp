@@ -24,8 +24,8 @@ constexpr double fade_step = 0.00125;    // alpha per tick and ray
 
 void placeEnd(const ParticleLine& ray) {
     const double radians = ray.angle * math::pi / 180.0;
-    ray.line->end =
-        math::Point(math::cos(radians) * ray.length, math::sin(radians) * ray.length, 0.0);
+    const math::SinCos direction = math::sinCos(radians);
+    ray.line->end = math::Point(direction.cos * ray.length, direction.sin * ray.length, 0.0);
 }
 
 } // namespace

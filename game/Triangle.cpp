@@ -36,8 +36,8 @@ double squaredLength(const math::Vector& v) {
 /// `corner` of the model turned by `radians`, at `length` from the origin.
 /// With x at 0 the slope is infinite, and atan gives the right angle that is wanted.
 math::Point turned(const math::Point& corner, double radians, double length) {
-    const double direction = math::atan(corner.y / corner.x) + radians;
-    return {math::cos(direction) * length, math::sin(direction) * length, 0.0};
+    const math::SinCos direction = math::sinCos(math::atan(corner.y / corner.x) + radians);
+    return {direction.cos * length, direction.sin * length, 0.0};
 }
 
 math::Vector unitInPlane(const math::Point& from, const math::Point& to) {
@@ -99,8 +99,8 @@ void Triangle::changeRotation(double radians) {
 }
 
 void Triangle::changeMovement() {
-    const double heading = angle + math::right_angle;
-    step = math::Vector(10.0 * math::cos(heading), 10.0 * math::sin(heading), step.z);
+    const math::SinCos heading = math::sinCos(angle + math::right_angle);
+    step = math::Vector(10.0 * heading.cos, 10.0 * heading.sin, step.z);
     step.normalise();
     step.x /= slowest_divisor - speed;
     step.y /= slowest_divisor - speed;

@@ -1,5 +1,6 @@
 #include "Framework/Config.h"
 #include "Framework/Game.h"
+#include "Framework/Graphics/VideoDriver.h"
 #include "game/GameBase.h"
 #include "game/GameIdentity.h"
 
@@ -27,6 +28,7 @@ int main(int argc, char* argv[]) {
     introduceGame();
     config::Config::Instance().setDefaults();
     config::Config::Instance().readFile();
+    graphics::keepToDriversWithGL();
     if (SDL_Init(SDL_INIT_VIDEO | SDL_INIT_JOYSTICK) < 0)
         std::cerr << "Can't init the input handler\n"; // what needs it fails later, with a reason
     if (!readArguments(argc, argv)) {

@@ -8,6 +8,7 @@
 #include "replay/Words.h"
 
 #include "Framework/GameInfo.h"
+#include "Framework/Graphics/VideoDriver.h"
 #include "Framework/Utility.h"
 #include "game/GameIdentity.h"
 
@@ -34,7 +35,8 @@ const char* const usage_text =
     "       kov-replay verify FILE...                    play again, unseen, and compare\n"
     "       kov-replay film FILE OUT.mp4 [--size WxH]    make a film, by the program ffmpeg\n"
     "       kov-replay show FILE                         say what is in it\n"
-    "In front of these: --data FOLDER, the game's files; the current folder if not given.\n";
+    "       kov-replay --help | --version\n"
+    "In front of these: --data FOLDER, other game files than its own.\n";
 
 const char* const ending = ".kovreplay";
 const char* const replay_folder = "Replays"; // where the game keeps its files
@@ -103,12 +105,18 @@ void nameFile(const fs::path& path, const Recorder& recorder, bool nameGiven) {
     std::cout << "kept in " << name.string() << '\n';
 }
 
+void requireDisplay() {
+    quorva::graphics::keepToDriversWithGL();
+    if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
+}
+
 int record(const fs::path&, Words words) {
     const auto dashes = std::find(words.begin(), words.end(), "--");
     Words options;
     if (dashes != words.end()) options.assign(dashes + 1, words.end());
     words.erase(dashes, words.end());
     requireFiles(words, 0, 1);
+    requireDisplay();
     const bool named = !words.empty();
     const fs::path path =
         fs::absolute(named ? fs::path(words[0]) : fs::path(replay_folder) / (stamp() + ending));
@@ -156,10 +164,6 @@ int judge(Player& player) {
     if (player.difference().empty()) return 0;
     complain(player.difference());
     return exit_differs;
-}
-
-void requireDisplay() {
-    if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
 }
 
 int watch(const fs::path& data, Words words) {
@@ -248,7 +252,10 @@ const struct {
 };
 
 int run(Words words) {
-    const std::string data = takeOption(words, "--data");
+    // The launcher says where the game is installed; what the user says comes behind it.
+    std::string data = ".";
+    for (std::string given; given = takeOption(words, "--data"), !given.empty();)
+        data = given;
     if (words.empty()) throw BadUsage("");
     const std::string name = words[0];
     words.erase(words.begin());
@@ -262,7 +269,7 @@ int run(Words words) {
         return 0;
     }
     for (const auto& command : commands)
-        if (name == command.name) return command.run(data.empty() ? "." : data, words);
+        if (name == command.name) return command.run(data, words);
     throw BadUsage("no such command: " + name);
 }
 

@@ -66,7 +66,32 @@ if [ "$(id -u)" -ne 0 ]; then
         exit 1
     fi
 fi
-$as_root apt-get update -qq
+
+# Waits while another program has one of apt's locks, an automatic update for example. By itself
+# apt-get waits for dpkg's alone, and says nothing about it.
+patience=300 # seconds
+errors=$(mktemp)
+trap 'rm -f "$errors"' EXIT
+run_apt() { # arguments of apt-get
+    until="" left=0
+    while :; do
+        code=0
+        $as_root env DEBIAN_FRONTEND=noninteractive LC_ALL=C \
+            apt-get -qq -o DPkg::Lock::Timeout=$left "$@" >/dev/null 2>"$errors" || code=$?
+        if [ "$code" -eq 0 ] || ! grep -q 'Could not get lock' "$errors"; then break; fi
+        if [ -z "$until" ]; then
+            holder=$(sed -n 's/.*held by \(process .*)\).*/\1/p' "$errors")
+            echo "apt is busy: waits for ${holder:-another program}, up to $((patience / 60)) minutes."
+            until=$(($(date +%s) + patience))
+        fi
+        left=$((until - $(date +%s)))
+        [ $left -gt 0 ] || break
+        sleep 1
+    done
+    cat "$errors" >&2
+    return "$code"
+}
+run_apt update
 
 chosen=""
 for choice in $missing; do
@@ -84,5 +109,4 @@ done
 [ -n "$chosen" ] || exit 0
 echo "Installing:$chosen"
 # shellcheck disable=SC2086 # a list of words
-$as_root env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -qq --no-install-recommends $chosen >/dev/null
+run_apt install -y --no-install-recommends $chosen

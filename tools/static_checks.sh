@@ -7,7 +7,7 @@ build=${1:-build/release}
 
 findings=$(mktemp)
 trap 'rm -f "$findings"' EXIT
-sources=$(find Framework game headless platform replay -name '*.cpp')
+sources=$(find Framework game headless keys packaging platform replay -name '*.cpp')
 good=true
 # shellcheck disable=SC2086 # a list of words
 printf '%s\n' $sources |

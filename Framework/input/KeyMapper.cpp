@@ -1,6 +1,5 @@
 #include "Framework/input/KeyMapper.h"
 
-#include "Framework/Constants.h"
 #include "Framework/Files.h"
 #include "Framework/Utility.h"
 
@@ -13,7 +12,6 @@ namespace quorva::input {
 
 namespace {
 
-const std::string bind_file_name = STARTING_PATH + "bind1.conf";
 const std::string joystick_prefix = "JOY";
 constexpr unsigned short bound_player = 0;
 constexpr int joystick_buttons = 16;
@@ -24,7 +22,7 @@ const struct {
     const char* word;
     QuorvaKey key;
 } key_words[] = {
-    {"BACKSPACE", 8}, {"TAB", 9},        {"ENTER", 13},     {"RETURN", 13},  {"ESCAPE", 27},
+    {"BACKSPACE", 8}, {"TAB", 9},        {"RETURN", 13},    {"ENTER", 13},   {"ESCAPE", 27},
     {"SPACE", 32},    {"NUM0", 256},     {"NUM1", 257},     {"NUM2", 258},   {"NUM3", 259},
     {"NUM4", 260},    {"NUM5", 261},     {"NUM6", 262},     {"NUM7", 263},   {"NUM8", 264},
     {"NUM9", 265},    {"NUM.", 266},     {"NUM/", 267},     {"NUM*", 268},   {"NUM-", 269},
@@ -71,6 +69,29 @@ QuorvaJKey jsbuttonFromWord(const std::string& word) {
     return no_button;
 }
 
+std::string wordFromKey(QuorvaKey key) {
+    const auto* const found = std::find_if(std::begin(key_words), std::end(key_words),
+                                           [key](const auto& row) { return row.key == key; });
+    if (found != std::end(key_words)) return found->word;
+    const bool isLetter = key >= 'a' && key <= 'z';
+    const auto character = static_cast<char>(isLetter ? key - 'a' + 'A' : key);
+    return keyFromCharacter(character) == key ? std::string(1, character) : "";
+}
+
+std::string wordFromJsbutton(QuorvaJKey button) {
+    return button < joystick_buttons ? joystick_prefix + std::to_string(button + 1) : "";
+}
+
+std::vector<std::string> bindFields(std::string line) {
+    boost::trim(line);
+    if (line.empty() || line.front() == '#') return {};
+    std::vector<std::string> fields = utility::splitCompressed(line, ",");
+    utility::trimStringsInVector(fields);
+    utility::removeEmptyStringsFromVector(fields);
+    if (fields.size() != 2 && fields.size() != 3) fields.clear();
+    return fields;
+}
+
 bool KeyMapperClass::addMappableKey(const std::string& name, QuorvaKey key, QuorvaJKey jsButton,
                                     unsigned short player) {
     if (getButton(name, player) != nullptr) return false;
@@ -92,17 +113,10 @@ void KeyMapperClass::readBindFiles() {
         return;
     }
     std::string line;
-    while (std::getline(file, line))
-        readLine(line);
-}
-
-void KeyMapperClass::readLine(std::string line) {
-    boost::trim(line);
-    if (line.empty() || line.front() == '#') return;
-    std::vector<std::string> fields = utility::splitCompressed(line, ",");
-    utility::trimStringsInVector(fields);
-    utility::removeEmptyStringsFromVector(fields);
-    if (fields.size() == 2 || fields.size() == 3) bind(fields);
+    while (std::getline(file, line)) {
+        const std::vector<std::string> fields = bindFields(line);
+        if (!fields.empty()) bind(fields);
+    }
 }
 
 void KeyMapperClass::bind(const std::vector<std::string>& fields) {

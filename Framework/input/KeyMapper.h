@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Framework/Constants.h"
 #include "Framework/Singleton.h"
 
 #include <boost/noncopyable.hpp>
@@ -12,6 +13,8 @@ namespace quorva::input {
 
 using QuorvaKey = unsigned short;  ///< an SDL 1.2 key symbol
 using QuorvaJKey = unsigned short; ///< a joystick button, 0 to 15
+
+const std::string bind_file_name = STARTING_PATH + "bind1.conf";
 
 constexpr QuorvaKey unknown_key = 323; ///< no event carries it
 constexpr QuorvaJKey no_button = 999;  ///< no event carries it
@@ -44,7 +47,6 @@ public:
     std::vector<std::unique_ptr<InputKey>> keys; ///< in the order of registration
 
 private:
-    void readLine(std::string line);
     void bind(const std::vector<std::string>& fields);
 };
 
@@ -56,5 +58,14 @@ QuorvaKey keyFromWord(const std::string& word);
 
 /// Button 0 to 15 of "JOY1" to "JOY16", upper case alone; anything else gives no_button.
 QuorvaJKey jsbuttonFromWord(const std::string& word);
+
+/// What keyFromWord and jsbuttonFromWord make a key or button of; empty if no word does. Of two
+/// words it is the first that the manual names.
+std::string wordFromKey(QuorvaKey key);
+std::string wordFromJsbutton(QuorvaJKey button);
+
+/// The fields of a bind file's line: an action, and one or two words. None if the line is a remark
+/// or doesn't count.
+std::vector<std::string> bindFields(std::string line);
 
 } // namespace quorva::input

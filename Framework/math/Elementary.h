@@ -10,6 +10,11 @@ namespace quorva::math {
 double sin(double x); ///< not-a-number for infinities
 double cos(double x); ///< not-a-number for infinities
 
+struct SinCos {
+    double sin, cos;
+};
+SinCos sinCos(double x); ///< both, for little more than one costs
+
 double atan(double x);            ///< [-pi/2, pi/2]
 double atan2(double y, double x); ///< [-pi, pi], the direction of (x, y) counted from +x to +y
 double asin(double x);            ///< [-pi/2, pi/2]; not-a-number beyond -1 and 1

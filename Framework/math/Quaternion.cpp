@@ -29,8 +29,8 @@ void divideByNorm(Quaternion& q) {
 
 void rotate(double angle, const Vector& axis, Quaternion& q) {
     const double half = 0.5 * angle * pi / 180.0;
-    const double sine = math::sin(half);
-    Quaternion d(math::cos(half), axis.x * sine, axis.y * sine, axis.z * sine);
+    const auto [sine, cosine] = math::sinCos(half);
+    Quaternion d(cosine, axis.x * sine, axis.y * sine, axis.z * sine);
     divideByNorm(d);
     q = Quaternion(q.w + d.w, q.x + d.x, q.y + d.y, q.z + d.z);
     divideByNorm(q);

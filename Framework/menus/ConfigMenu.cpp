@@ -5,20 +5,13 @@
 #include "Framework/Graphics/Stuff/GWord.h"
 #include "Framework/Managers/ColourManager.h"
 #include "Framework/config/Settings.h"
+#include "Framework/menus/Resolutions.h"
 
 #include <algorithm>
 
 namespace quorva::menus {
 
 namespace {
-
-/// Width, height. Fixed: the display is not asked what it can do.
-const unsigned short resolution_table[][2] = {
-    {320, 240},   {640, 480},   {720, 480},   {720, 576},   {800, 600},   {960, 600},
-    {1024, 768},  {1088, 612},  {1152, 864},  {1280, 720},  {1280, 768},  {1280, 800},
-    {1280, 960},  {1280, 1024}, {1366, 768},  {1440, 900},  {1440, 1050}, {1600, 1024},
-    {1600, 1200}, {1680, 1050}, {1920, 1080}, {1920, 1200}, {1920, 1440}, {2048, 1536},
-};
 
 constexpr double name_x = -8.0, value_x = 3.0, heading_x = -10.0, help_x = -18.0;
 constexpr double title_scale = 1.5, heading_scale = 1.25;
@@ -39,8 +32,8 @@ std::string sizeText(unsigned short width, unsigned short height) {
 } // namespace
 
 ConfigMenu::ConfigMenu(Menu* parent_) : Menu(parent_) {
-    for (const auto& size : resolution_table)
-        resolutions.emplace_back(size[1], size[0]);
+    for (const Resolution& size : resolution_table)
+        resolutions.emplace_back(size.height, size.width);
     const auto& config = config::Config::Instance();
     width = config.getScreenWidth();
     height = config.getScreenHeight();

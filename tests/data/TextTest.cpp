@@ -3,6 +3,7 @@
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/RenderableThing.h"
 #include "Framework/Graphics/Stuff/GWord.h"
+#include "Framework/Managers/FontManager.h"
 #include "Framework/menus/ConfigMenu.h"
 #include "Framework/menus/MainMenu.h"
 #include "game/AboutMenu.h"
@@ -140,4 +141,16 @@ TEST_F(TextTest, EveryVerdictOnAGame) {
             const GameOverScreen page;
             expectInOrder(page, 5);
         }
+}
+
+TEST_F(TextTest, ARunOfBlanksLooksLikeOneWiderGap) {
+    graphics::Font& font = FontManager::Instance().getV("Menu Font");
+    const auto width = [&font](std::size_t blanks) {
+        const primitives::Box box = font.getBoundingBox("Save" + std::string(blanks, ' ') + "CPU");
+        return box.right - box.left;
+    };
+    for (const std::size_t blanks : {3, 4, 5}) {
+        EXPECT_GT(width(blanks), width(1));
+        EXPECT_LE(width(blanks), width(1) + 0.25) << blanks << " blanks";
+    }
 }

@@ -259,6 +259,15 @@ TEST_F(InputTest, KnowsTheWordsOfKeysAndButtons) {
             EXPECT_EQ(keyFromWord(row.words[i]), row.first + i) << row.words[i];
     for (char c = 'a'; c <= 'z'; ++c)
         EXPECT_EQ(keyFromWord({c}), c);
+    std::size_t known = 0;
+    for (QuorvaKey key = 0; key <= unknown_key; ++key) {
+        const std::string word = wordFromKey(key);
+        if (word.empty()) continue;
+        ++known;
+        EXPECT_EQ(keyFromWord(word), key) << word;
+    }
+    EXPECT_EQ(known, 5 + 10 + 1 + 26 + 27 + 10U);
+    EXPECT_EQ(wordFromKey(SDLK_RETURN), "RETURN");
     for (const auto& [word, told] : {std::pair{"f2", "F2"},
                                      {"\x7f\xc3\xa4", "\\x7f\xc3\xa4"},
                                      {"JOY", "JOY"},
@@ -269,7 +278,9 @@ TEST_F(InputTest, KnowsTheWordsOfKeysAndButtons) {
         EXPECT_EQ(errorsOf([word = word] { EXPECT_EQ(keyFromWord(word), 323) << word; }),
                   std::string("Key not found: ") + told + "\n");
     for (int button = 0; button < 16; ++button)
-        EXPECT_EQ(jsbuttonFromWord("JOY" + std::to_string(button + 1)), button);
+        EXPECT_EQ(jsbuttonFromWord(wordFromJsbutton(static_cast<QuorvaJKey>(button))), button);
+    EXPECT_EQ(wordFromJsbutton(15), "JOY16");
+    EXPECT_EQ(wordFromJsbutton(16), "");
     for (const char* word : {"JOY0", "JOY17", "joy1", "JOY"})
         EXPECT_EQ(jsbuttonFromWord(word), no_button) << word;
     EXPECT_FALSE(keys.addMappableKey("Up", 1, 1, 0));

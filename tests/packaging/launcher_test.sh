@@ -69,6 +69,16 @@ expect "first start" "arguments: -f --Rate=41000; colours: shipped; songs: one ;
 holds "first start" "$home/s.dat" 1234
 holds "help page names it" "$home/manual.html" manual
 
+# Full screen as the desktop is: options for one run, whatever else is given and whatever is saved.
+echo '#!/bin/sh
+echo -w=1600 -l=900' >"$programs/kov-desktop" && chmod +x "$programs/kov-desktop"
+kov -u --desktop "-n=40 "
+expect "desktop" "arguments: -u --FullScreen -w=1600 -l=900 -n=40 ;"
+holds "desktop" "$home/game.conf" set
+echo 'exit 1' >"$programs/kov-desktop"
+kov --desktop
+expect "desktop, of a size unknown" "arguments: --FullScreen;"
+
 # What is the player's own outlives an upgrade; what is shipped follows it.
 echo mine >"$home/Songs/mine.ogg" && rm "$home/Songs/one" "$home/data/one" && echo own >"$home/data/one"
 ln -s /media/stick/away.ogg "$home/Songs/away.ogg" && ln -sf "$root/mine/kov/Sounds/one" "$home/Sounds/one"
@@ -173,6 +183,8 @@ DISPLAY='' kov && fail "no display, and that is success"
 expect "no display" "kov: there is no display here"
 DISPLAY='' kov --help
 expect "help needs no display" "arguments: --help"
+expect "help names the launcher's own options" "  --desktop"
+ROUND='exit 3' kov -h && fail "a failed help, and that is success"
 DISPLAY='' kov --version
 grep -qxE 'KOV [0-9.]+' out || fail "no version: $(cat out)"
 
@@ -188,17 +200,28 @@ expect "keeping a game without a name" "arguments: record; colours: "
 expect "proving a game" "arguments: --data $share verify a b; colours: "
 rm "$bin/kov-replay"
 
+# By a third name it asks for the keys of that folder, and does so nowhere else.
+cp "$programs/kov" "$programs/kov-keys" && ln -s kov "$bin/kov-keys"
+keys() { "$bin/kov-keys" >"$root/out" 2>&1 </dev/null; }
+ROUND='pwd; echo "Up, K" >bind1.conf' keys
+expect "keys, where" "$home"
+holds "keys" "$home/bind1.conf" "Up, K"
+XDG_DATA_HOME="$root/file" keys && fail "no folder for the keys, and that is success"
+expect "keys without a folder" "Your keys are as they were."
+expect_not "keys without a folder" "arguments:"
+rm "$bin/kov-keys"
+
 # Started by its icon: each way to tell the player is taken if those before it aren't there.
 for tool in xmessage zenity notify-send; do
     double $tool "printf '%s ' $tool \"\$@\" >>'$root/shown'"
     : >shown
     XDG_DATA_HOME="$root/file" kov
-    soon "shown by $tool" grep -q "^$tool.*can't write to" shown
+    soon "shown by $tool" grep -q "^$tool.*Can't write to" shown
 done
 double notify-send false # nobody listens
 : >shown
 XDG_DATA_HOME="$root/file" ROUND='exit 3' kov || true
-soon "shown by zenity" grep -q "^zenity.*can't write to.*" shown
+soon "shown by zenity" grep -q "^zenity.*--text=Can't write to.*" shown
 soon "a failed game is shown" grep -q "The game has failed" shown
 : >shown && XDG_DATA_HOME="$root/file" SHELL=/bin/sh script -qec "$bin/kov" /dev/null >out && sleep 0.2
 expect "in a terminal" "can't write to"

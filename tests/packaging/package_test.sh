@@ -15,7 +15,7 @@ for asset in data/* fonts/* Sounds/* Songs/* textures/*; do
 done
 says debian/changelog "kov ($version)"
 says packaging/org.kovgame.kov.metainfo.xml "<release version=\"$version\""
-for page in kov kov-replay; do says packaging/$page.6 "\"KOV $version\""; done
+for page in kov kov-keys kov-replay; do says packaging/$page.6 "\"KOV $version\""; done
 says manual.html "version $version"
 says game/AboutMenu.cpp "KOV $version"
 [ "$(./play.sh --version)" = "KOV $version" ] || { echo "FAILED: play.sh --version" && failures=1; }
@@ -23,7 +23,7 @@ says game/AboutMenu.cpp "KOV $version"
 for language in de es fr it pl pt ru; do
     says packaging/kov-replay.desktop "Comment[$language]="
     for key in GenericName Comment Keywords; do says packaging/kov.desktop "${key}[$language]="; done
-    [ "$(grep -c "^Name\[$language\]=" packaging/kov.desktop)" -eq 3 ] ||
+    [ "$(grep -c "^Name\[$language\]=" packaging/kov.desktop)" -eq 4 ] ||
         { echo "FAILED: actions in $language" && failures=1; }
 done
 exit $failures

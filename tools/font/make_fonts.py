@@ -19,7 +19,7 @@ from shapely.geometry.polygon import orient
 from shapely.ops import unary_union
 
 import glyphs
-from kerning import KERNING, LEFTS
+from kerning import KERNING, LEFTS, REACH
 
 GRID = 64  # steps per em
 UNITS = 1024  # font units per em
@@ -36,19 +36,21 @@ class Style:
     """Lengths in 64ths of the em."""
 
     def __init__(self, name, strokes, stroke, bearings, lefts, advances, step, height, depth,
-                 kerning):
+                 kerning, reach):
         self.name, self.strokes, self.half = name, strokes, stroke / 2
         self.left, self.right = bearings
         self.lefts, self.advances = lefts, advances  # of some characters, instead of the usual
         self.step = step  # the advances of all others are multiples of it
         self.height, self.depth = height, depth  # of a line, from its base
         self.kerning = kerning
+        self.reach = reach  # from where a character measures, if not from its ink
 
 
 STYLES = [
     Style("KovMenu", glyphs.MENU, 7, (4, 5), {**LEFTS, **dict.fromkeys(DIGITS, 2)},
-          {" ": 16, **dict.fromkeys(DIGITS, 24)}, 8, 36, 9, KERNING),
-    Style("KovText", glyphs.PAGE, 9, (-3, 13), dict.fromkeys(",:;", -6), {" ": 16}, 16, 49, 14, {}),
+          {" ": 16, **dict.fromkeys(DIGITS, 24)}, 8, 36, 9, KERNING, REACH),
+    Style("KovText", glyphs.PAGE, 9, (-3, 13), dict.fromkeys(",:;", -6), {" ": 16}, 16, 49, 14,
+          {}, {}),
 ]
 
 
@@ -75,6 +77,13 @@ def contours(shape):
         yield from [part.exterior, *part.interiors]
 
 
+def extend(pen, x):
+    """Adds a contour without area: nothing is drawn, but the box that is measured reaches x."""
+    pen.moveTo((on_grid(x), 0))
+    pen.lineTo((on_grid(x), on_grid(1)))
+    pen.closePath()
+
+
 def draw(character, style):
     """The glyph and its advance in font units."""
     pen = TTGlyphPen(None)
@@ -90,6 +99,8 @@ def draw(character, style):
                 if placed[i] != placed[i - 1]:
                     pen.lineTo(placed[i])
             pen.closePath()
+    if character in style.reach:
+        extend(pen, style.reach[character])
     stepped = math.floor(advance / style.step + 0.5) * style.step
     return pen.glyph(), on_grid(style.advances.get(character, stepped))
 

@@ -47,6 +47,7 @@ public:
 
     // The scenes.
     void pages();
+    void display();
     void fence();
     void film();
     void powerUps();
@@ -120,6 +121,16 @@ void Gallery::pages() {
     save("config-accuracy");
     press(SDLK_DOWN);
     save("config-cpu");
+}
+
+void Gallery::display() {
+    startGame();
+    // Each digit in an odd and in an even place: they fall on the pixels in different ways.
+    for (const std::uint32_t score : {1583246790U, 3852064971U}) {
+        Marvo::Instance().score = score;
+        run.tick();
+        save("display-" + std::to_string(score));
+    }
 }
 
 /// Up to the first shot.
@@ -235,6 +246,7 @@ const struct {
     const char* shows;
 } scenes[] = {
     {"pages", &Gallery::pages, "main menu, configuration, help, about"},
+    {"display", &Gallery::display, "the display's row with all digits"},
     {"fence", &Gallery::fence, "three triangles before and after their fence closes; the pause"},
     {"film", &Gallery::film, "the frames of a catch and of what follows"},
     {"power-ups", &Gallery::powerUps, "one of each, and of the bombs"},
