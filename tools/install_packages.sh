@@ -1,7 +1,8 @@
 #!/bin/sh
-# Installs those of the named groups' Debian packages that are missing: build, test, web,
-# webtest, check, fuzz, demo, package, portable, gallery, assets, report. Of "one|other" one will do: the one that is
-# installed, else the first that this release has. "one|" is left out where the release hasn't got it.
+# Installs those of the named groups' Debian packages that are missing: build, test, web, webtest,
+# check, fuzz, demo, package, portable, gallery, assets, report. Of "one|other" one will do: the one
+# that is installed, else the first that this release has. "one|" is left out where the release
+# hasn't got it.
 set -eu
 
 if ! command -v apt-get >/dev/null; then
@@ -24,8 +25,8 @@ for group in "$@"; do
     web) packages="$packages emscripten node-pako g++ cmake ninja-build pkgconf|pkg-config
         libsdl1.2-dev|libsdl1.2-compat-dev libglew-dev libftgl-dev libfreetype-dev libboost-dev
         zlib1g-dev libsndfile1-dev libmpg123-dev python3" ;;
-    webtest) packages="$packages chromium chromium-driver firefox-esr python3-selenium python3-pil
-        python3-numpy xvfb" ;;
+    webtest) packages="$packages chromium firefox-esr xvfb xauth"
+        command -v npm >/dev/null || packages="$packages npm" ;; # node's own packages bring it
     check) packages="$packages clang-tidy cppcheck" ;;
     fuzz) packages="$packages clang libclang-rt-$(clang_version)-dev" ;;
     demo) packages="$packages xvfb xdotool imagemagick" ;;

@@ -53,5 +53,7 @@ async function answer(request) {
 
 self.addEventListener('fetch', event => {
   const isOurs = event.request.url.startsWith(self.registration.scope);
-  if (event.request.method === 'GET' && isOurs) event.respondWith(answer(event.request));
+  if (event.request.method !== 'GET' || !isOurs) return;
+  const withoutConnection = () => new Response(null, { status: 504 });
+  event.respondWith(answer(event.request).catch(withoutConnection));
 });
