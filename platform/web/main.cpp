@@ -7,27 +7,51 @@
 #include "game/GameIdentity.h"
 #include "platform/web/MenuTouch.h"
 #include "platform/web/gl/Frame.h"
+#include "replay/Recorder.h"
 
 #include <SDL.h>
 #include <emscripten.h>
 #include <sys/stat.h>
 
 #include <cstdint>
+#include <iostream>
 #include <memory>
+#include <string>
 
 using namespace quorva;
 
 namespace {
 
-std::unique_ptr<GameBase> game; // null once it has ended
-bool isSeen = true;             // what the pass draws
-std::uint32_t tickSeen = 0;     // the last that has been drawn
+/// Of the page: the file to keep the games in.
+const std::string keep_option = "--keep-in=";
+
+std::unique_ptr<GameBase> game;             // null once it has ended
+std::unique_ptr<replay::Recorder> recorder; // null if nothing is kept
+bool isSeen = true;                         // what the pass draws
+std::uint32_t tickSeen = 0;                 // the last that has been drawn
 
 /// Between two ticks nothing moves, and a player who saves power is shown each of them once.
 bool isIdle() {
     const TimerClass& timer = Timer::Instance();
     return config::Config::Instance().getSaveCPU() && !timer.paused && !timer.isItTimeToProcess() &&
            timer.blips == tickSeen;
+}
+
+void keepGamesIn(const std::string& path) {
+    try {
+        recorder = std::make_unique<replay::Recorder>(path);
+        replay::insert(recorder.get());
+    } catch (const std::runtime_error& e) {
+        std::cerr << "can't write " << path << ": " << e.what() << '\n';
+    }
+}
+
+void end() {
+    game.reset();
+    if (recorder == nullptr) return;
+    recorder->finish();
+    replay::insert(nullptr);
+    recorder.reset();
 }
 
 } // namespace
@@ -39,8 +63,13 @@ int main(int argc, char* argv[]) {
     config::ConfigClass& config = config::Config::Instance();
     config.setDefaults();
     config.readFile();
-    for (int i = 1; i < argc; ++i)
-        config.parseCmdLineArgs(argv[0], argv[i]);
+    for (int i = 1; i < argc; ++i) {
+        const std::string argument = argv[i];
+        if (argument.compare(0, keep_option.size(), keep_option) == 0)
+            keepGamesIn(argument.substr(keep_option.size()));
+        else
+            config.parseCmdLineArgs(argv[0], argv[i]);
+    }
     config.activateConfig();
     graphics::Renderer::drawsFrame = [] { return isSeen; };
     game = std::make_unique<GameBase>();
@@ -59,7 +88,7 @@ EMSCRIPTEN_KEEPALIVE bool kovPass(bool seen) {
     web::seeFrames(seen);
     game->pass();
     if (seen) tickSeen = Timer::Instance().blips;
-    if (game->dead) game.reset();
+    if (game->dead) end();
     return game != nullptr;
 }
 

@@ -1,9 +1,11 @@
 #!/usr/bin/env python3
 """Puts together the folder that a web server serves.
   make_site.py SOURCE PROGRAM OUTPUT
-SOURCE is the project's folder, PROGRAM that of kov.js and kov.wasm."""
+SOURCE is the project's folder, PROGRAM that of kov.js and kov.wasm. KOV_ADDRESS in the environment
+is where the page will be: only with it can others show a picture beside a link to the page."""
 import hashlib
 import json
+import os
 import pathlib
 import shutil
 import sys
@@ -31,6 +33,11 @@ for name, path in sorted((files | songs | licences).items()):
     (output / name).parent.mkdir(parents=True, exist_ok=True)
     shutil.copyfile(path, output / name)
     version.update(name.encode() + path.read_bytes())
+
+if address := os.environ.get("KOV_ADDRESS"):
+    index = output / "index.html"
+    index.write_text(index.read_text().replace('content="picture.png"',
+                                               f'content="{address.rstrip("/")}/picture.png"'))
 
 kept = ["./", *sorted(set(files) - {"index.html", "picture.png"})]
 worker = (page / "worker.js").read_text()

@@ -4,20 +4,30 @@
 #include "replay/Player.h"
 #include "replay/Stage.h"
 
+#include <boost/filesystem.hpp>
+#include <emscripten.h>
+
 #include <iostream>
+#include <memory>
 
 using namespace quorva::replay;
 
 namespace {
 
-/// Plays the songs as one of the page's, whose length is the recorded one's.
+/// Plays the page's song of the recorded one's length, or any.
 class Watcher : public Player {
 public:
     using Player::Player;
 
 private:
-    FMOD_RESULT openSongOf(std::uint32_t, FMOD_SYSTEM* system, FMOD_SOUND** song) override {
-        return Tape::openSong(system, "Songs/Afterglow.ogg", song);
+    FMOD_RESULT openSongOf(std::uint32_t ms, FMOD_SYSTEM* system, FMOD_SOUND** song) override {
+        FMOD_RESULT result = FMOD_ERR_FILE_NOTFOUND;
+        for (const auto& entry : boost::filesystem::directory_iterator("Songs")) {
+            unsigned int length = 0;
+            result = Tape::openSong(system, entry.path().c_str(), song);
+            if (Tape::songLength(*song, &length) == FMOD_OK && length == ms) break;
+        }
+        return result;
     }
     void show() override {
         if (!difference().empty()) throw std::runtime_error(difference());
@@ -25,14 +35,22 @@ private:
     }
 };
 
+std::unique_ptr<Script> script; // for as long as the page
+std::unique_ptr<Watcher> watcher;
+
 } // namespace
+
+/// ms, as the game knows it.
+extern "C" EMSCRIPTEN_KEEPALIVE double kovWatchedClock() {
+    return watcher->now();
+}
 
 int main() {
     try {
-        static Script script("/game.kovreplay"); // for as long as the page
-        static Watcher watcher(script);
-        insert(&watcher);
-        return runGame(script.setup);
+        script = std::make_unique<Script>("/game.kovreplay");
+        watcher = std::make_unique<Watcher>(*script);
+        insert(watcher.get());
+        return runGame(script->setup);
     } catch (const std::exception& e) {
         std::cerr << "kov_watch: " << e.what() << '\n';
         return 1;

@@ -1,7 +1,8 @@
 // The page in real browsers.
 
 import assert from 'node:assert/strict';
-import { mkdirSync } from 'node:fs';
+import { execFileSync } from 'node:child_process';
+import { mkdirSync, writeFileSync } from 'node:fs';
 import { join } from 'node:path';
 import { after, before, describe, it } from 'node:test';
 
@@ -115,6 +116,27 @@ for (const name of browserNames)
       assert.ok(!areEqual(menu, await game.picture()), 'the menu shows it');
       await shot(page, 'record');
     }, { worker: false });
+
+    test('kept games', async (game, page) => {
+      await game.open(server.address);
+      await Promise.all([page.waitForNavigation(), page.$eval('#keep', button => button.click())]);
+      await game.firstPicture();
+      await page.focus('#screen');
+      await game.startLevel();
+      await game.press('d', 'w', 'ArrowLeft');
+      await game.press('Escape');
+      await game.untilShows('menu');
+      await game.press('ArrowUp', 'Enter'); // Exit
+      await game.until(async () => /has ended/.test(await game.message()), 'the last page');
+      await Promise.all([page.waitForNavigation(), page.click('#again')]);
+      const link = await page.waitForSelector('#kept a');
+      const bytes = await game.kept(`Replays/${await link.evaluate(a => a.textContent)}`);
+      const file = join(results, `${name}.kovreplay`);
+      writeFileSync(file, Uint8Array.from(bytes));
+      const verdict = execFileSync(join(root, 'build/release/replay/kov-replay-verify'), [file, root],
+                                   { encoding: 'utf8' });
+      assert.match(verdict, /: holds$/m);
+    });
 
     test('a hidden tab stands still and goes on', async (game, page) => {
       const hide = hidden => page.evaluate(now => {

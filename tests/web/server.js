@@ -9,7 +9,8 @@ export const root = fileURLToPath(new URL('../..', import.meta.url));
 export const site = join(root, 'build/web');
 
 // Where a path is looked for, the first that has it counting.
-const folders = [site, join(root, 'build/wasm/tests/web'), join(root, 'tests/web'), root];
+const folders = [site, join(root, 'build/wasm/tests/web'), join(root, 'tests/web'),
+                 join(root, 'bench/web'), root];
 
 const kinds = {
   '.html': 'text/html', '.js': 'text/javascript', '.css': 'text/css', '.wasm': 'application/wasm',
@@ -17,7 +18,8 @@ const kinds = {
   '.mp3': 'audio/mpeg', '.webmanifest': 'application/manifest+json',
 };
 
-async function read(name) {
+/** The contents, or null. */
+export async function fileOf(name) {
   for (const folder of folders) {
     try {
       return await readFile(join(folder, name));
@@ -38,7 +40,7 @@ export class Server {
     this.http = createServer(async (request, answer) => {
       const path = new URL(request.url, this.address).pathname.slice(1) || 'index.html';
       this.asked.push(path);
-      const contents = this.missing.has(path) ? null : await read(this.others.get(path) ?? path);
+      const contents = this.missing.has(path) ? null : await fileOf(this.others.get(path) ?? path);
       if (contents === null) return answer.writeHead(404).end();
       answer.writeHead(200, { 'Content-Type': kinds[extname(path)] ?? 'application/octet-stream' });
       answer.end(Buffer.concat([Buffer.from(this.preludes.get(path) ?? ''), contents]));

@@ -3,6 +3,7 @@
 const database = 'kov';
 const store = 'files';
 const folder = '/kov';
+const gamesFolder = 'Replays';
 const keptFiles = /^(?:game\.conf(?:\.bak)?|bind1\.conf|s\.dat|Replays\/[^/]+)$/;
 const interval = 250; // ms between two looks at what has changed
 
@@ -37,8 +38,9 @@ async function readAll(db) {
 
 /** Never fails: without a database nothing is kept, and `isRefused` says so. */
 export class Files {
-  constructor(onRefusal) {
-    this.onRefusal = onRefusal;
+  /** @param hasPlayed whether there is a game that could be kept */
+  constructor(onRefusal, hasPlayed) {
+    Object.assign(this, { onRefusal, hasPlayed });
     this.stored = new Map(); // contents by name
     this.times = new Map(); // of change, by name
   }
@@ -62,17 +64,39 @@ export class Files {
     return this.stored.has(name);
   }
 
-  /** Before the game starts. */
+  /** Names of the kept games. */
+  games() {
+    return [...this.stored.keys()].filter(name => name.startsWith(`${gamesFolder}/`)).sort();
+  }
+
+  /** A name for a game that begins now. */
+  nameOfGame() {
+    const part = number => String(number).padStart(2, '0');
+    const now = new Date();
+    const day = [now.getFullYear(), now.getMonth() + 1, now.getDate()].map(part).join('-');
+    const time = [now.getHours(), now.getMinutes(), now.getSeconds()].map(part).join('.');
+    return `${gamesFolder}/${day} ${time}.kovreplay`;
+  }
+
+  async remove(name) {
+    this.stored.delete(name);
+    const transaction = this.db.transaction(store, 'readwrite');
+    transaction.objectStore(store).delete(name);
+    await done(transaction);
+  }
+
+  /** Before the game starts, which never looks at kept games. */
   unpack(FS) {
     this.FS = FS;
-    FS.mkdirTree(`${folder}/Replays`);
-    for (const [name, contents] of this.stored) FS.writeFile(`${folder}/${name}`, contents);
+    FS.mkdirTree(`${folder}/${gamesFolder}`);
+    for (const [name, contents] of this.stored)
+      if (!name.startsWith(gamesFolder)) FS.writeFile(`${folder}/${name}`, contents);
     for (const name of this.names()) this.times.set(name, this.timeOf(name));
     setInterval(() => this.save(), interval);
   }
 
   names() {
-    const inside = this.FS.readdir(`${folder}/Replays`).map(name => `Replays/${name}`);
+    const inside = this.FS.readdir(`${folder}/${gamesFolder}`).map(name => `${gamesFolder}/${name}`);
     return [...this.FS.readdir(folder), ...inside].filter(name => keptFiles.test(name));
   }
 
@@ -83,13 +107,15 @@ export class Files {
   /** Writes what has changed since the last time. */
   async save() {
     if (!this.db || !this.FS) return;
-    const changed = this.names().filter(name => this.times.get(name) !== this.timeOf(name));
+    const changed = this.names().filter(name => this.times.get(name) !== this.timeOf(name) &&
+                                                (!name.startsWith(gamesFolder) || this.hasPlayed()));
     if (changed.length === 0) return;
     try {
       const transaction = this.db.transaction(store, 'readwrite');
       for (const name of changed) {
         this.times.set(name, this.timeOf(name));
-        transaction.objectStore(store).put(this.FS.readFile(`${folder}/${name}`), name);
+        this.stored.set(name, this.FS.readFile(`${folder}/${name}`));
+        transaction.objectStore(store).put(this.stored.get(name), name);
       }
       await done(transaction);
     } catch (error) {

@@ -1,6 +1,7 @@
 // The page around the game: fetches it, gives it its passes, and shows what it draws.
 
 import { Files } from './files.js';
+import { keepsGames, showGames } from './games.js';
 import { followKeys } from './keys.js';
 import { followPads } from './pad.js';
 import { Screen } from './screen.js';
@@ -179,13 +180,16 @@ class Loop {
 
 async function fetchProgram(files) {
   const { default: createKov } = await import('./kov.js');
-  const size = firstResolution();
+  const words = [];
+  if (keepsGames()) words.push(`--keep-in=${files.nameOfGame()}`);
+  if (!files.has('game.conf')) { // as long as the player has chosen none
+    const [width, height] = firstResolution();
+    words.push(`--ScreenWidth=${width}`, `--ScreenHeight=${height}`);
+  }
   return createKov({
     canvas,
     page,
-    // As long as the player has chosen none.
-    arguments: files.has('game.conf') ? []
-                                      : [`--ScreenWidth=${size[0]}`, `--ScreenHeight=${size[1]}`],
+    arguments: words,
     preRun: [program => {
       files.unpack(program.FS);
       program.FS.chdir('/kov');
@@ -199,9 +203,13 @@ async function fetchProgram(files) {
 async function start() {
   if (typeof WebAssembly !== 'object') return say(failures.webAssembly);
   if (!page.screen.gl) return say(failures.webGL);
-  const files = new Files(() => note('This browser keeps nothing here: settings and high score will be lost.'));
-  await files.open();
   let kov;
+  let hasPlayed = false;
+  const files = new Files(
+    () => note('This browser keeps nothing here: settings and high score will be lost.'),
+    () => (hasPlayed ||= kov._kovIsPlaying()));
+  await files.open();
+  showGames(files, element('kept'), element('keep'));
   try {
     kov = await fetchProgram(files);
   } catch (error) {

@@ -6,8 +6,8 @@ const files = @files@;
 const songs = 'kov-songs'; // kept over versions, as they are large and change least
 const cacheName = `kov-${version}`;
 
+// A new version waits until no page has the old one open, so that no page is made of both.
 self.addEventListener('install', event => {
-  self.skipWaiting();
   event.waitUntil(caches.open(cacheName).then(cache =>
     cache.addAll(files.map(file => new Request(file, { cache: 'no-cache' })))));
 });
