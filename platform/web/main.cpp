@@ -13,12 +13,15 @@
 #include <emscripten.h>
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <iostream>
 #include <memory>
 #include <string>
 
 using namespace quorva;
+
+extern "C" double kovClock(); ///< ms, while the game does not stand still
 
 namespace {
 
@@ -29,6 +32,15 @@ std::unique_ptr<GameBase> game;             // null once it has ended
 std::unique_ptr<replay::Recorder> recorder; // null if nothing is kept
 bool isSeen = true;                         // what the pass draws
 std::uint32_t tickSeen = 0;                 // the last that has been drawn
+
+/// ms, from 0 to a tick's period. The page's clock is asked itself: a kept game has what the game
+/// has asked for, and nothing else.
+int timeUntilTick() {
+    const TimerClass& timer = Timer::Instance();
+    const auto now = static_cast<std::uint32_t>(static_cast<std::uint64_t>(kovClock()));
+    const auto left = static_cast<std::int32_t>(timer.lastBlip + timer.getProcessRate() - now);
+    return std::clamp<int>(left, 0, timer.getProcessRate());
+}
 
 /// Between two ticks nothing moves, and a player who saves power is shown each of them once.
 bool isIdle() {
@@ -57,6 +69,7 @@ void end() {
 } // namespace
 
 /// Starts the game, and returns while it goes on.
+// NOLINTNEXTLINE(bugprone-exception-escape): the page catches it, and says so
 int main(int argc, char* argv[]) {
     umask(S_IWGRP | S_IWOTH); // the page's own would leave new files without any permission
     introduceGame();
@@ -92,12 +105,9 @@ EMSCRIPTEN_KEEPALIVE bool kovPass(bool seen) {
     return game != nullptr;
 }
 
-/// ms, 0 or less if the tick is due. In a pause there is none to wait for.
+/// ms; in a pause there is none to wait for.
 EMSCRIPTEN_KEEPALIVE int kovTimeUntilTick() {
-    const TimerClass& timer = Timer::Instance();
-    // An overdue one shows as a little less than 2^16.
-    return timer.paused ? timer.getProcessRate()
-                        : static_cast<std::int16_t>(timer.getTimeUntilNextProcess());
+    return Timer::Instance().paused ? Timer::Instance().getProcessRate() : timeUntilTick();
 }
 
 /// Whether a level runs, also in its pause.

@@ -124,6 +124,7 @@ for (const name of browserNames)
       await page.focus('#screen');
       await game.startLevel();
       await game.press('d', 'w', 'ArrowLeft');
+      await pause(4000); // more than a hundred ticks, after which the state is kept, too
       await game.press('Escape');
       await game.untilShows('menu');
       await game.press('ArrowUp', 'Enter'); // Exit

@@ -4,7 +4,7 @@ const database = 'kov';
 const store = 'files';
 const folder = '/kov';
 const gamesFolder = 'Replays';
-const keptFiles = /^(?:game\.conf(?:\.bak)?|bind1\.conf|s\.dat|Replays\/[^/]+)$/;
+const keptFiles = /^(?:game\.conf(?:\.bak)?|bind1\.conf|s\.dat|Replays\/[^/]+\.kovreplay)$/;
 const interval = 250; // ms between two looks at what has changed
 
 function open() {

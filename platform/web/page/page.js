@@ -166,7 +166,7 @@ class Loop {
       this.end(failures.stopped);
       throw error;
     }
-    this.timer = setTimeout(() => this.pass(false), Math.max(0, this.kov._kovTimeUntilTick()));
+    this.timer = setTimeout(() => this.pass(false), this.kov._kovTimeUntilTick());
   }
 
   end(text) {
@@ -178,7 +178,8 @@ class Loop {
 
 // The start.
 
-async function fetchProgram(files) {
+/** @param onStart called before the program runs */
+async function fetchProgram(files, onStart) {
   const { default: createKov } = await import('./kov.js');
   const words = [];
   if (keepsGames()) words.push(`--keep-in=${files.nameOfGame()}`);
@@ -194,6 +195,7 @@ async function fetchProgram(files) {
       files.unpack(program.FS);
       program.FS.chdir('/kov');
       clock.start();
+      onStart();
     }],
     print: text => console.log(text),
     printErr: text => console.warn(text),
@@ -204,6 +206,7 @@ async function start() {
   if (typeof WebAssembly !== 'object') return say(failures.webAssembly);
   if (!page.screen.gl) return say(failures.webGL);
   let kov;
+  let hasStarted = false;
   let hasPlayed = false;
   const files = new Files(
     () => note('This browser keeps nothing here: settings and high score will be lost.'),
@@ -211,32 +214,33 @@ async function start() {
   await files.open();
   showGames(files, element('kept'), element('keep'));
   try {
-    kov = await fetchProgram(files);
+    kov = await fetchProgram(files, () => { hasStarted = true; });
   } catch (error) {
-    say(failures.fetch);
+    say(hasStarted ? failures.stopped : failures.fetch);
     throw error;
   }
   run(kov, files);
 }
 
-function run(kov, files) {
+function followPlayer(kov) {
   const wake = () => {
     page.sound.wake();
     if (wantsFullScreen) enterFullScreen();
   };
-  const pollPads = followPads(kov._kovButton, kov._kovAxis);
-  const loop = new Loop(kov, pollPads, text => {
-    files.save();
-    say(text, true);
-    element('again').focus();
-  });
-  let isLost = false;
-  const follow = () => loop.run(!document.hidden && !isLost);
-
   followKeys(kov._kovKey, () => [document.body, canvas].includes(document.activeElement), wake);
   followTouch(stage, element('touch'), kov, wake);
-  addEventListener('resize', fit);
-  document.addEventListener('fullscreenchange', fit);
+  element('full').addEventListener('click', () => {
+    wake();
+    if (document.fullscreenElement) leaveFullScreen();
+    else enterFullScreen();
+    canvas.focus();
+  });
+}
+
+/** The loop runs while the page is seen and there is something to draw on. */
+function followPage(loop, files) {
+  let isLost = false;
+  const follow = () => loop.run(!document.hidden && !isLost);
   document.addEventListener('visibilitychange', () => {
     follow();
     files.save();
@@ -252,18 +256,23 @@ function run(kov, files) {
     unsay();
     follow();
   });
-  element('full').addEventListener('click', () => {
-    wake();
-    if (document.fullscreenElement) leaveFullScreen();
-    else enterFullScreen();
-    canvas.focus();
+  addEventListener('resize', fit);
+  document.addEventListener('fullscreenchange', fit);
+  follow();
+}
+
+function run(kov, files) {
+  const loop = new Loop(kov, followPads(kov._kovButton, kov._kovAxis), text => {
+    files.save();
+    say(text, true);
+    element('again').focus();
   });
   element('again').addEventListener('click', () => location.reload());
-
+  followPlayer(kov);
   unsay();
   fit();
   canvas.focus();
-  follow();
+  followPage(loop, files);
 }
 
 navigator.serviceWorker?.register('worker.js').catch(error => console.warn('KOV:', error));
