@@ -36,8 +36,9 @@ std::string contents(bool& waits) {
         Script script(file);
         script.setup.write(out);
         const std::size_t largest = 100 * script.size() + 8192;
-        while (const auto record = script.next()) {
-            waits = waits || record->pass_.idle != 0;
+        while (const auto record = script.take()) {
+            const auto* const pass = std::get_if<Pass>(&*record);
+            waits = waits || (pass != nullptr && pass->idle != 0);
             writer.write(*record, out);
             fuzz::require(out.bytes.size() <= 4 * largest, "memory is in proportion to the file");
         }

@@ -9,7 +9,8 @@ namespace quorva::headless {
 namespace fs = boost::filesystem;
 
 Sandbox::Sandbox(const fs::path& source)
-    : maker(getpid()), folder(fs::temp_directory_path() / fs::unique_path("kov-sandbox-%%%%%%%%")) {
+    : maker(getpid()),
+      folder(fs::absolute(fs::temp_directory_path()) / fs::unique_path("kov-sandbox-%%%%%%%%")) {
     fs::create_directories(folder);
     for (const char* name : {"data", "fonts", "textures", "Sounds"})
         fs::create_directory_symlink(fs::absolute(source) / name, folder / name);

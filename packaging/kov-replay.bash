@@ -5,7 +5,7 @@ _kov_replay_files() {
     local i files=0
     for ((i = 2; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-        --speed | --size | --from | :) ((i++)) ;; # a time is three words to bash, 2 : 30
+        --speed | --size | --from | --to | --page | :) ((i++)) ;; # a time is three words to bash, 2 : 30
         -*) ;;
         *) ((files++)) ;;
         esac
@@ -20,15 +20,22 @@ _kov_replay() {
     compopt +o default
     if [ "$COMP_CWORD" -eq 1 ]; then
         mapfile -t COMPREPLY < <(
-            compgen -W "record watch verify film show --help --version" -- "$word")
+            compgen -W "record watch verify film show best --help --version" -- "$word")
         return
     fi
     case $before:$word in
-    --speed:* | --from:* | --size:* | ::* | *::) return ;; # numbers and times
+    --speed:* | --from:* | --to:* | --size:* | ::* | *::) return ;; # numbers and times
+    --page:*)
+        compopt -o filenames
+        mapfile -t COMPREPLY < <(compgen -d -- "$word")
+        return
+        ;;
     esac
     case $command in
     watch) options="--speed --from" ;;
-    film) options="--size" ;;
+    film) options="--size --from --to --full" ;;
+    verify) options="--fair" ;;
+    best) options="--page" ;;
     esac
     case $command:$(_kov_replay_files):$word in
     *:*:-*) mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word") ;;
@@ -36,7 +43,7 @@ _kov_replay() {
         compopt -o filenames
         mapfile -t COMPREPLY < <(compgen -f -X '!*.kovreplay' -- "$word" && :; compgen -d -- "$word")
         ;;
-    film:1:*) # a name of the player's own
+    best:0:* | film:1:*) # a folder, or a name of the player's own
         compopt -o filenames
         mapfile -t COMPREPLY < <(compgen -d -- "$word")
         ;;

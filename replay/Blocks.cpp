@@ -13,8 +13,7 @@ namespace quorva::replay {
 namespace {
 
 const std::string magic = "KOV replay\x1a"; // the last one ends it for a terminal
-constexpr std::size_t versions_size = 2;
-constexpr std::size_t head_size = 12; // of a block: sizes, compressed and not, and checksum
+constexpr std::size_t head_size = 12;       // of a block: sizes, compressed and not, and checksum
 
 /// Of a file; some fifty days of play.
 constexpr std::size_t largest_file = 64U << 20U;
@@ -73,7 +72,7 @@ BlockReader::BlockReader(const std::string& path) {
     if (!file) throw BadFile("no such file, or none that can be read");
     bytes.assign(std::istreambuf_iterator<char>(file), {});
     if (bytes.compare(0, magic.size(), magic) != 0) throw BadFile("this is no replay of KOV");
-    at = magic.size() + versions_size;
+    at = BlockWriter::empty_size;
     if (bytes.size() < at) damaged();
     if (static_cast<std::uint8_t>(bytes[magic.size()]) > format_version)
         throw BadFile("the file is of a newer version of KOV");

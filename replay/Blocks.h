@@ -14,7 +14,7 @@
 namespace quorva::replay {
 
 /// Of how the file is laid out. A larger one is refused.
-constexpr std::uint8_t format_version = 1;
+constexpr std::uint8_t format_version = 2;
 /// Of the rules of play: to be raised with any change that makes recorded games play differently.
 /// Another one is refused.
 constexpr std::uint8_t rule_set = 2;
@@ -32,6 +32,7 @@ public:
     bool write(const std::string& bytes);
 
     static constexpr std::size_t largest_block = 64U << 10U; ///< bytes
+    static constexpr std::size_t empty_size = 13;            ///< of a file without blocks, bytes
 
 private:
     std::FILE* file;
@@ -52,8 +53,9 @@ public:
     ///         as it was written.
     std::string read();
 
-    bool isCutOff() const { return cutOff; } ///< the file ends within a block
-    std::size_t size() const { return bytes.size(); }
+    bool isCutOff() const { return cutOff; }          ///< the file ends within a block
+    std::size_t size() const { return bytes.size(); } ///< of the file, bytes
+    std::size_t place() const { return at; }          ///< bytes that have been read
 
 private:
     std::uint32_t number(std::size_t place) const;

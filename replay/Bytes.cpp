@@ -49,15 +49,9 @@ void ByteWriter::text(const std::string& value) {
     bytes += value;
 }
 
-std::uint8_t ByteReader::peek() const {
-    if (left() == 0) damaged();
-    return static_cast<std::uint8_t>(bytes[at]);
-}
-
 std::uint8_t ByteReader::byte() {
-    const std::uint8_t next = peek();
-    ++at;
-    return next;
+    if (left() == 0) damaged();
+    return static_cast<std::uint8_t>(bytes[at++]);
 }
 
 std::uint64_t ByteReader::number(std::uint64_t most) {
@@ -97,7 +91,9 @@ double ByteReader::real() {
 }
 
 std::string ByteReader::text(std::size_t longest) {
-    std::string value(std::min(number(longest), static_cast<std::uint64_t>(left())), ' ');
+    const std::uint64_t length = number(longest);
+    if (length > left()) damaged();
+    std::string value(length, ' ');
     for (char& c : value)
         c = static_cast<char>(byte());
     if (!std::all_of(value.begin(), value.end(), isPrintable)) damaged();

@@ -30,7 +30,6 @@ public:
     ByteReader() = default;
     explicit ByteReader(std::string bytes_) : bytes(std::move(bytes_)) {}
 
-    std::uint8_t peek() const; ///< the next byte, which stays
     std::uint8_t byte();
     std::uint64_t number(std::uint64_t most = UINT64_MAX); ///< a larger one is damage
     std::int64_t signedNumber();

@@ -2,22 +2,29 @@
 
 #include "game/FModSystem.h"
 #include "platform/fmodex/Mixer.h"
+#include "replay/Interruption.h"
 #include "replay/Words.h"
 
 #include <GL/gl.h>
+#include <boost/filesystem.hpp>
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
 
 namespace quorva::replay {
 
 namespace {
 
-constexpr std::uint32_t picture_duration = 30;  // ms
-constexpr std::uint32_t rate = 44100;           // Hz
-constexpr std::uint64_t piece = 1024;           // samples rendered at once
-constexpr std::uint32_t report_interval = 1000; // ms
+constexpr std::uint32_t picture_duration = 30; // ms
+constexpr std::uint32_t rate = 44100;          // Hz
+constexpr std::uint64_t piece = 1024;          // samples rendered at once
+constexpr std::uint32_t look_interval = 500;   // ms, the real clock
+constexpr double fade_in = 0.1;                // of the volume, in a piece
 const char* const picture_file = "pictures.mkv";
 const char* const sound_file = "sound.mka";
 
@@ -42,17 +49,47 @@ Words soundWords() {
                    "aac", "-b:a", "192k", sound_file});
 }
 
+/// A tenth of a second, as the film will be.
+Words testWords(const std::string& path) {
+    return {"ffmpeg",   "-y",       "-nostdin",      "-v",          "quiet",   "-f",
+            "lavfi",    "-i",       "color=s=16x16", "-f",          "lavfi",   "-i",
+            "anullsrc", "-t",       "0.1",           "-c:v",        "libx264", "-c:a",
+            "aac",      "-pix_fmt", "yuv420p",       "file:" + path};
+}
+
+/// Any ffmpeg can do this.
+Words soundTestWords() {
+    return {"ffmpeg",   "-nostdin",  "-v", "quiet", "-f",   "lavfi", "-i",
+            "anullsrc", "-frames:a", "1",  "-f",    "null", "-"};
+}
+
 } // namespace
 
+void Film::requireTarget(const std::string& path) {
+    namespace fs = boost::filesystem;
+    const int made = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (made < 0) throw std::runtime_error("can't make " + path + ": " + std::strerror(errno));
+    close(made);
+    const ProgramEnd test = runProgram(testWords(path));
+    boost::system::error_code ignored; // ffmpeg may have removed it
+    fs::remove(path, ignored);
+    if (test.code == 0 || test.interrupted) return;
+    if (runProgram(soundTestWords()).code != 0)
+        throw std::runtime_error("films are made by the program ffmpeg; please install the package "
+                                 "ffmpeg");
+    throw std::runtime_error("ffmpeg makes no films like " + fs::path(path).filename().string() +
+                             "; an ending such as .mp4 or .mkv tells it how");
+}
+
 Film::Film(Script& script_, const boost::filesystem::path& songs_, const Format& format_)
-    : Screen(script_, songs_), format(format_), pictures(pictureWords(format.width, format.height)),
-      sound(soundWords()),
+    : WindowPlayback(script_, songs_), format(format_), time(format_.full),
+      pictures(pictureWords(format.width, format.height)), sound(soundWords()),
       picture(static_cast<std::size_t>(format.width) * static_cast<std::size_t>(format.height)) {
     platform::fmodex::useLoopback();
 }
 
 SDL_Surface* Film::openWindow(int, int, int depth, std::uint32_t flags) {
-    return Screen::openWindow(format.width, format.height, depth, flags);
+    return WindowPlayback::openWindow(format.width, format.height, depth, flags);
 }
 
 /// The whole of the game's picture, in the middle.
@@ -67,24 +104,52 @@ float Film::lineWidth(float width) {
     return static_cast<float>(width * scale);
 }
 
-void Film::show() {
-    if (begun == 0) begun = said = Tape::clock();
-    fill(now() - format.start);
-    takePicture();
-    sayProgress();
+bool Film::draws() {
+    return isFilmed() && WindowPlayback::draws();
 }
 
-/// The last frame, and what is heard meanwhile, up to then.
-void Film::fill(std::uint32_t place) {
-    while ((pictureCount + 1) * picture_duration <= place && !isEnding()) {
+void Film::show() {
+    look();
+    if (place() < format.from) return;
+    if (!hasBegun) lastPlace = place();
+    hasBegun = true;
+    catchUp();
+    if (place() >= format.to) return stop();
+    if (somethingGoesOn()) time.enliven();
+    takePicture();
+}
+
+/// The last frame, up to now, and what is heard meanwhile.
+void Film::catchUp() {
+    if (hasBegun) fill(std::min(place(), format.to) - lastPlace);
+    lastPlace = std::min(place(), format.to);
+}
+
+/// In a game that isn't paused, or in the menus by a key.
+bool Film::somethingGoesOn() const {
+    return progress().inGame ? progress().ticked : !pass().events.empty();
+}
+
+/// For a stretch of the session.
+void Film::fill(std::uint32_t ms) {
+    const std::uint64_t before = filmed;
+    FilmTime then = time;
+    filmed += time.advance(ms);
+    const auto volumeAt = [&](std::uint64_t at) {
+        return then.volume(static_cast<std::uint32_t>(at - before));
+    };
+    while ((pictureCount + 1) * picture_duration <= filmed && !isEnding()) {
+        look();
         ++pictureCount;
-        hear(pictureCount * picture_duration * rate / 1000);
+        const std::uint64_t at = std::max(before, pictureCount * picture_duration);
+        hear(at * rate / 1000, volumeAt(at));
         if (!pictures.write(picture.data(), picture.size() * sizeof picture[0])) stop();
     }
-    hear(static_cast<std::uint64_t>(place) * rate / 1000);
+    hear(filmed * rate / 1000, volumeAt(filmed));
 }
 
-void Film::hear(std::uint64_t until) {
+/// @param volume 0 to 1, to be reached at that sample, but for a slow return
+void Film::hear(std::uint64_t until, double volume) {
     std::array<std::int16_t, 2 * piece> samples;
     FMOD_SYSTEM* const system = FModSystem::Instance().system;
     while (heard < until && !isEnding()) {
@@ -92,6 +157,13 @@ void Film::hear(std::uint64_t until) {
         FMOD_System_Update(system);
         platform::fmodex::render(system, samples.data(), static_cast<int>(count));
         heard += count;
+        const double next = std::min(volume, lastVolume + fade_in);
+        for (std::uint64_t i = 0; i < 2 * count && (next < 1.0 || lastVolume < 1.0); ++i) {
+            const double part = static_cast<double>(i) / static_cast<double>(2 * count);
+            samples[i] =
+                static_cast<std::int16_t>(samples[i] * (lastVolume + (next - lastVolume) * part));
+        }
+        lastVolume = next;
         if (!sound.write(samples.data(), 2 * count * sizeof samples[0])) stop();
     }
 }
@@ -100,27 +172,35 @@ void Film::takePicture() {
     glReadPixels(0, 0, format.width, format.height, GL_BGRA, GL_UNSIGNED_BYTE, picture.data());
 }
 
-/// And shows a picture: each would wait for the monitor.
-void Film::sayProgress() {
-    const std::uint32_t time = Tape::clock();
-    if (time - said < report_interval) return;
-    said = time;
+/// At what the user wants, now and then. Shows a picture, too: each would wait for the monitor.
+void Film::look() {
+    const std::uint32_t clock_ = Tape::clock();
+    if (begun == 0) begun = clock_;
+    if (isInterrupted()) stop();
+    if (clock_ - looked < look_interval) return;
+    looked = clock_;
     Tape::endFrame();
     SDL_Event event;
     while (Tape::poll(&event) != 0)
         if (event.type == SDL_QUIT) stop();
-    const double done = std::max<std::uint64_t>(pictureCount, 1) * picture_duration;
-    const double left = std::max(0.0, (time - begun) * (format.duration / done - 1.0));
-    std::cout << "\r" << static_cast<int>(std::min(100.0, 100.0 * done / format.duration))
-              << " %, time left " << minutes(static_cast<std::uint64_t>(left)) << "   "
-              << std::flush;
+    sayProgress();
+}
+
+void Film::sayProgress() const {
+    if (!hasBegun) return;
+    const double length = std::max<std::uint32_t>(format.to - format.from, 1);
+    const double done = std::clamp((lastPlace - format.from) / length, 0.001, 1.0);
+    const double left = (looked - begun) * (1.0 / done - 1.0);
+    std::cout << "\r" << static_cast<int>(100.0 * done) << " %, time left "
+              << minutes(static_cast<std::uint64_t>(left)) << "   " << std::flush;
 }
 
 void Film::finishFilm(const std::string& path) {
     std::cout << "\r100 %                    \n";
     const bool written = pictures.finish() && sound.finish();
     if (!written || runProgram(ffmpeg({"-i", picture_file, "-i", sound_file, "-c", "copy",
-                                       "-movflags", "+faststart", "file:" + path})) != 0)
+                                       "-movflags", "+faststart", "file:" + path}))
+                            .code != 0)
         throw std::runtime_error("ffmpeg has failed");
 }
 

@@ -1,5 +1,7 @@
 #include "replay/Pipe.h"
 
+#include "replay/Interruption.h"
+
 #include <fcntl.h>
 #include <spawn.h>
 #include <sys/wait.h>
@@ -18,8 +20,9 @@ namespace {
 constexpr int pipe_size = 1 << 20; // bytes; the system may give less
 
 /// @param input becomes its standard input
+/// @param mask the signals that it holds
 /// @return an error number, 0 for success
-int start(const std::vector<std::string>& words, int input, pid_t& process) {
+int start(const std::vector<std::string>& words, int input, const sigset_t& mask, pid_t& process) {
     std::vector<char*> arguments;
     arguments.reserve(words.size() + 1);
     for (const std::string& word : words)
@@ -28,10 +31,21 @@ int start(const std::vector<std::string>& words, int input, pid_t& process) {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    posix_spawnattr_setsigmask(&attributes, &mask);
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
     const int error =
-        posix_spawnp(&process, arguments[0], &actions, nullptr, arguments.data(), environ);
+        posix_spawnp(&process, arguments[0], &actions, &attributes, arguments.data(), environ);
+    posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
     return error;
+}
+
+sigset_t presentMask() {
+    sigset_t mask;
+    pthread_sigmask(SIG_BLOCK, nullptr, &mask);
+    return mask;
 }
 
 int codeOf(pid_t process) {
@@ -47,7 +61,7 @@ Pipe::Pipe(const std::vector<std::string>& words) {
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error(std::strerror(errno));
     fcntl(ends[1], F_SETPIPE_SZ, pipe_size);
-    const int error = start(words, ends[0], process);
+    const int error = start(words, ends[0], presentMask(), process);
     close(ends[0]);
     end = ends[1];
     if (error == 0) return;
@@ -79,12 +93,24 @@ bool Pipe::finish() {
     return good;
 }
 
-int runProgram(const std::vector<std::string>& words) {
+ProgramEnd runProgram(const std::vector<std::string>& words) {
+    const sigset_t mask = presentMask();
+    const sigset_t held = holdInterruptions(SIGCHLD);
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
     pid_t process = -1;
-    const int error = start(words, nothing, process);
+    const int error = start(words, nothing, mask, process);
     close(nothing);
-    return error == 0 ? codeOf(process) : -1;
+    ProgramEnd end = {-1, false};
+    int status = 0;
+    while (error == 0 && waitpid(process, &status, WNOHANG) == 0) {
+        const int signal = sigwaitinfo(&held, nullptr);
+        if (signal < 0 || signal == SIGCHLD) continue; // below 0: stopped and continued
+        end.interrupted = true;
+        kill(process, SIGTERM);
+    }
+    if (error == 0 && WIFEXITED(status)) end.code = WEXITSTATUS(status);
+    pthread_sigmask(SIG_SETMASK, &mask, nullptr);
+    return end;
 }
 
 } // namespace quorva::replay

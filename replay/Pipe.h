@@ -31,8 +31,13 @@ private:
     bool good = true;
 };
 
+/// How a program has ended.
+struct ProgramEnd {
+    int code;         ///< -1 if a signal ended it or there is none
+    bool interrupted; ///< by SIGINT, SIGTERM or SIGHUP to this one, which it has got, too
+};
+
 /// Runs a program to its end, without anything to read.
-/// @return its exit code; -1 if a signal ended it or there is none
-int runProgram(const std::vector<std::string>& words);
+ProgramEnd runProgram(const std::vector<std::string>& words);
 
 } // namespace quorva::replay

@@ -1,6 +1,5 @@
 #include "replay/Progress.h"
 
-#include "Framework/Engine.h"
 #include "Framework/Timer.h"
 #include "Framework/physics/PhysicsProcessor.h"
 #include "game/FModMP3Input.h"
@@ -10,22 +9,15 @@ namespace quorva::replay {
 
 namespace {
 
-template <class T>
-T* activeComponent() {
-    for (Component* const component : Engine::Instance().components)
-        if (auto* const found = dynamic_cast<T*>(component)) return found;
-    return nullptr;
-}
-
 constexpr int lives_at_first = 2; // spare ones
 
-Result resultNow() {
+GameEnd endNow() {
     const MarvoClass& marvo = Marvo::Instance();
-    Result result;
-    result.score = marvo.score;
-    result.lost = marvo.lives < 0;
-    result.deaths = static_cast<std::uint32_t>(lives_at_first + (marvo.nextLife - 1) - marvo.lives);
-    return result;
+    GameEnd end;
+    end.score = marvo.score;
+    end.lost = marvo.lives < 0;
+    end.deaths = static_cast<std::uint32_t>(lives_at_first + (marvo.nextLife - 1) - marvo.lives);
+    return end;
 }
 
 } // namespace
@@ -46,7 +38,7 @@ void Progress::look() {
     inGame = activeComponent<physics::PhysicsProcessor>() != nullptr; // works in games alone
     began = inGame && !wasInGame;
     ended = wasInGame && !inGame;
-    if (ended) result = resultNow();
+    if (ended) end = endNow();
 }
 
 } // namespace quorva::replay

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Framework/Component.h"
+#include "Framework/Engine.h"
 #include "replay/Records.h"
 
 #include <cstdint>
@@ -22,12 +24,21 @@ public:
     // Since the last look.
     bool ticked = false;
     bool began = false, ended = false; ///< a game
-    Result result;                     ///< of the game that has ended
+    GameEnd end;                       ///< of the game that has ended
+
+    bool inGame = false;
 
 private:
-    bool inGame = false;
     std::uint32_t lastBlips = 0, lastStart = 0; ///< as the game's clock had them
 };
+
+/// The running one of that class; null if there is none.
+template <class T>
+T* activeComponent() {
+    for (Component* const component : Engine::Instance().components)
+        if (auto* const found = dynamic_cast<T*>(component)) return found;
+    return nullptr;
+}
 
 /// The game's own, which plays its songs; null before the game is set up.
 FModMP3Input* songPlayer();

@@ -4,11 +4,13 @@
 #include "Framework/Timer.h"
 #include "Framework/math/MTRand.h"
 #include "game/FModMP3Input.h"
+#include "replay/Interruption.h"
+#include "replay/Snapshot.h"
 
 #include <cerrno>
-#include <csignal>
 #include <cstring>
 #include <iostream>
+#include <utility>
 
 namespace quorva::replay {
 
@@ -18,25 +20,6 @@ constexpr std::uint32_t flush_interval = 300;     // ticks
 constexpr std::size_t full_block = 3U << 10U;     // bytes; no such block grows too much to be read
 constexpr std::size_t idle_clock_reads = 2;       // by the songs and the main loop
 constexpr std::uint64_t longest_idle = 1U << 20U; // passes in a record
-
-volatile std::sig_atomic_t endRequested = 0;
-
-void requestEnd(int) {
-    endRequested = 1;
-}
-
-/// The game's own way of ending on a signal leaves no event that could be kept.
-void endByEvent() {
-    for (const int signal : {SIGHUP, SIGTERM}) {
-        struct sigaction action = {};
-        sigaction(signal, nullptr, &action);
-        if (action.sa_handler == SIG_IGN) continue;
-        action = {};
-        action.sa_handler = requestEnd;
-        action.sa_flags = SA_RESTART;
-        sigaction(signal, &action, nullptr);
-    }
-}
 
 /// Whether the game looks at such events at all.
 bool toEvent(const SDL_Event& from, Event& event) {
@@ -72,24 +55,25 @@ Recorder::Recorder(const std::string& path) : file(path) {}
 
 std::uint32_t Recorder::clock() {
     if (observing) return now;
-    now = Tape::clock();
+    const std::uint32_t time = Tape::clock();
+    if (static_cast<std::int32_t>(time - now) > 0 || !clockStarted) now = time; // never back
+    clockStarted = true;
     pass.clock.push_back(now);
     return now;
 }
 
 int Recorder::poll(SDL_Event* event) {
     int found = Tape::poll(event);
-    if (found == 0 && endRequested != 0) {
-        endRequested = 0;
+    if (found == 0 && takeInterruption()) {
         *event = {};
         event->type = SDL_QUIT;
         found = 1;
     }
     if (found == 0) {
-        ++drains;
+        ++emptyPolls;
         return 0;
     }
-    Event kept = {drains, Event::closed, 0};
+    Event kept = {emptyPolls, Event::closed, 0};
     if (toEvent(*event, kept)) pass.events.push_back(kept);
     return 1;
 }
@@ -126,7 +110,7 @@ void Recorder::endFrame() {
         else if (randomPlace != math::MTRand_int32::p)
             couldRepeat() ? static_cast<void>(++idle) : endPass();
         pass = {};
-        drains = 0;
+        emptyPolls = 0;
         randomPlace = math::MTRand_int32::p;
     }
     Tape::endFrame();
@@ -135,9 +119,10 @@ void Recorder::endFrame() {
 /// The game is set up, and has drawn its first frame.
 void Recorder::begin() {
     begun = true;
-    endByEvent();
+    catchInterruptions(); // the game's own way of ending leaves no event that could be kept
     try {
-        Setup setup = Setup::ofGame();
+        Setup setup = setupOfGame();
+        settings = setup.settings;
         setup.joysticks = openedJoysticks;
         setup.write(pending);
     } catch (const std::runtime_error& e) {
@@ -164,13 +149,11 @@ bool Recorder::couldRepeat() const {
 }
 
 void Recorder::endPass() {
-    Record record;
     // Where all would do the same at the last of these times, that one is enough.
     if (isPlain() && songIsDue(pass.clock.front()) == songIsDue(now)) pass.clock.assign(1, now);
-    std::swap(record.pass_, pass);
-    record.pass_.idle = std::exchange(idle, 0);
-    if (!record.pass_.clock.empty()) lastClock = record.pass_.clock.back();
-    keep(record);
+    pass.idle = std::exchange(idle, 0);
+    if (!pass.clock.empty()) lastClock = pass.clock.back();
+    keep(std::exchange(pass, {}));
     keepProgress();
     if (progress.ticks - flushedAt >= flush_interval || progress.ended ||
         pending.bytes.size() > full_block)
@@ -178,25 +161,30 @@ void Recorder::endPass() {
 }
 
 void Recorder::keepProgress() {
-    Record record;
     if (progress.ended) {
         ++games;
-        bestScore = std::max(bestScore, progress.result.score);
-        record.kind = Record::game_end;
-        record.result = progress.result;
-        keep(record);
+        bestScore = std::max(bestScore, progress.end.score);
+        keep(progress.end);
     }
     if (progress.began) {
-        record.kind = Record::game_begin;
-        keep(record);
+        keepSettings();
+        keep(GameBegin());
     }
-    if (progress.checkIsDue()) {
-        record.kind = Record::check;
-        observing = true;
-        record.check_ = Check::ofGame();
-        observing = false;
-        keep(record);
-    }
+    if (progress.checkIsDue()) keep(check());
+}
+
+void Recorder::keepSettings() {
+    SettingValues current = settingsOfGame();
+    if (current == settings) return;
+    settings = std::move(current);
+    keep(ChangedSettings{settings});
+}
+
+Check Recorder::check() {
+    observing = true;
+    Check found = checkOfGame();
+    observing = false;
+    return found;
 }
 
 void Recorder::keep(const Record& record) {
@@ -214,12 +202,7 @@ void Recorder::finish() {
     if (failed || !begun) return;
     progress.look();
     endPass();
-    Record record;
-    record.kind = Record::end;
-    observing = true;
-    record.check_ = Check::ofGame();
-    observing = false;
-    keep(record);
+    keep(End{check()});
     flush();
 }
 

@@ -6,6 +6,7 @@
 #include "replay/Tape.h"
 
 #include <string>
+#include <vector>
 
 namespace quorva::replay {
 
@@ -37,6 +38,8 @@ private:
     bool couldRepeat() const;
     void endPass();
     void keepProgress();
+    void keepSettings();
+    Check check();
     void keep(const Record& record);
     void flush();
     void giveUp(const std::string& reason);
@@ -51,12 +54,14 @@ private:
     std::uint32_t flushedAt = 0; ///< tick
 
     std::vector<bool> openedJoysticks;
-    Pass pass; ///< the one that is going on
-    std::uint32_t drains = 0;
+    SettingValues settings; ///< as they were kept last
+    Pass pass;              ///< the one that is going on
+    std::uint32_t emptyPolls = 0;
     std::uint32_t lastClock = 0; ///< ms; that of the last kept pass after `endPass`
-    std::uint32_t now = 0;       ///< ms
-    int randomPlace = 0;         ///< in the random stream, when the pass began
-    std::uint64_t idle = 0;      ///< passes since the last kept one that have to be repeated
+    std::uint32_t now = 0;       ///< ms, as the game knows it
+    bool clockStarted = false;
+    int randomPlace = 0;    ///< in the random stream, when the pass began
+    std::uint64_t idle = 0; ///< passes since the last kept one that have to be repeated
 };
 
 } // namespace quorva::replay

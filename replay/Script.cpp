@@ -1,11 +1,14 @@
 #include "replay/Script.h"
 
+#include <algorithm>
+
 namespace quorva::replay {
 
 namespace {
 
-/// Idle passes for each byte of a file: more than a paused game without music takes.
-constexpr std::uint64_t most_idle_a_byte = 1000;
+/// Idle passes, for each byte of a file and for each ms of its session. A game that stands all
+/// night without music makes some thousand passes a second, and hardly a byte.
+constexpr std::uint64_t most_idle_a_byte = 1000, most_idle_a_ms = 10;
 
 } // namespace
 
@@ -14,27 +17,36 @@ Script::Script(const std::string& path) : file(path), block(file.read()) {
     setup = Setup::read(block);
 }
 
-const Record* Script::peek() {
+bool Script::atEnd() {
     if (!ahead && !ended) fetch();
-    return ahead ? &*ahead : nullptr;
+    return !ahead;
 }
 
-std::optional<Record> Script::next() {
-    peek();
-    std::optional<Record> record;
-    ahead.swap(record);
-    return record;
+std::optional<Record> Script::take() {
+    if (atEnd()) return {};
+    return std::exchange(ahead, std::nullopt);
 }
 
 void Script::fetch() {
     if (block.left() == 0) block = ByteReader(file.read());
     if (block.left() == 0) return;
     ahead = reader.read(block);
-    idle += ahead->pass_.idle;
-    if (idle > most_idle_a_byte * file.size()) damaged();
-    if (ahead->kind != Record::end) return;
+    if (const auto* const pass = std::get_if<Pass>(&*ahead)) require(*pass);
+    if (!std::holds_alternative<End>(*ahead)) return;
     ended = true;
     if (block.left() != 0 || !file.read().empty() || file.isCutOff()) damaged(); // more follows
+}
+
+/// That it is one which can have been recorded.
+void Script::require(const Pass& pass) {
+    if (!pass.clock.empty() && !start) start = pass.clock.front();
+    const std::uint32_t ms = pass.clock.empty() ? 0 : pass.clock.back() - *start;
+    idle += pass.idle;
+    if (idle > most_idle_a_byte * file.size() + most_idle_a_ms * ms) damaged();
+    if (setup.hasOpenJoystick()) return;
+    const bool usesOne = std::any_of(pass.events.begin(), pass.events.end(),
+                                     [](const Event& event) { return event.isOfJoystick(); });
+    if (usesOne || !pass.axes.empty()) damaged();
 }
 
 } // namespace quorva::replay

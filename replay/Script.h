@@ -5,27 +5,34 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace quorva::replay {
 
 /// A replay file, record by record.
 class Script {
 public:
-    /// Throws BadFile, as `next` does.
+    /// Throws BadFile, as all that reads on does.
     explicit Script(const std::string& path);
 
-    /// @return null behind the last record that is there
-    const Record* peek();
-    /// The same, and goes on.
-    std::optional<Record> next();
+    /// Whether the last record that is there has been taken.
+    bool atEnd();
 
-    bool isCutOff() const { return !ended; }         ///< asked behind the last record
-    std::size_t size() const { return file.size(); } ///< of the file, bytes
+    /// The next record, if it is one of these; else it stays the next.
+    template <class Kind>
+    std::optional<Kind> take();
+    /// Whatever it is; empty at the end.
+    std::optional<Record> take();
+
+    bool isCutOff() const { return !ended; }           ///< asked at the end
+    std::size_t size() const { return file.size(); }   ///< of the file, bytes
+    std::size_t place() const { return file.place(); } ///< bytes that have been read
 
     Setup setup;
 
 private:
     void fetch();
+    void require(const Pass& pass);
 
     BlockReader file;
     RecordReader reader;
@@ -33,6 +40,17 @@ private:
     std::optional<Record> ahead;
     bool ended = false; ///< by its end record
     std::uint64_t idle = 0;
+    std::optional<std::uint32_t> start; ///< ms, the clock at the first pass
 };
+
+template <class Kind>
+std::optional<Kind> Script::take() {
+    if (atEnd()) return {};
+    auto* const found = std::get_if<Kind>(&*ahead);
+    if (found == nullptr) return {};
+    std::optional<Kind> taken = std::move(*found);
+    ahead.reset();
+    return taken;
+}
 
 } // namespace quorva::replay

@@ -1,14 +1,14 @@
 #include "replay/Stage.h"
 
 #include "Framework/config/Settings.h"
+#include "headless/GameMain.h"
+#include "replay/Interruption.h"
 
 #include <boost/filesystem.hpp>
 
 #include <cctype>
 #include <fstream>
 #include <limits>
-
-int gameMain(int argc, char* argv[]); // of the game itself
 
 namespace quorva::replay {
 
@@ -40,7 +40,8 @@ std::string argument(char letter, int value) {
 
 } // namespace
 
-Stage::Stage(const fs::path& source, const Setup& setup) : sandbox(source) {
+Stage::Stage(const fs::path& source, const Setup& setup)
+    : shipped(fs::absolute(source)), sandbox(source) {
     const fs::path shared = fs::read_symlink("data");
     fs::remove("data");
     fs::create_directory("data");
@@ -50,19 +51,19 @@ Stage::Stage(const fs::path& source, const Setup& setup) : sandbox(source) {
         fs::remove(name);
     writeColours(setup.colours);
     writePoints(setup.points);
-    std::ofstream("bind1.conf"); // there, but empty: the recorded keys come later
+    // There in any case: the recorded keys come later.
+    if (shipped.bindings.empty())
+        std::ofstream("bind1.conf");
+    else
+        fs::copy_file(shipped.bindings, "bind1.conf");
 }
 
 int runGame(const Setup& setup) {
-    std::vector<std::string> words = {"kov-replay"};
+    std::vector<std::string> options;
     for (const auto& [letter, value] : setup.settings)
-        words.push_back(argument(letter, value));
-    std::vector<char*> arguments;
-    arguments.reserve(words.size() + 1);
-    for (std::string& word : words)
-        arguments.push_back(word.data());
-    arguments.push_back(nullptr);
-    return gameMain(static_cast<int>(words.size()), arguments.data());
+        options.push_back(argument(letter, value));
+    holdInterruptions(); // until the playback can tell of them
+    return headless::runGameMain(options);
 }
 
 } // namespace quorva::replay

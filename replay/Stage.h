@@ -1,24 +1,29 @@
 #pragma once
 
 #include "headless/Sandbox.h"
-#include "replay/Records.h"
+#include "replay/Setup.h"
+#include "replay/Shipped.h"
 
 #include <boost/filesystem/path.hpp>
 
 namespace quorva::replay {
 
 /// A folder to play a recorded game in, entered: the game's files with the recorded colours and
-/// points, and nothing of whoever watches. What the game writes goes with it.
+/// points and the shipped bindings, and nothing of whoever watches. What the game writes goes with
+/// it.
 class Stage {
 public:
     /// @param source the folder of the game's data. Throws boost::filesystem::filesystem_error.
     Stage(const boost::filesystem::path& source, const Setup& setup);
 
+    const Shipped shipped;
+
 private:
     headless::Sandbox sandbox;
 };
 
-/// Runs the whole game with the recorded settings, from its main to its end.
+/// Runs the whole game with the recorded settings, from its main to its end. Interruptions wait
+/// until a Playback catches them.
 /// @return its exit code
 int runGame(const Setup& setup);
 

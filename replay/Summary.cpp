@@ -3,41 +3,21 @@
 #include "replay/Script.h"
 #include "replay/Words.h"
 
-#include "Framework/config/Settings.h"
-
-#include <ctime>
 #include <sstream>
+#include <utility>
 
 namespace quorva::replay {
-
-namespace {
-
-std::string dateText(std::int64_t date) {
-    const auto seconds = static_cast<std::time_t>(date);
-    std::tm parts = {};
-    char text[sizeof "-2147483648-12-31 23:59"];
-    if (localtime_r(&seconds, &parts) == nullptr ||
-        std::strftime(text, sizeof text, "%Y-%m-%d %H:%M", &parts) == 0)
-        return "unknown";
-    return text;
-}
-
-} // namespace
 
 Summary::Summary(const std::string& path) {
     Script script(path);
     setup = script.setup;
     size = script.size();
     bool first = true;
-    while (const auto record = script.next()) {
-        if (record->kind == Record::pass && !record->pass_.clock.empty()) {
-            if (std::exchange(first, false)) start = record->pass_.clock.back();
-            length = record->pass_.clock.back() - start;
-        }
-        if (record->kind == Record::game_begin) games.push_back({length, {}});
-        if (record->kind != Record::game_end || games.empty()) continue;
-        games.back().result = record->result;
-        games.back().ended = true;
+    while (const auto record = script.take()) {
+        const auto* const pass = std::get_if<Pass>(&*record);
+        if (pass == nullptr || pass->clock.empty()) continue;
+        if (std::exchange(first, false)) start = pass->clock.back();
+        length = pass->clock.back() - start;
     }
     cutOff = script.isCutOff();
 }
@@ -45,14 +25,8 @@ Summary::Summary(const std::string& path) {
 std::string Summary::text() const {
     std::ostringstream out;
     out << "date      " << dateText(setup.date) << "\nlength    " << minutes(length)
-        << (cutOff ? ", cut off there" : "") << '\n';
-    for (const Game& game : games)
-        out << "game      at " << minutes(game.begin) << ": "
-            << (game.ended ? inWords(game.result) : "not to its end") << '\n';
-    out << "settings ";
-    for (const auto& [letter, value] : setup.settings)
-        out << ' ' << config::settingWith(letter).longName << '=' << value;
-    out << "\nsongs     " << setup.songs << "\nsize      " << size << " bytes\n";
+        << (cutOff ? ", cut off there" : "") << "\nsongs     " << setup.songs << "\nsize      "
+        << size << " bytes\n";
     return out.str();
 }
 

@@ -1,28 +1,20 @@
 #pragma once
 
-#include "replay/Records.h"
+#include "replay/Setup.h"
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 namespace quorva::replay {
 
 /// What a file says of itself, without playing it.
 struct Summary {
-    struct Game {
-        std::uint32_t begin; ///< ms after the start
-        Result result;
-        bool ended = false; ///< else the file breaks off within it
-    };
-
     /// Throws BadFile.
     explicit Summary(const std::string& path);
 
     std::string text() const; ///< lines for a reader
 
     Setup setup;
-    std::vector<Game> games;
     std::uint32_t start = 0;  ///< ms, the game's clock at its first frame
     std::uint32_t length = 0; ///< ms
     std::size_t size = 0;     ///< bytes

@@ -1,6 +1,7 @@
 #include "replay/Watcher.h"
 
 #include "game/FModSystem.h"
+#include "replay/Interruption.h"
 #include "replay/Words.h"
 
 #include <algorithm>
@@ -17,19 +18,30 @@ constexpr Uint32 longest_nap = 500; // ms: after a longer one time has stood sti
 } // namespace
 
 Watcher::Watcher(Script& script_, const boost::filesystem::path& songs_, const Times& times_)
-    : Screen(script_, songs_), times(times_), position(times_.from) {}
+    : WindowPlayback(script_, songs_), times(times_), position(times_.from) {}
 
 bool Watcher::draws() {
-    return place() >= times.from && position - place() <= late * std::max(1.0, times.speed);
+    return !isIdle() && place() >= times.from &&
+           position - place() <= late * std::max(1.0, times.speed);
+}
+
+/// Here, so that the music of a pause stands as long as the picture does.
+void Watcher::moveOn() {
+    if (hasBegun && draws()) waitFor(place());
 }
 
 void Watcher::show() {
+    hasBegun = true;
     if (draws()) {
         waitFor(place());
         Tape::endFrame();
         showState();
     }
     takeKeys();
+}
+
+void Watcher::passIdly() {
+    if (Tape::clock() - lastLook >= nap) takeKeys();
 }
 
 void Watcher::waitFor(double ms) {
@@ -50,6 +62,8 @@ void Watcher::waitFor(double ms) {
 }
 
 void Watcher::takeKeys() {
+    lastLook = Tape::clock();
+    if (isInterrupted()) stop();
     SDL_Event event;
     while (Tape::poll(&event) != 0) {
         if (event.type == SDL_QUIT) stop();

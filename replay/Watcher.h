@@ -1,6 +1,6 @@
 #pragma once
 
-#include "replay/Screen.h"
+#include "replay/WindowPlayback.h"
 
 #include <cstdint>
 #include <string>
@@ -9,7 +9,7 @@ namespace quorva::replay {
 
 /// Shows a game at the speed that it was played at, or another. Space stops it and lets it go on;
 /// up and down, or right and left, change the speed; right steps while it stands; Escape leaves.
-class Watcher : public Screen {
+class Watcher : public WindowPlayback {
 public:
     struct Times {
         std::uint32_t start;  ///< ms, the game's clock at its first frame
@@ -26,7 +26,9 @@ public:
     static constexpr double slowest = 0.125, fastest = 64.0; ///< times
 
 protected:
+    void moveOn() override;
     void show() override;
+    void passIdly() override;
 
 private:
     std::uint32_t place() const { return now() - times.start; }
@@ -37,7 +39,9 @@ private:
 
     Times times;
     double position;            ///< ms after the start, where watching is
-    std::uint32_t lastTime = 0; ///< ms, the real clock
+    std::uint32_t lastTime = 0; ///< ms, the real clock; as the next
+    std::uint32_t lastLook = 0; ///< at the keys
+    bool hasBegun = false;      ///< the first frame is there
     bool standing = false, stepping = false;
     std::string shownTitle;
 };

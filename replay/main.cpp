@@ -1,7 +1,13 @@
 // Keeps games, shows them again, proves them and makes films of them: see usage_text.
 
+#include "replay/Best.h"
+#include "replay/CommandLine.h"
 #include "replay/Film.h"
+#include "replay/Interruption.h"
+#include "replay/KeptGames.h"
+#include "replay/Page.h"
 #include "replay/Recorder.h"
+#include "replay/Shipped.h"
 #include "replay/Stage.h"
 #include "replay/Summary.h"
 #include "replay/Watcher.h"
@@ -11,17 +17,17 @@
 #include "Framework/Graphics/VideoDriver.h"
 #include "Framework/Utility.h"
 #include "game/GameIdentity.h"
+#include "headless/GameMain.h"
 
 #include <boost/filesystem.hpp>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <iostream>
-#include <utility>
-
-int gameMain(int argc, char* argv[]); // of the game itself
+#include <optional>
+#include <stdexcept>
 
 using namespace quorva::replay;
 namespace fs = boost::filesystem;
@@ -30,79 +36,54 @@ namespace {
 
 const char* const usage_text =
     "usage: kov-replay record [FILE] [-- GAME OPTIONS]   play, and keep the games\n"
-    "       kov-replay watch FILE [--speed N] [--from M:SS]\n"
+    "       kov-replay watch [FILE] [--speed N] [--from M:SS]\n"
+    "                        a game that comes with the game, if no other is given;\n"
     "                        space stops, arrows change the speed or step, Escape leaves\n"
-    "       kov-replay verify FILE...                    play again, unseen, and compare\n"
-    "       kov-replay film FILE OUT.mp4 [--size WxH]    make a film, by the program ffmpeg\n"
-    "       kov-replay show FILE                         say what is in it\n"
+    "       kov-replay verify [--fair] FILE...           play again, unseen, and compare\n"
+    "       kov-replay film FILE OUT.mp4 [--size WxH] [--from M:SS] [--to M:SS] [--full]\n"
+    "                                                    make a film, by the program ffmpeg\n"
+    "       kov-replay show FILE                         tell what is in it\n"
+    "       kov-replay best [FOLDER] [--page FOLDER]     the ten best games, proved\n"
     "       kov-replay --help | --version\n"
     "In front of these: --data FOLDER, other game files than its own.\n";
 
-const char* const ending = ".kovreplay";
-const char* const replay_folder = "Replays"; // where the game keeps its files
-constexpr double slowest = Watcher::slowest, fastest = Watcher::fastest;
+constexpr std::size_t most_games = 10;                       // of the best
 constexpr int smallest_picture = 16, largest_picture = 8192; // pixels
 
-/// A wrong command line; what is wrong, in words, or nothing for the usage text.
-struct BadUsage : std::runtime_error {
-    using std::runtime_error::runtime_error;
+/// Folders that are given in front of the command.
+struct Places {
+    fs::path data = ".";          ///< of the game
+    fs::path replays = "Replays"; ///< where games are kept that have no other place
 };
 
-using Words = std::vector<std::string>;
+/// By SIGINT, SIGTERM or SIGHUP.
+struct Interrupted : std::runtime_error {
+    Interrupted() : std::runtime_error("interrupted") {}
+};
 
 int complain(const std::string& what) {
     std::cerr << "kov-replay: " << quorva::utility::printable(what) << '\n';
     return exit_unusable;
 }
 
-/// Takes "--name value" out of the words; empty if it isn't there.
-std::string takeOption(Words& words, const std::string& name) {
-    const auto found = std::find(words.begin(), words.end(), name);
-    if (found == words.end()) return {};
-    if (found + 1 == words.end()) throw BadUsage(name + " wants a value");
-    std::string value = std::move(found[1]);
-    words.erase(found, found + 2);
-    return value;
+void requireFiles(const CommandLine& line, std::size_t least, std::size_t most) {
+    if (line.files.size() < least || line.files.size() > most) throw BadUsage("");
 }
 
-/// The words that are left: so many files.
-void requireFiles(const Words& words, std::size_t least, std::size_t most) {
-    for (const std::string& word : words)
-        if (word.size() > 1 && word[0] == '-') throw BadUsage("no such option: " + word);
-    if (words.size() < least || words.size() > most) throw BadUsage("");
-}
-
-std::string stamp() {
-    const std::time_t now = std::time(nullptr);
-    char text[sizeof "-2147483648-12-31 23.59.59"];
-    std::strftime(text, sizeof text, "%Y-%m-%d %H.%M.%S", std::localtime(&now));
-    return text;
-}
-
-int playGame(Words options) {
-    options.insert(options.begin(), "kov");
-    std::vector<char*> arguments;
-    for (std::string& word : options)
-        arguments.push_back(word.data());
-    arguments.push_back(nullptr);
-    return gameMain(static_cast<int>(options.size()), arguments.data());
-}
-
-/// @param path where the file is now; it gets its score into the name if that wasn't given
-void nameFile(const fs::path& path, const Recorder& recorder, bool nameGiven) {
+/// Gives the file its score, or removes it if there is nothing in it.
+/// @return where it is now; empty if nowhere
+fs::path finishFile(const fs::path& path, const Recorder& recorder, KeptName* name) {
     boost::system::error_code ignored; // it keeps the name that it has
     if (recorder.games == 0) {
         fs::remove(path, ignored);
-        if (!nameGiven) fs::remove(path.parent_path(), ignored); // unless there are others
-        return;
+        if (name != nullptr) fs::remove(path.parent_path(), ignored); // unless there are others
+        return {};
     }
-    fs::path name = path;
-    if (!nameGiven) {
-        name = path.parent_path() /
-               (path.stem().string() + ' ' + std::to_string(recorder.bestScore) + ending);
-        fs::rename(path, name, ignored);
-    }
-    std::cout << "kept in " << name.string() << '\n';
+    if (name == nullptr) return path;
+    name->score = recorder.bestScore;
+    const fs::path finished = path.parent_path() / name->finished();
+    fs::rename(path, finished, ignored);
+    return fs::exists(finished) ? finished : path;
 }
 
 void requireDisplay() {
@@ -110,100 +91,134 @@ void requireDisplay() {
     if (SDL_Init(SDL_INIT_VIDEO) < 0) throw std::runtime_error("there is no display here");
 }
 
-int record(const fs::path&, Words words) {
+/// The game ends the process by itself if it can't open a window. Nothing stays of that.
+void removeIfEmptyAtExit(const fs::path& path) {
+    static fs::path file;
+    file = path;
+    std::atexit([] {
+        boost::system::error_code error;
+        if (fs::file_size(file, error) <= BlockWriter::empty_size && !error)
+            fs::remove(file, error);
+    });
+}
+
+/// Plays, and keeps it in a file.
+/// @param name by which it is kept; null if the path is the player's choice
+int record(Recorder& recorder, const fs::path& path, KeptName* name, const Words& gameOptions) {
+    removeIfEmptyAtExit(path);
+    insert(&recorder);
+    const int code = quorva::headless::runGameMain(gameOptions);
+    recorder.finish();
+    insert(nullptr);
+    const fs::path kept = finishFile(path, recorder, name);
+    const bool isAutomatic = name != nullptr && name->isAutomatic;
+    if (isAutomatic) tidy(path.parent_path());
+    if (fs::exists(kept) && (!isAutomatic || isatty(STDOUT_FILENO) != 0))
+        std::cout << "kept in " << kept.string() << '\n';
+    return code;
+}
+
+int record(const Places& places, const Words& words) {
     const auto dashes = std::find(words.begin(), words.end(), "--");
-    Words options;
-    if (dashes != words.end()) options.assign(dashes + 1, words.end());
-    words.erase(dashes, words.end());
-    requireFiles(words, 0, 1);
-    requireDisplay();
-    const bool named = !words.empty();
+    const CommandLine line(Words(words.begin(), dashes), {{"auto", false}});
+    const Words gameOptions = dashes == words.end() ? Words() : Words(dashes + 1, words.end());
+    const bool isAutomatic = line.has("auto"), isNamed = !line.files.empty();
+    requireFiles(line, 0, isAutomatic ? 0 : 1);
+    if (!isAutomatic) requireDisplay(); // else the game says so
+    KeptName name = KeptName::now(isAutomatic);
     const fs::path path =
-        fs::absolute(named ? fs::path(words[0]) : fs::path(replay_folder) / (stamp() + ending));
+        fs::absolute(isNamed ? fs::path(line.files[0]) : places.replays / name.unfinished());
     boost::system::error_code ignored; // the recorder says what is wrong
-    if (!named) fs::create_directories(path.parent_path(), ignored);
+    if (!isNamed) fs::create_directories(path.parent_path(), ignored);
+    std::optional<Recorder> recorder;
     try {
-        Recorder recorder(path.string());
-        insert(&recorder);
-        // cppcheck-suppress invalidContainer // the options are copies
-        const int code = playGame(options);
-        recorder.finish();
-        insert(nullptr);
-        nameFile(path, recorder, named);
-        return code;
+        recorder.emplace(path.string());
     } catch (const std::runtime_error& e) {
-        return complain("can't write " + path.string() + ": " + e.what());
+        complain("can't write " + path.string() + ": " + e.what());
+        return isAutomatic ? quorva::headless::runGameMain(gameOptions) : exit_unusable;
     }
-}
-
-/// ms of "M:SS" or "S".
-std::uint32_t toTime(const std::string& text) {
-    unsigned int m = 0, s = 0;
-    int length = -1;
-    if (std::sscanf(text.c_str(), "%5u:%2u%n", &m, &s, &length) != 2) {
-        m = 0;
-        std::sscanf(text.c_str(), "%6u%n", &s, &length);
-    }
-    if (length != static_cast<int>(text.size())) throw BadUsage("no time such as 1:30: " + text);
-    return (m * 60 + s) * 1000;
-}
-
-double toSpeed(const std::string& text) {
-    char* end = nullptr;
-    const double speed = std::strtod(text.c_str(), &end);
-    if (*end != '\0' || !(speed >= slowest && speed <= fastest))
-        throw BadUsage("no speed from 0.125 to 64: " + text);
-    return speed;
+    return record(*recorder, path, isNamed ? nullptr : &name, gameOptions);
 }
 
 /// Says what has been found; the window is gone.
-int judge(Player& player) {
-    player.finish();
+int judge(Playback& playback, std::uint32_t start) {
+    playback.finish();
     insert(nullptr);
-    if (!player.damage().empty()) return complain(player.damage());
-    if (player.difference().empty()) return 0;
-    complain(player.difference());
-    return exit_differs;
+    if (!playback.damage().empty()) return complain(playback.damage());
+    if (!playback.difference().empty()) {
+        complain(playback.difference());
+        return exit_differs;
+    }
+    if (!isInterrupted()) return 0;
+    complain("interrupted at " + minutes(playback.now() - start));
+    return exit_interrupted;
 }
 
-int watch(const fs::path& data, Words words) {
-    const std::string speed = takeOption(words, "--speed"), from = takeOption(words, "--from");
-    requireFiles(words, 1, 1);
-    const std::string path = fs::absolute(words[0]).string();
+/// A game that comes with the game.
+fs::path demonstration(const Places& places) {
+    const fs::path installed = places.data / "demonstration.kovreplay";
+    return fs::exists(installed) ? installed : places.data / "packaging" / installed.filename();
+}
+
+int watch(const Places& places, const Words& words) {
+    const CommandLine line(words, {{"speed", true}, {"from", true}});
+    requireFiles(line, 0, 1);
+    const std::string speed = line.value("speed"), from = line.value("from");
+    const std::string path =
+        fs::absolute(line.files.empty() ? demonstration(places) : fs::path(line.files[0])).string();
     const Summary summary(path);
-    const Watcher::Times times = {summary.start, summary.length, from.empty() ? 0 : toTime(from),
-                                  speed.empty() ? 1.0 : toSpeed(speed)};
+    const Watcher::Times times = {
+        summary.start, summary.length, from.empty() ? 0 : toTime(from),
+        speed.empty() ? 1.0 : toSpeed(speed, Watcher::slowest, Watcher::fastest)};
     requireDisplay();
-    const fs::path songs = fs::absolute(data) / "Songs";
+    const fs::path songs = fs::absolute(places.data) / "Songs";
     Script script(path);
-    const Stage stage(data, script.setup);
+    const Stage stage(places.data, script.setup);
     Watcher watcher(script, songs, times);
     insert(&watcher);
     runGame(script.setup);
-    return judge(watcher);
+    return judge(watcher, summary.start);
 }
 
-// NOLINTNEXTLINE(performance-unnecessary-value-param): as all commands
-int verify(const fs::path& data, Words words) {
-    requireFiles(words, 1, words.size());
-    const fs::path program = fs::read_symlink("/proc/self/exe").parent_path() / "kov-replay-verify";
+/// Of two exit codes: what is unusable, what differs, what is marked, what is well.
+int worse(int a, int b) {
+    const auto rank = [](int code) {
+        return code == exit_marked     ? 1
+               : code == exit_differs  ? 2
+               : code == exit_unusable ? 3
+                                       : code;
+    };
+    return rank(a) > rank(b) ? a : b;
+}
+
+/// Plays games unseen; lies beside this one.
+fs::path verifyProgram() {
+    return fs::read_symlink("/proc/self/exe").parent_path() / "kov-replay-verify";
+}
+
+ProgramEnd playUnseen(const Words& words) {
+    Words all = {verifyProgram().string()};
+    all.insert(all.end(), words.begin(), words.end());
+    return runProgram(all);
+}
+
+int verify(const Places& places, const Words& words) {
+    const CommandLine line(words, {{"fair", false}});
+    requireFiles(line, 1, line.files.size());
     int worst = 0;
-    for (const std::string& word : words) {
-        const int code = runProgram({program.string(), word, data.string()});
-        if (code < 0) complain(word + ": the game has failed");
-        worst = std::max(worst, code < 0 ? exit_differs : code);
+    for (const std::string& file : line.files) {
+        Words all = {"--", file, places.data.string()};
+        if (line.has("fair")) all.insert(all.begin(), "--fair");
+        const ProgramEnd end = playUnseen(all);
+        if (end.interrupted || end.code == exit_interrupted) return exit_interrupted;
+        if (end.code < 0) complain(file + ": the game has failed");
+        worst = worse(worst, end.code < 0 ? exit_differs : end.code);
     }
     return worst;
 }
 
-Film::Format toFormat(const std::string& size, const Summary& summary) {
-    Film::Format format = {0, 0, summary.start, summary.length};
-    for (const auto& [letter, value] : summary.setup.settings) {
-        if (letter == 'w') format.width = value;
-        if (letter == 'l') format.height = value;
-    }
+void takeSize(const std::string& size, Film::Format& format) {
     int length = -1;
-    if (size.empty()) return format;
     const auto isUsual = [](int pixels) {
         return pixels >= smallest_picture && pixels <= largest_picture;
     };
@@ -211,66 +226,133 @@ Film::Format toFormat(const std::string& size, const Summary& summary) {
     if (length != static_cast<int>(size.size()) || !isUsual(format.width) ||
         !isUsual(format.height))
         throw BadUsage("no size such as 1280x720: " + size);
+}
+
+Film::Format toFormat(const CommandLine& line, const Summary& summary) {
+    const SettingValues& settings = summary.setup.settings;
+    Film::Format format = {valueOf(settings, 'w'), valueOf(settings, 'l'), summary.start, 0,
+                           summary.length,         line.has("full")};
+    if (line.has("size")) takeSize(line.value("size"), format);
+    if (line.has("from")) format.from = toTime(line.value("from"));
+    if (line.has("to")) format.to = std::min(format.to, toTime(line.value("to")));
+    if (format.from >= format.to)
+        throw std::runtime_error("the file is " + minutes(summary.length) +
+                                 " long: nothing lies between " + minutes(format.from) + " and " +
+                                 minutes(format.to));
     return format;
 }
 
-int film(const fs::path& data, Words words) {
-    const std::string size = takeOption(words, "--size");
-    requireFiles(words, 2, 2);
-    const std::string path = fs::absolute(words[0]).string();
-    const std::string out = fs::absolute(words[1]).string();
+int film(const Places& places, const Words& words) {
+    const CommandLine line(words, {{"size", true}, {"from", true}, {"to", true}, {"full", false}});
+    requireFiles(line, 2, 2);
+    const std::string path = fs::absolute(line.files[0]).string();
+    const std::string out = fs::absolute(line.files[1]).string();
     const Summary summary(path);
-    const Film::Format format = toFormat(size, summary);
-    if (fs::exists(out)) throw std::runtime_error(out + " is there already");
-    if (runProgram({"ffmpeg", "-nostdin", "-v", "quiet", "-f", "lavfi", "-i", "anullsrc",
-                    "-frames:a", "1", "-f", "null", "-"}) != 0)
-        throw std::runtime_error("films are made by the program ffmpeg; please install the package "
-                                 "ffmpeg");
+    const Film::Format format = toFormat(line, summary);
+    Film::requireTarget(out);
     requireDisplay();
-    const fs::path songs = fs::absolute(data) / "Songs";
+    const fs::path songs = fs::absolute(places.data) / "Songs";
     Script script(path);
-    const Stage stage(data, script.setup);
+    const Stage stage(places.data, script.setup);
     Film film(script, songs, format);
     insert(&film);
     runGame(script.setup);
-    const int code = judge(film);
-    film.finishFilm(out);
+    const int code = judge(film, summary.start);
+    if (code != exit_interrupted) film.finishFilm(out);
     return code;
 }
 
-int show(const fs::path&, Words words) {
-    requireFiles(words, 1, 1);
-    std::cout << Summary(words[0]).text();
+int show(const Places& places, const Words& words) {
+    const CommandLine line(words, {});
+    requireFiles(line, 1, 1);
+    const ProgramEnd end = playUnseen({"--show", "--", line.files[0], places.data.string()});
+    if (end.interrupted) return exit_interrupted;
+    if (end.code >= 0) return end.code;
+    complain(line.files[0] + ": the game has failed");
+    return exit_differs;
+}
+
+/// By another program, which leaves a report.
+bool prove(const Places& places, const fs::path& file, const fs::path& report) {
+    const ProgramEnd end =
+        playUnseen({"--report", report.string(), "--", file.string(), places.data.string()});
+    if (end.interrupted || end.code == exit_interrupted) throw Interrupted();
+    if (end.code < 0) complain(file.string() + ": the game has failed");
+    return end.code == 0 || end.code == exit_differs;
+}
+
+std::vector<RankedGame> provenGames(const Places& places, const fs::path& folder) {
+    const Shipped shipped(fs::absolute(places.data));
+    std::vector<fs::path> basis = shipped.files;
+    basis.push_back(verifyProgram());
+    Proofs proofs(folder, basis, [&](const fs::path& file, const fs::path& report) {
+        return prove(places, file, report);
+    });
+    std::vector<RankedGame> games;
+    for (const fs::path& file : replaysIn(folder)) {
+        const auto report = proofs.of(file);
+        if (!report) continue;
+        if (!report->verdict.empty()) {
+            complain(file.filename().string() + ": " + report->verdict);
+            continue;
+        }
+        for (const Report::Game& game : report->games)
+            games.push_back({file, report->date, game});
+    }
+    proofs.forgetOthers();
+    return games;
+}
+
+int best(const Places& places, const Words& words) {
+    const CommandLine line(words, {{"page", true}});
+    requireFiles(line, 0, 1);
+    const fs::path folder =
+        fs::absolute(line.files.empty() ? places.replays : fs::path(line.files[0]));
+    if (!line.files.empty() && !fs::is_directory(folder))
+        throw std::runtime_error("no such folder: " + folder.string());
+    const std::vector<RankedGame> games = best(provenGames(places, folder), most_games);
+    if (games.empty())
+        std::cout << "no games are kept in " << folder.string() << '\n';
+    else
+        std::cout << inWords(games);
+    if (!line.has("page")) return 0;
+    writePage(line.value("page"), games);
+    std::cout << "page in " << (fs::absolute(line.value("page")) / "index.html").string() << '\n';
     return 0;
 }
 
 const struct {
     const char* name;
-    int (*run)(const fs::path& data, Words words);
+    int (*run)(const Places& places, const Words& words);
 } commands[] = {
-    {"record", record}, {"watch", watch}, {"verify", verify}, {"film", film}, {"show", show},
+    {"record", record}, {"watch", watch}, {"verify", verify},
+    {"film", film},     {"show", show},   {"best", best},
 };
 
-int run(Words words) {
-    // The launcher says where the game is installed; what the user says comes behind it.
-    std::string data = ".";
-    for (std::string given; given = takeOption(words, "--data"), !given.empty();)
-        data = given;
-    if (words.empty()) throw BadUsage("");
-    const std::string name = words[0];
-    words.erase(words.begin());
-    if (name == "--help" || name == "-h") {
+int sayVersion() {
+    introduceGame();
+    std::cout << "KOV " << quorva::GameInfo::Instance().version << '\n';
+    return 0;
+}
+
+int run(const Words& words) {
+    const CommandLine line(
+        words, {{"data", true, true}, {"replays", true, true}, {"help", false}, {"version", false}},
+        CommandLine::options_first);
+    if (line.has("help")) {
         std::cout << usage_text;
         return 0;
     }
-    if (name == "--version") {
-        introduceGame();
-        std::cout << "KOV " << quorva::GameInfo::Instance().version << '\n';
-        return 0;
-    }
+    if (line.has("version")) return sayVersion();
+    if (line.files.empty()) throw BadUsage("");
+    // The launcher says where the game is installed; what the user says comes behind it.
+    Places places;
+    if (line.has("data")) places.data = line.value("data");
+    if (line.has("replays")) places.replays = line.value("replays");
     for (const auto& command : commands)
-        if (name == command.name) return command.run(data, words);
-    throw BadUsage("no such command: " + name);
+        if (line.files[0] == command.name)
+            return command.run(places, Words(line.files.begin() + 1, line.files.end()));
+    throw BadUsage("no such command: " + line.files[0]);
 }
 
 } // namespace
@@ -282,6 +364,9 @@ int main(int argc, char* argv[]) {
         if (e.what()[0] != '\0') complain(e.what());
         std::cerr << usage_text;
         return exit_unusable;
+    } catch (const Interrupted& e) {
+        complain(e.what());
+        return exit_interrupted;
     } catch (const std::exception& e) {
         return complain(e.what());
     }

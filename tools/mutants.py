@@ -4,8 +4,8 @@
     tools/mutants.py --seed S --count N [FOLDER...]
 
 draws N places from the seed, each line of code as likely as any other, in the folders (Framework,
-game and platform/fmodex unless named), and makes one fault at each: a comparison turned, a constant
-changed, a statement left out, two arguments swapped, a sign. For every fault the copy is built and
+game, platform/fmodex and replay unless named), and makes one fault at each: a comparison turned, a
+constant changed, a statement left out, two arguments swapped, a sign. For every fault the copy is built and
 the whole suite run, the quickest tests first, up to the first that fails. Printed is each fault that
 all tests pass, and last "N mutants, K survive, M do not build". A fault that leaves the programs the
 same to the byte is none: another is drawn for it. Some survivors change nothing that can be seen; a
@@ -27,9 +27,10 @@ import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-DEFAULT_FOLDERS = ["Framework", "game", "platform/fmodex"]
+DEFAULT_FOLDERS = ["Framework", "game", "platform/fmodex", "replay"]
 WHOLE_PROGRAMS = ["tests/kov_tests", "tests/kov_sound_tests"]  # run in one process, before all else
-OTHER_PROGRAMS = ["tests/kov_fault_tests", "kov"]
+OTHER_PROGRAMS = ["tests/kov_fault_tests", "kov", "replay/kov-replay", "replay/kov-replay-verify",
+                  "tests/kov_replay_tests", "tools/kov_record"]
 SLOW_SECONDS = 1  # a test that takes longer waits until the others have passed
 MEMORY_LIMIT = 4 << 30  # bytes a test process may map: a fault may ask for all there is
 SLACK_SECONDS = 30  # on top of three times what the same tests take without a fault

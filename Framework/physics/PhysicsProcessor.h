@@ -31,7 +31,7 @@ constexpr std::uint16_t max_sub_steps = 1000;
 ///
 /// Its methods are in two files: the search for rectangles in Squares.cpp (constructSquares,
 /// addSquaresBetween, linesDifferFromLastSearch, findOuterBounds, testBoxes, holdsAnyTriangle,
-/// catchTriangles, payOut), all others in PhysicsProcessor.cpp.
+/// holds, catchTriangles, payOut), all others in PhysicsProcessor.cpp.
 class PhysicsProcessor : public Component,
                          public MessageInterface<messages::PhysicsController>,
                          public MessageInterface<PhysicsLineMessage>,
@@ -75,6 +75,8 @@ public:
     void doGravity();                 ///< nothing calls it: nothing falls
 
     using Square = boost::array<TrapLine*, 4>; ///< top, left, right, bottom
+    /// Whether so much of the triangle is in the rectangle that it is caught.
+    static bool holds(const Square& square, const PhysicsObject& triangle);
 
     std::vector<Entity*> entities; ///< all that have a body, in order of arrival; not owned
     PairList aabbAabbTests{participants, shape_box, shape_box};

@@ -155,13 +155,14 @@ void PhysicsProcessor::testBoxes() {
     }
 }
 
+bool PhysicsProcessor::holds(const Square& square, const PhysicsObject& triangle) {
+    return cornersInside(boundsOf(square), triangle) >= caught_corners;
+}
+
 unsigned short PhysicsProcessor::catchTriangles(const Square& square) {
-    const Bounds bounds = boundsOf(square);
     unsigned short count = 0;
     for (Entity* e : entities) {
-        if (e->physics->type != shape_triangle ||
-            cornersInside(bounds, *e->physics) < caught_corners)
-            continue;
+        if (e->physics->type != shape_triangle || !holds(square, *e->physics)) continue;
         e->dead = true; // even if it was dead already: it then pays twice
         ++count;
     }

@@ -3,6 +3,7 @@
 
 #include "game/Marvo.h"
 #include "game/PlayerCharacter.h"
+#include "headless/GameMain.h"
 #include "platform/fmodex/fmodex.h"
 #include "platform/standins/VirtualSDL.h"
 #include "tests/support/Files.h"
@@ -17,8 +18,6 @@
 #include <cstring>
 #include <functional>
 #include <random>
-
-int gameMain(int argc, char* argv[]); // main of the game
 
 /// The effects are held until the process ends, by nobody in the end.
 extern "C" const char* __lsan_default_suppressions() { // NOLINT: the sanitizer's name
@@ -98,7 +97,7 @@ protected:
 
     /// Runs the game in a child process, as somebody whom file permissions bind.
     static Outcome play(const std::function<void()>& prepare = {},
-                        std::vector<std::string> arguments = {}) {
+                        const std::vector<std::string>& arguments = {}) {
         int ends[2];
         if (pipe(ends) != 0) return {"no pipe", -1};
         const pid_t child = fork();
@@ -111,11 +110,7 @@ protected:
             if (prepare) prepare();
             leaveRoot();
             sdl().onSwap = turnPage;
-            arguments.insert(arguments.begin(), "kov");
-            std::vector<char*> words;
-            for (std::string& argument : arguments)
-                words.push_back(argument.data());
-            const int code = gameMain(static_cast<int>(words.size()), words.data());
+            const int code = quorva::headless::runGameMain(arguments);
             if (sdl().quits != 1) std::cerr << "SDL_Quit: " << sdl().quits << '\n';
             std::exit(code == 0 && passes - lastPass > 1 ? stopped_elsewhere : code);
         }

@@ -26,7 +26,7 @@ offers() { # words that are expected, line, as bash splits it
 run=./kov offers "--help --ScreenWidth= --FullScreen --manual" kov ""
 run=./kov offers "--FullScreen" kov -u --Fu
 run=./kov offers "" kov --ScreenWidth = ""
-offers "record watch verify film show --help --version" kov-replay ""
+offers "record watch verify film show best --help --version" kov-replay ""
 offers "game.kovreplay films" kov-replay watch ""
 offers "--speed --from" kov-replay watch game.kovreplay --
 offers "" kov-replay watch --from ""
@@ -39,4 +39,10 @@ offers "films" kov-replay film game.kovreplay ""
 offers "films" kov-replay film --size 640x480 game.kovreplay f
 offers "" kov-replay film --size ""
 offers "game.kovreplay films" kov-replay verify game.kovreplay ""
+offers "--fair" kov-replay verify --
+offers "--size --from --to --full" kov-replay film --
+offers "" kov-replay film --to ""
+offers "films" kov-replay best ""
+offers "films" kov-replay best films --page ""
+offers "" kov-replay best films ""
 exit $failures

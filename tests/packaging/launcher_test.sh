@@ -197,8 +197,29 @@ expect "keeping a game, where" "$home"
 ROUND='pwd' replay record
 expect "keeping a game without a name" "arguments: record; colours: "
 (cd "$share" && "$bin/kov-replay" verify "a b" >"$root/out" 2>&1)
-expect "proving a game" "arguments: --data $share verify a b; colours: "
+expect "proving a game" "arguments: --data $share --replays $home/Replays verify a b; colours: "
+for unusable in "$root/file" /proc; do
+    XDG_DATA_HOME=$unusable replay record && fail "a game would be lost, and that is success"
+    expect "keeping a game in $unusable" "kov: can't write to $unusable/kov ("
+    expect "keeping a game in $unusable" "no game can be kept there."
+    expect_not "keeping a game in $unusable" "arguments:"
+    XDG_DATA_HOME=$unusable replay record one.kovreplay
+    expect "keeping a game elsewhere" "arguments: record $root/home/one.kovreplay; colours: "
+    XDG_DATA_HOME=$unusable kov -x
+    expect "not keeping by itself in $unusable" "arguments: -x; colours: "
+done
 rm "$bin/kov-replay"
+
+# The game itself keeps games, too, unless it is told not to.
+kov -x --FullScreen
+expect "keeping by itself" "arguments: record --auto -- -x --FullScreen; colours: "
+kov --no-keep -x
+expect "not keeping" "arguments: -x; colours: "
+echo "--no-keep " >"$home/launcher.conf" && kov
+expect "another line in launcher.conf" "arguments: record --auto --; colours: "
+echo "--no-keep" >>"$home/launcher.conf" && kov -x
+expect "not keeping, by launcher.conf" "arguments: -x; colours: "
+rm "$home/launcher.conf" "$programs/kov-replay"
 
 # By a third name it asks for the keys of that folder, and does so nowhere else.
 cp "$programs/kov" "$programs/kov-keys" && ln -s kov "$bin/kov-keys"

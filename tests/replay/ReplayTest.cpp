@@ -1,10 +1,13 @@
 // Games are kept, played again and compared by the programs themselves; files are spoilt in
 // between.
 
+#include "headless/GameMain.h"
 #include "headless/Sandbox.h"
 #include "platform/standins/GLRecorder.h"
 #include "replay/Blocks.h"
+#include "replay/Recorder.h"
 #include "replay/Script.h"
+#include "replay/Snapshot.h"
 #include "replay/Tape.h"
 
 #include "Framework/math/MTRand.h"
@@ -13,13 +16,18 @@
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <functional>
+#include <map>
+#include <utility>
 
 using namespace quorva;
 using namespace quorva::replay;
+namespace fs = boost::filesystem;
 
 namespace {
 
@@ -48,6 +56,30 @@ protected:
         return run(KOV_VERIFY " " + path + " " KOV_SOURCE_DIR);
     }
 
+    /// Plays by keys, in a program that no game has run in, each held for a pass of 30 ms from the
+    /// given one on, in a process of its own.
+    static void record(const std::string& path, const std::map<unsigned int, int>& keys) {
+        const pid_t child = fork();
+        if (child == 0) {
+            unsigned int passes = 0;
+            standins::sdl().onSwap = [&] {
+                standins::sdl().ticks += 30;
+                ++passes;
+                for (const bool down : {false, true}) {
+                    const auto key = keys.find(down ? passes : passes - 1);
+                    if (key != keys.end()) standins::pushKey(key->second, down);
+                }
+                if (passes > keys.rbegin()->first + 10) standins::pushQuit();
+            };
+            Recorder recorder(path);
+            insert(&recorder);
+            headless::runGameMain({});
+            recorder.finish();
+            std::_Exit(0);
+        }
+        waitpid(child, nullptr, 0);
+    }
+
     const headless::Sandbox sandbox{KOV_SOURCE_DIR};
     const std::string kept = KOV_SOURCE_DIR "/tests/recordings/first-steps.kovreplay";
     const std::string other = KOV_SOURCE_DIR "/tests/recordings/one-game.kovreplay";
@@ -56,8 +88,9 @@ protected:
 using Edit = std::function<bool(Record&)>; // true: it is done
 
 /// A replay with other contents, as a program that knows the format would write them.
+/// @param once whether the edit has to succeed
 std::string edited(const std::string& path, const Edit& edit,
-                   const std::function<void(replay::Setup&)>& editSetup = {}) {
+                   const std::function<void(replay::Setup&)>& editSetup = {}, bool once = true) {
     Script script(path);
     RecordWriter records;
     ByteWriter bytes;
@@ -67,22 +100,34 @@ std::string edited(const std::string& path, const Edit& edit,
         std::remove("edited"); // of the edit before
         BlockWriter blocks("edited");
         bool done = !edit;
-        while (auto record = script.next()) {
+        while (auto record = script.take()) {
             if (!done) done = edit(*record);
             records.write(*record, bytes);
             if (bytes.bytes.size() < 4000) continue;
             blocks.write(bytes.bytes);
             bytes.bytes.clear();
         }
-        EXPECT_TRUE(done);
+        EXPECT_TRUE(done || !once);
         blocks.write(bytes.bytes);
     }
     return contentsOf("edited");
 }
 
+/// Changes the first record of a kind.
+template <class Kind>
+Edit ofFirst(void (*change)(Kind&)) {
+    return [change](Record& record) {
+        auto* const found = std::get_if<Kind>(&record);
+        if (found != nullptr) change(*found);
+        return found != nullptr;
+    };
+}
+
 /// The first key that fires.
 bool changeKey(Record& record) {
-    for (Event& event : record.pass_.events)
+    auto* const pass = std::get_if<Pass>(&record);
+    if (pass == nullptr) return false;
+    for (Event& event : pass->events)
         if (event.which == SDLK_w) return event.which = SDLK_s, true;
     return false;
 }
@@ -137,7 +182,7 @@ TEST_F(Replay, ADamagedFileIsToldInALine) {
         {"Up, W\n", "no replay"},
         {whole.substr(0, 12), "damaged"},
         {whole.substr(0, 13), "nothing was recorded"},
-        {with(11, 2), "newer version"},
+        {with(11, format_version + 1), "newer version"},
         {with(12, 9), "rules of another version"},
         {flipped(13), ""}, // sizes and checksum of a block
         {flipped(17), "damaged"},
@@ -164,21 +209,15 @@ TEST_F(Replay, AnEditedFileDiffers) {
         const char* words;
         Edit edit;
     } cases[] = {
-        {"score, deaths",
-         [](Record& r) { return r.kind == Record::game_end && ++r.result.score != 0; }},
-        {"score, deaths",
-         [](Record& r) { return r.kind == Record::game_end && ++r.result.deaths != 0; }},
-        {"score, deaths",
-         [](Record& r) { return r.kind == Record::game_end && (r.result.lost = true); }},
+        {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { ++end.score; })},
+        {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { ++end.deaths; })},
+        {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { end.lost = true; })},
         {"the first that differs: ", changeKey},
-        {"only the hash differs",
-         [](Record& r) { return r.kind == Record::check && ++r.check_.hash != 0; }},
-        {"differs: score and lives",
-         [](Record& r) { return r.kind == Record::check && (++r.check_.marks[0], true); }},
-        {"the first that differs: ",
-         [](Record& r) { return r.kind == Record::end && (++r.check_.marks[0], true); }},
+        {"only the hash differs", ofFirst<Check>([](Check& check) { ++check.hash; })},
+        {"differs: score and lives", ofFirst<Check>([](Check& check) { ++check.partHashes[0]; })},
+        {"the first that differs: ", ofFirst<End>([](End& end) { ++end.check.partHashes[0]; })},
         {"goes another way",
-         [](Record& r) { return r.kind == Record::game_begin && (r.kind = Record::check, true); }},
+         [](Record& r) { return std::holds_alternative<GameBegin>(r) && (r = Check(), true); }},
     };
     for (const auto& c : cases) {
         const Outcome outcome = verify(edited(other, c.edit));
@@ -196,6 +235,149 @@ TEST_F(Replay, AnEditedFileDiffers) {
     };
     for (void (*const edit)(replay::Setup&) : {+bind, +fade, +refine})
         EXPECT_EQ(verify(edited(other, {}, edit)).code, 1);
+}
+
+TEST_F(Replay, WhatIsNeverRecordedIsRefused) {
+    const auto withEvent = [](Event::Kind kind) {
+        return ofFirst<Pass>(kind == Event::axis_moved
+                                 ? +[](Pass& p) { p.events.push_back({0, Event::axis_moved, 0}); }
+                                 : +[](Pass& p) {
+                                       p.events.push_back({0, Event::button_down, 1});
+                                   });
+    };
+    const struct {
+        const char* what;
+        Edit edit;
+        void (*editSetup)(replay::Setup&);
+    } cases[] = {
+        {"a clock that runs back",
+         [passes = 0](Record& r) mutable {
+             auto* const pass = std::get_if<Pass>(&r);
+             if (pass == nullptr || ++passes < 50) return false;
+             return --(pass->clock.back() -= 1000), true;
+         },
+         nullptr},
+        {"a button without a joystick", withEvent(Event::button_down), nullptr},
+        {"an axis without a joystick", withEvent(Event::axis_moved), nullptr},
+        {"positions without a joystick", ofFirst<Pass>([](Pass& p) { p.axes.push_back(7); }),
+         nullptr},
+        {"a setting twice", {}, [](replay::Setup& s) { s.settings.push_back(s.settings[2]); }},
+        {"a colour twice", {}, [](replay::Setup& s) { s.colours.push_back(s.colours[3]); }},
+        {"a point twice",
+         {},
+         [](replay::Setup& s) {
+             s.points.resize(2, {"a", {0, 0, 0}});
+         }},
+        {"a colour out of range", {}, [](replay::Setup& s) { s.colours[0].parts[3] = 8.5; }},
+        {"no such setting", {}, [](replay::Setup& s) { s.settings[0].first = 'x'; }},
+        {"no such value", {}, [](replay::Setup& s) { s.settings[0].second = 1921; }},
+    };
+    for (const auto& c : cases) {
+        const Outcome outcome = verify(edited(other, c.edit, c.editSetup));
+        EXPECT_EQ(outcome.code, 2) << c.what << outcome.text;
+        EXPECT_NE(outcome.text.find("damaged"), std::string::npos) << c.what << outcome.text;
+    }
+    const auto wait = [passes = 0](Record& r) mutable {
+        auto* const pass = std::get_if<Pass>(&r);
+        if (pass != nullptr && ++passes > 50)
+            for (std::uint32_t& ms : pass->clock)
+                ms += INT32_MAX / 2;
+        return passes > 50 && std::holds_alternative<End>(r);
+    };
+    EXPECT_EQ(verify(edited(other, wait)).code, 1) << "a long wait is none of these";
+}
+
+TEST_F(Replay, ANightWithoutMusicIsReadAndHalfOfItIsNot) {
+    constexpr std::uint32_t night = 8 * 3600 * 1000; // ms
+    for (const std::uint32_t length : {night, night / 2}) {
+        const auto stand = [length, passes = 0](Record& r) mutable {
+            auto* const pass = std::get_if<Pass>(&r);
+            if (pass == nullptr || ++passes < 50) return false;
+            if (passes < 50 + 16) pass->idle = 1U << 24U; // 250 million in all
+            for (std::uint32_t& ms : pass->clock)
+                ms += length;
+            return false;
+        };
+        fill("a", edited(kept, stand, {}, false));
+        Script script("a");
+        const auto readAll = [&] {
+            while (script.take()) {
+            }
+        };
+        if (length == night)
+            EXPECT_NO_THROW(readAll());
+        else
+            EXPECT_THROW(readAll(), BadFile);
+    }
+}
+
+TEST_F(Replay, AnInterruptionIsNoDifferenceAndLeavesNothing) {
+    // More passes to repeat than could be played in a minute.
+    fill("a", edited(kept, ofFirst<Pass>([](Pass& p) { p.idle = 1500000; })));
+    fs::create_directory("tmp");
+    for (const char* signal : {"INT", "TERM", "HUP"}) {
+        const Outcome outcome = run("TMPDIR=tmp timeout --preserve-status -s " +
+                                    std::string(signal) + " 0.3 " KOV_VERIFY " a " KOV_SOURCE_DIR);
+        EXPECT_EQ(outcome.code, 3) << signal << outcome.text;
+        EXPECT_NE(outcome.text.find("interrupted\n"), std::string::npos) << outcome.text;
+        EXPECT_TRUE(fs::is_empty("tmp")) << signal;
+    }
+}
+
+TEST_F(Replay, SettingsAreThoseOfEachGame) {
+    record("changed", {{2, SDLK_RETURN},
+                       {9, SDLK_ESCAPE},
+                       {12, SDLK_DOWN},
+                       {13, SDLK_RETURN},
+                       {15, SDLK_DOWN},
+                       {16, SDLK_DOWN},
+                       {17, SDLK_DOWN},
+                       {18, SDLK_DOWN},
+                       {19, SDLK_LEFT},
+                       {21, SDLK_DOWN},
+                       {22, SDLK_DOWN},
+                       {23, SDLK_RETURN},
+                       {26, SDLK_RETURN},
+                       {40, SDLK_w}});
+    const Outcome shown = run(KOV_VERIFY " --show changed " KOV_SOURCE_DIR);
+    EXPECT_EQ(shown.code, 0) << shown.text;
+    const std::size_t first = shown.text.find("CollisionAccuracy=10 ");
+    EXPECT_NE(first, std::string::npos) << shown.text;
+    EXPECT_NE(shown.text.find("CollisionAccuracy=9 ", first), std::string::npos) << shown.text;
+    EXPECT_NE(shown.text.find("accuracy 9 (!)"), std::string::npos) << shown.text;
+    EXPECT_EQ(run(KOV_VERIFY " --fair changed " KOV_SOURCE_DIR).code, 4);
+    const auto refine =
+        ofFirst<ChangedSettings>([](ChangedSettings& s) { s.values[2].second = 8; });
+    const Outcome edited_ = verify(edited("changed", refine));
+    EXPECT_EQ(edited_.code, 1);
+    EXPECT_NE(edited_.text.find("the settings"), std::string::npos) << edited_.text;
+}
+
+TEST_F(Replay, TellsWhatCouldHaveHelped) {
+    const Outcome untouched = run(KOV_VERIFY " --fair " + other + " " KOV_SOURCE_DIR);
+    EXPECT_EQ(untouched.code, 0) << untouched.text;
+    EXPECT_EQ(untouched.text.find("(!)"), std::string::npos) << untouched.text;
+    // Slow motion, as by stopping and continuing the process: the same game at a sixth.
+    std::uint32_t last = 0, slow = 0;
+    const auto stretch = [&](Record& r) {
+        auto* const pass = std::get_if<Pass>(&r);
+        if (pass == nullptr) return false;
+        for (std::uint32_t& ms : pass->clock) {
+            slow += (ms - std::exchange(last, ms)) * 17 / 3;
+            ms = slow;
+        }
+        return false;
+    };
+    const Outcome outcome = verify(edited(
+        other, stretch,
+        [](replay::Setup& s) {
+            s.colours[0].parts[0] = 0.5;
+            s.bindings[8].first = s.bindings[7].first;
+        },
+        false));
+    EXPECT_NE(outcome.text.find("170.0 ms each (!)"), std::string::npos) << outcome.text;
+    EXPECT_NE(outcome.text.find("1 colour changed (!)"), std::string::npos) << outcome.text;
+    EXPECT_NE(outcome.text.find("2 actions a key (!)"), std::string::npos) << outcome.text;
 }
 
 TEST(Frames, StayEmptyWhileTheTapeShowsNone) {
@@ -238,9 +420,9 @@ TEST(Comparison, NamesTheFirstObjectThatDiffers) {
     game.startLevel();
     game.ticks(300);
     for (const auto& c : cases) {
-        const Check before = Check::ofGame();
+        const Check before = checkOfGame();
         c.change();
-        const std::string found = before.compare(Check::ofGame());
+        const std::string found = firstDifference(before, checkOfGame());
         EXPECT_NE(found.find(c.words), std::string::npos) << found;
         EXPECT_EQ(found.empty(), *c.words == '\0') << found;
     }

@@ -13,6 +13,7 @@
 #include "Framework/input/KeyMapper.h"
 #include "game/FModSystem.h"
 #include "game/Marvo.h"
+#include "headless/GameMain.h"
 #include "platform/standins/VirtualSDL.h"
 #include "tools/soak/Closer.h"
 
@@ -26,8 +27,6 @@
 #include <iostream>
 #include <iterator>
 #include <map>
-
-int gameMain(int argc, char* argv[]); // the game's own main
 
 namespace soak {
 
@@ -80,9 +79,7 @@ void touchServices(std::mt19937& random) {
         standins::sdl().ticks += Timer::Instance().getProcessRate();
         closer->pass();
     };
-    static char name[] = "kov";
-    char* arguments[] = {name, nullptr};
-    std::exit(gameMain(1, arguments));
+    std::exit(headless::runGameMain({}));
 }
 
 std::string reportText() {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "replay/Player.h"
+#include "replay/Playback.h"
 
 #include <boost/filesystem/path.hpp>
 
@@ -10,10 +10,10 @@ namespace quorva::replay {
 
 /// Plays a file in a real window, with the songs that are here: those of the same lengths as the
 /// ones that were played, silence for any other.
-class Screen : public Player {
+class WindowPlayback : public Playback {
 public:
     /// @param songs the folder with songs
-    Screen(Script& script_, const boost::filesystem::path& songs_);
+    WindowPlayback(Script& script_, const boost::filesystem::path& songs_);
 
     SDL_Surface* openWindow(int width, int height, int depth, std::uint32_t flags) override;
 

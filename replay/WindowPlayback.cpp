@@ -1,4 +1,4 @@
-#include "replay/Screen.h"
+#include "replay/WindowPlayback.h"
 
 #include <boost/filesystem.hpp>
 
@@ -29,20 +29,20 @@ void writeSilence() {
 
 } // namespace
 
-Screen::Screen(Script& script_, const fs::path& songs_)
-    : Player(script_), folder(fs::absolute(songs_)) {}
+WindowPlayback::WindowPlayback(Script& script_, const fs::path& songs_)
+    : Playback(script_), folder(fs::absolute(songs_)) {}
 
-SDL_Surface* Screen::openWindow(int width, int height, int depth, std::uint32_t flags) {
+SDL_Surface* WindowPlayback::openWindow(int width, int height, int depth, std::uint32_t flags) {
     return Tape::openWindow(width, height, depth, flags & ~static_cast<Uint32>(SDL_FULLSCREEN));
 }
 
-FMOD_RESULT Screen::openSongOf(std::uint32_t ms, FMOD_SYSTEM* system, FMOD_SOUND** song) {
+FMOD_RESULT WindowPlayback::openSongOf(std::uint32_t ms, FMOD_SYSTEM* system, FMOD_SOUND** song) {
     if (!measured) measureSongs(system);
     const auto found = songs.find(ms);
     return Tape::openSong(system, found == songs.end() ? silent_song : found->second.c_str(), song);
 }
 
-void Screen::measureSongs(FMOD_SYSTEM* system) {
+void WindowPlayback::measureSongs(FMOD_SYSTEM* system) {
     measured = true;
     writeSilence();
     boost::system::error_code ignored; // no folder, no songs

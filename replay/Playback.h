@@ -4,17 +4,18 @@
 #include "replay/Script.h"
 #include "replay/Tape.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace quorva::replay {
 
 /// Gives the game what a file holds in place of what comes from outside, and compares what it makes
-/// of that. At the end of the file the game is ended.
-class Player : public Tape {
+/// of that. The game is ended at the end of the file and at an interruption.
+class Playback : public Tape {
 public:
     /// @param script not owned; its first record is next
-    explicit Player(Script& script);
+    explicit Playback(Script& script);
 
     std::uint32_t clock() override;
     int poll(SDL_Event* event) override;
@@ -24,6 +25,7 @@ public:
     FMOD_RESULT openSong(FMOD_SYSTEM* system, const char* path, FMOD_SOUND** song) override;
     FMOD_RESULT songLength(FMOD_SOUND* song, unsigned int* ms) override;
     void sleep(std::uint32_t) override {}
+    bool draws() override { return !isIdle(); }
     void endFrame() override;
 
     /// The program has ended.
@@ -32,37 +34,52 @@ public:
     const std::string& difference() const { return difference_; } ///< the first; empty: none
     const std::string& damage() const { return damage_; }         ///< of the file; empty: none
     const Progress& progress() const { return progress_; }
-    const std::vector<Result>& results() const { return results_; } ///< of the games, as played
+    const std::vector<GameEnd>& results() const { return results_; } ///< of the games, as played
+    const Pass& pass() const { return pass_; } ///< that is being played, or was last
     std::uint32_t now() const { return now_; } ///< ms, the clock as the game knows it
 
 protected:
+    /// The keys and songs of the player whose game it is, once the game has found its own.
+    virtual void prepareGame();
+    /// The clock has moved on to `now`, within a pass: what comes next comes at that time.
+    virtual void moveOn() {}
     /// A frame is there, and everything up to it has been compared. Shows it.
     virtual void show() { Tape::endFrame(); }
+    /// A pass has gone by in which the game only looked for a song. There may be millions.
+    virtual void passIdly() {}
     /// Plays, in place of the song that was played, one of that length.
     virtual FMOD_RESULT openSongOf(std::uint32_t ms, FMOD_SYSTEM* system, FMOD_SOUND** song);
 
     void stop() { ending = true; } ///< the game is to end now
     bool isEnding() const { return ending; }
+    bool isIdle() const { return idle != 0; }
+
+    Script& script;
 
 private:
-    void prepareGame();
+    void prepareOnce();
+    template <class Work>
+    void whileReadable(const Work& work);
+    bool isComparing() const;
     void compareProgress();
-    void compare(Record::Kind kind);
+    void compareSettings();
+    void compareCheck(const Check& kept);
+    template <class Kind>
+    std::optional<Kind> expect();
     void differs(const std::string& what);
     void nextPass();
     bool giveEvent(SDL_Event* event);
 
-    Script& script;
     Progress progress_;
-    std::vector<Result> results_;
+    std::vector<GameEnd> results_;
     std::string difference_, damage_;
     bool prepared = false, observing = false, ending = false;
     std::uint32_t lastEqual = 0; ///< tick
 
-    Pass pass; ///< the one that is being played, and what of it has been taken
+    Pass pass_; // and what of it has been taken
     std::size_t clockPlace = 0, eventPlace = 0, axisPlace = 0, songPlace = 0;
     std::uint64_t idle = 0; ///< passes before it, still to be played
-    std::uint32_t drains = 0;
+    std::uint32_t emptyPolls = 0;
     std::uint32_t now_ = 0;
 };
 

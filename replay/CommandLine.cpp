@@ -1,0 +1,81 @@
+#include "replay/CommandLine.h"
+
+#include <getopt.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <regex>
+#include <sstream>
+
+namespace quorva::replay {
+
+namespace {
+
+std::vector<option> optionsOf(const std::vector<CommandLine::Option>& known) {
+    std::vector<option> options;
+    options.reserve(known.size() + 1);
+    int code = 0;
+    for (const CommandLine::Option& each : known)
+        options.push_back(
+            {each.name, each.takesValue ? required_argument : no_argument, nullptr, ++code});
+    options.push_back({});
+    return options;
+}
+
+[[noreturn]] void refuse(int found, const std::vector<CommandLine::Option>& known,
+                         const std::string& word) {
+    if (found == ':') throw BadUsage(word + " wants a value");
+    const auto code = static_cast<std::size_t>(optopt);
+    const bool isKnown = word.compare(0, 2, "--") == 0 && code > 0 && code <= known.size();
+    if (isKnown) throw BadUsage(std::string("--") + known[code - 1].name + " takes no value");
+    throw BadUsage("no such option: " + word);
+}
+
+} // namespace
+
+CommandLine::CommandLine(const Words& words, const std::vector<Option>& known, Order order) {
+    const std::vector<option> options = optionsOf(known);
+    std::vector<const char*> arguments = {"kov-replay"};
+    for (const std::string& word : words)
+        arguments.push_back(word.c_str());
+    const auto count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    char* const* const given = const_cast<char* const*>(arguments.data()); // it only sorts them
+
+    optind = 0; // starts anew
+    opterr = 0; // we say it ourselves
+    int found = 0;
+    while ((found = getopt_long(count, given, order == mixed ? ":" : "+:", options.data(),
+                                nullptr)) != -1) {
+        if (found == '?' || found == ':') refuse(found, known, given[std::max(optind - 1, 1)]);
+        const Option& option = known[static_cast<std::size_t>(found) - 1];
+        const std::string name = option.name;
+        if (has(name) && !option.mayRepeat) throw BadUsage("--" + name + " stands there twice");
+        values[name] = optarg != nullptr ? optarg : "";
+    }
+    files.assign(given + optind, given + count);
+}
+
+std::string CommandLine::value(const std::string& option) const {
+    const auto found = values.find(option);
+    return found == values.end() ? "" : found->second;
+}
+
+std::uint32_t toTime(const std::string& text) {
+    static const std::regex pattern("(?:(\\d{1,5}):)?(\\d{1,6})");
+    std::smatch parts;
+    if (!std::regex_match(text, parts, pattern)) throw BadUsage("no time such as 1:30: " + text);
+    const unsigned long m = parts[1].matched ? std::stoul(parts[1]) : 0;
+    return static_cast<std::uint32_t>((m * 60 + std::stoul(parts[2])) * 1000);
+}
+
+double toSpeed(const std::string& text, double slowest, double fastest) {
+    char* end = nullptr;
+    const double speed = std::strtod(text.c_str(), &end);
+    if (*end == '\0' && speed >= slowest && speed <= fastest) return speed;
+    std::ostringstream out;
+    out << "no speed from " << slowest << " to " << fastest << ": " << text;
+    throw BadUsage(out.str());
+}
+
+} // namespace quorva::replay

@@ -1,0 +1,59 @@
+#include "replay/Interruption.h"
+
+#include <atomic>
+
+namespace quorva::replay {
+
+namespace {
+
+static_assert(std::atomic<bool>::is_always_lock_free); // else no handler may touch it
+std::atomic<bool> interrupted = false;
+
+void note(int) {
+    interrupted = true;
+}
+
+bool isIgnored(int signal) { // by nohup, for example
+    struct sigaction action = {};
+    sigaction(signal, nullptr, &action);
+    return action.sa_handler == SIG_IGN;
+}
+
+constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP};
+
+sigset_t signalSet() {
+    sigset_t set;
+    sigemptyset(&set);
+    for (const int signal : signals)
+        if (!isIgnored(signal)) sigaddset(&set, signal);
+    return set;
+}
+
+} // namespace
+
+sigset_t holdInterruptions(int another) {
+    sigset_t set = signalSet();
+    if (another != 0) sigaddset(&set, another);
+    pthread_sigmask(SIG_BLOCK, &set, nullptr);
+    return set;
+}
+
+void catchInterruptions() {
+    struct sigaction action = {};
+    action.sa_handler = note;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : signals)
+        if (!isIgnored(signal)) sigaction(signal, &action, nullptr);
+    const sigset_t set = signalSet();
+    pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
+}
+
+bool isInterrupted() {
+    return interrupted;
+}
+
+bool takeInterruption() {
+    return interrupted.exchange(false);
+}
+
+} // namespace quorva::replay

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <boost/filesystem/path.hpp>
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace quorva::replay {
+
+constexpr const char* replay_ending = ".kovreplay";
+
+/// The replay files of a folder.
+/// @return their paths, sorted by name; none if it can't be read
+std::vector<boost::filesystem::path> replaysIn(const boost::filesystem::path& folder);
+
+/// The name of a game that is kept without one of the player's own: when it was played and, once
+/// that is known, its best score. Games that are kept by themselves have "auto" behind that, and
+/// those alone are ever thrown out.
+struct KeptName {
+    std::string date; ///< such as "2026-11-26 20.15.00", which also sorts by time
+    std::uint32_t score = 0;
+    bool isAutomatic = false;
+
+    static KeptName now(bool isAutomatic); ///< without score
+    /// @return whether it is one of those that are kept by themselves. A game that broke off has
+    ///         no score in its name.
+    static bool parse(const std::string& fileName, KeptName& name);
+
+    std::string unfinished() const; ///< the file's name, without score
+    std::string finished() const;   ///< with it
+};
+
+/// What stays of the games that are kept by themselves.
+struct KeepLimits {
+    std::size_t latest = 20, best = 10;
+    std::uintmax_t bytes = 50U << 20U; ///< of these games together
+};
+
+/// Removes those that are neither among the latest nor among the best, and further ones, the
+/// oldest first and the best last, while they are too large together.
+void tidy(const boost::filesystem::path& folder, const KeepLimits& limits = {});
+
+} // namespace quorva::replay

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "replay/Best.h"
+
+namespace quorva::replay {
+
+/// Writes a page of games into a folder, which is made if need be: index.html, a picture for each
+/// game, and the files to download. It is read without scripts. Throws std::runtime_error.
+void writePage(const boost::filesystem::path& folder, const std::vector<RankedGame>& games);
+
+/// As it has to be within HTML, also in quotes.
+std::string escaped(const std::string& text);
+
+/// A file's name as a relative address.
+std::string addressOf(const std::string& fileName);
+
+} // namespace quorva::replay

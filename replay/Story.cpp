@@ -1,0 +1,142 @@
+#include "replay/Story.h"
+
+#include "Framework/Entity.h"
+#include "Framework/MessageHandler.h"
+#include "Framework/Timer.h"
+#include "Framework/physics/PhysicsProcessor.h"
+#include "game/Marvo.h"
+#include "game/TrapLine.h"
+#include "replay/Snapshot.h"
+#include "replay/Words.h"
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+
+namespace quorva::replay {
+
+using physics::PhysicsProcessor;
+
+namespace {
+
+constexpr unsigned int sides_of_rectangle = 4; // none is a side of two that pay out
+
+/// Whether the rectangle has just paid out.
+bool isCatch(const PhysicsProcessor::Square& square) {
+    return std::all_of(square.begin(), square.end(),
+                       [](const TrapLine* line) { return line->isFakeDone(); });
+}
+
+/// In the rectangle that has just paid out.
+unsigned int caughtTriangles() {
+    const auto* const physics = activeComponent<PhysicsProcessor>();
+    if (physics == nullptr) return 0;
+    const auto square = std::find_if(physics->squares.begin(), physics->squares.end(), isCatch);
+    if (square == physics->squares.end()) return 0;
+    return static_cast<unsigned int>(std::count_if(
+        physics->entities.begin(), physics->entities.end(), [&](const Entity* entity) {
+            return entity->physics->type == physics::shape_triangle &&
+                   PhysicsProcessor::holds(*square, *entity->physics);
+        }));
+}
+
+} // namespace
+
+unsigned int GameStory::sides() const {
+    return sides_of_rectangle * static_cast<unsigned int>(catches.size());
+}
+
+unsigned int GameStory::triangles() const {
+    return std::accumulate(catches.begin(), catches.end(), 0U,
+                           [](unsigned int sum, const Catch& c) { return sum + c.triangles; });
+}
+
+const GameStory::Catch* GameStory::best() const {
+    const auto found =
+        std::max_element(catches.begin(), catches.end(),
+                         [](const Catch& a, const Catch& b) { return a.points < b.points; });
+    return found == catches.end() ? nullptr : &*found;
+}
+
+std::string inWords(const GameStory& game) {
+    std::string text = counted(game.catches.size(), "rectangle") + " with " +
+                       counted(game.triangles(), "triangle");
+    if (const GameStory::Catch* const best = game.best())
+        text += ", the best " + counted(best->points, "point") + " for " +
+                counted(best->triangles, "triangle") + " at " + minutes(game.begin + best->time);
+    text += "; " + counted(game.shots, "shot") + ", " + std::to_string(game.sides()) +
+            " of them a side; " + counted(game.powerUps, "power-up") + "; " +
+            (game.end ? counted(game.end->deaths, "death") + "; " : "") + minutes(game.length()) +
+            " long";
+    return text;
+}
+
+Story::Story() {
+    subscribe<SoundBullet>(this);
+    subscribe<SoundSquare>(this);
+    subscribe<SoundPup>(this);
+    subscribe<SoundClearBomb>(this);
+    subscribe<SoundImmuneBomb>(this);
+}
+
+void Story::look(const Progress& progress, const Pass& pass, std::uint32_t place) {
+    if (progress.ended && !games.empty()) games.back().end = progress.end;
+    if (progress.began) begin(place);
+    if (!progress.inGame && !progress.ended) return;
+    GameStory& game = games.back();
+    game.last = place;
+    const auto presses = std::count_if(pass.events.begin(), pass.events.end(),
+                                       [](const Event& event) { return event.isPress(); });
+    game.presses = std::max(game.presses, static_cast<std::size_t>(presses));
+    for (; datedCatches < game.catches.size(); ++datedCatches)
+        game.catches[datedCatches].time = place - game.begin;
+    lookAtClock(progress, place);
+}
+
+void Story::begin(std::uint32_t place) {
+    games.emplace_back();
+    games.back().begin = lastTick = place;
+    games.back().settings = settingsOfGame();
+    score = 0;
+    datedCatches = 0;
+    pauses = 0;
+    isPaused = false;
+}
+
+/// A pause and the tick that follows it, or that went before, may be in one pass.
+void Story::lookAtClock(const Progress& progress, std::uint32_t place) {
+    GameStory& game = games.back();
+    const TimerClass& timer = Timer::Instance();
+    if (progress.ended) {
+        if (isPaused) endPause(place - pauseBegin);
+        return;
+    }
+    const std::uint32_t ended = timer.correction - std::exchange(pauses, timer.correction);
+    if (ended != 0) endPause(ended);
+    if (!isPaused && timer.paused) pauseBegin = place;
+    isPaused = timer.paused;
+    if (!progress.ticked || progress.began) return;
+    const std::uint32_t length = place - std::exchange(lastTick, place);
+    ++game.ticks;
+    if (length > GameStory::slow_tick) ++game.slowTicks;
+    game.longestTick = std::max(game.longestTick, length);
+}
+
+/// @param length ms
+void Story::endPause(std::uint32_t length) {
+    ++games.back().pauses;
+    games.back().paused += length;
+    lastTick += length;
+}
+
+void Story::receiveMessage(const SoundSquare*) {
+    GameStory& game = games.back();
+    const std::uint32_t before = std::exchange(score, Marvo::Instance().score);
+    const GameStory::Catch* const former = game.best();
+    const std::uint32_t points = score - before;
+    const bool isBest = former == nullptr || points > former->points;
+    game.catches.push_back({0, points, caughtTriangles()});
+    if (isBest && onBestCatch) onBestCatch();
+}
+
+} // namespace quorva::replay

@@ -1,0 +1,113 @@
+#include "replay/Verifier.h"
+
+#include "replay/Interruption.h"
+#include "replay/Words.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <iostream>
+#include <utility>
+
+namespace quorva::replay {
+
+namespace {
+
+constexpr unsigned int calls_a_look = 256;
+constexpr std::chrono::milliseconds meter_interval(300);
+
+} // namespace
+
+bool Meter::isTerminal() {
+    return isatty(STDOUT_FILENO) != 0;
+}
+
+void Meter::show(double part) {
+    if (!isWanted || ++calls % calls_a_look != 0) return;
+    const auto time = std::chrono::steady_clock::now();
+    if (time - shown < meter_interval) return;
+    shown = time;
+    hasShown = true;
+    std::cout << '\r' << static_cast<int>(100.0 * part) << " % " << std::flush;
+}
+
+void Meter::clear() {
+    if (std::exchange(hasShown, false)) std::cout << "\r      \r" << std::flush;
+}
+
+Verifier::Verifier(Script& script_, const Shipped& shipped_, bool withPictures)
+    : Playback(script_), shipped(shipped_) {
+    if (!withPictures) return;
+    camera.emplace();
+    story.onBestCatch = [this] { pictureIsDue = true; };
+}
+
+void Verifier::prepareGame() {
+    changes = changesFrom(shipped, script.setup);
+    Playback::prepareGame();
+}
+
+void Verifier::show() {
+    if (!difference().empty()) stop();
+    look();
+    passIdly();
+}
+
+void Verifier::look() {
+    if (!start) start = now();
+    story.look(progress(), pass(), now() - *start);
+    takePicture();
+}
+
+/// Of the frame that is there, if it shows the best catch so far.
+void Verifier::takePicture() {
+    if (!camera) return;
+    if (!std::exchange(pictureIsDue, false)) return camera->skip();
+    const SettingValues& settings = story.games.back().settings;
+    pictures.resize(story.games.size());
+    pictures.back() = camera->take(valueOf(settings, 'w'), valueOf(settings, 'l'));
+}
+
+void Verifier::passIdly() {
+    meter.show(static_cast<double>(script.place()) / static_cast<double>(script.size()));
+}
+
+void Verifier::finish() {
+    Playback::finish();
+    pictureIsDue = false;
+    look();
+    meter.clear();
+}
+
+std::string Verifier::verdict() {
+    if (!difference().empty()) return difference();
+    if (isInterrupted()) return "interrupted";
+    return script.isCutOff() ? "holds, but is cut off here" : "holds";
+}
+
+bool Verifier::anyGameMarked() const {
+    return std::any_of(story.games.begin(), story.games.end(),
+                       [this](const GameStory& game) { return anyMarked(remarks(game)); });
+}
+
+Report Verifier::report() {
+    Report report;
+    report.date = script.setup.date;
+    report.verdict = difference();
+    pictures.resize(story.games.size());
+    for (std::size_t i = 0; i < story.games.size(); ++i) {
+        const GameStory& game = story.games[i];
+        if (!game.end) continue;
+        const std::vector<Remark> found = remarks(game);
+        Report::Game kept = {
+            game.end->score, game.begin, game.length(), anyMarked(found), inWords(game),
+            inWords(found),  {},         pictures[i]};
+        std::uint32_t score = 0;
+        for (const GameStory::Catch& each : game.catches)
+            kept.curve.emplace_back(each.time, score += each.points);
+        report.games.push_back(std::move(kept));
+    }
+    return report;
+}
+
+} // namespace quorva::replay

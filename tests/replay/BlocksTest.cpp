@@ -1,0 +1,131 @@
+// Bytes and blocks of a replay file, to their limits.
+
+#include "replay/Blocks.h"
+#include "replay/Bytes.h"
+#include "tests/support/Files.h"
+
+#include <boost/filesystem.hpp>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+using namespace quorva::replay;
+namespace fs = boost::filesystem;
+
+namespace {
+
+class Blocks : public testing::Test {
+protected:
+    void TearDown() override { fs::remove(path); }
+
+    /// What a file with that one block gives.
+    std::string readBack(const std::string& block) {
+        fs::remove(path);
+        BlockWriter(path).write(block);
+        return BlockReader(path).read();
+    }
+    std::size_t compressedSize(const std::string& block) {
+        fs::remove(path);
+        BlockWriter(path).write(block);
+        return contentsOf(path).size() - BlockWriter::empty_size - 12; // a block's head
+    }
+
+    const std::string path = (fs::temp_directory_path() / fs::unique_path()).string();
+};
+
+} // namespace
+
+TEST_F(Blocks, GrowNoMoreThanTheirShare) {
+    // What a block may grow to: 100 times its size and 4096 bytes.
+    std::size_t size = 4096;
+    while (size != 100 * compressedSize(std::string(size, 'x')) + 4096)
+        ASSERT_LT(++size, 9000U) << "there is such a size";
+    EXPECT_EQ(readBack(std::string(size, 'x')).size(), size);
+    EXPECT_THROW(readBack(std::string(size + 1, 'x')), BadFile);
+}
+
+TEST_F(Blocks, AreAtMostSoLarge) {
+    std::string noise(BlockWriter::largest_block, ' ');
+    std::uint32_t seed = 1;
+    for (char& c : noise)
+        c = static_cast<char>((seed = seed * 1664525 + 1013904223) >> 24U);
+    EXPECT_EQ(readBack(noise), noise);
+    EXPECT_THROW(readBack(noise + 'x'), BadFile);
+    EXPECT_THROW(BlockWriter writer(path), std::runtime_error) << "there already";
+    BlockReader reader(path);
+    EXPECT_EQ(reader.place(), BlockWriter::empty_size);
+    EXPECT_EQ(reader.size(), contentsOf(path).size());
+}
+
+TEST_F(Blocks, NoNewerVersionAndNoOtherRulesAreRead) {
+    fs::remove(path);
+    BlockWriter(path).write("x");
+    const std::string file = contentsOf(path);
+    const struct {
+        std::size_t place;
+        int change;
+        bool isRead;
+    } cases[] = {{11, 0, true}, {11, -1, true}, {11, 1, false}, {12, 1, false}, {12, -1, false}};
+    for (const auto& c : cases) {
+        std::string other = file;
+        other[c.place] = static_cast<char>(other[c.place] + c.change);
+        fill(path, other);
+        if (c.isRead)
+            EXPECT_EQ(BlockReader(path).read(), "x");
+        else
+            EXPECT_THROW(BlockReader reader(path), BadFile) << c.place << ' ' << c.change;
+    }
+}
+
+TEST(BytesTest, ComeBackAsTheyWere) {
+    ByteWriter out;
+    const std::uint64_t numbers[] = {0, 1, 127, 128, 16383, 16384, UINT32_MAX, UINT64_MAX};
+    const std::int64_t signedNumbers[] = {0, -1, 1, -64, 64, INT64_MIN, INT64_MAX};
+    for (const std::uint64_t number : numbers)
+        out.number(number);
+    for (const std::int64_t number : signedNumbers)
+        out.signedNumber(number);
+    out.fixed32(0x01020304);
+    out.real(-0.1);
+    out.text("a ~");
+    EXPECT_EQ(out.bytes.substr(0, 5), std::string("\0\1\x7f\x80\1", 5));
+    ByteReader in(out.bytes);
+    for (const std::uint64_t number : numbers)
+        EXPECT_EQ(in.number(), number);
+    for (const std::int64_t number : signedNumbers)
+        EXPECT_EQ(in.signedNumber(), number);
+    EXPECT_EQ(in.fixed32(), 0x01020304U);
+    EXPECT_EQ(in.real(), -0.1);
+    EXPECT_EQ(in.text(3), "a ~");
+    EXPECT_EQ(in.left(), 0U);
+    EXPECT_THROW(in.byte(), BadFile);
+}
+
+TEST(BytesTest, DamageIsSeen) {
+    const auto refuses = [](const std::string& bytes, auto read) {
+        ByteReader in(bytes);
+        EXPECT_THROW(read(in), BadFile);
+    };
+    ByteWriter infinite;
+    infinite.real(std::numeric_limits<double>::infinity());
+    refuses("\x05", [](ByteReader& in) { in.number(4); });
+    EXPECT_EQ(ByteReader("\x05").number(5), 5U);
+    refuses(std::string(11, '\x80'), [](ByteReader& in) { in.number(); });
+    refuses("\x80", [](ByteReader& in) { in.number(); });
+    refuses(infinite.bytes, [](ByteReader& in) { in.real(); });
+    refuses("\x03"
+            "abc",
+            [](ByteReader& in) { in.text(2); });
+    refuses("\x01\x1f", [](ByteReader& in) { in.text(9); });
+    refuses("\x01\x7f", [](ByteReader& in) { in.text(9); });
+    refuses("\x03"
+            "ab",
+            [](ByteReader& in) { in.text(9); });
+    refuses("\x04"
+            "ab",
+            [](ByteReader& in) { in.count(); });
+    EXPECT_EQ(ByteReader("\x02"
+                         "ab")
+                  .count(),
+              2U);
+}

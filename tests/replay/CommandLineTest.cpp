@@ -1,0 +1,97 @@
+// The command line, and the time of a film.
+
+#include "replay/CommandLine.h"
+#include "replay/FilmTime.h"
+
+#include <gtest/gtest.h>
+
+using namespace quorva::replay;
+
+namespace {
+
+const std::vector<CommandLine::Option> options = {
+    {"speed", true}, {"full", false}, {"data", true, true}};
+
+std::string refusal(const Words& words) {
+    try {
+        const CommandLine line(words, options);
+        return "";
+    } catch (const BadUsage& e) {
+        return e.what();
+    }
+}
+
+} // namespace
+
+TEST(CommandLineTest, TakesValuesEitherWay) {
+    for (const Words& words : {Words{"a", "--speed", "2", "--full", "-"},
+                               {"--speed=2", "a", "--full", "-"},
+                               {"--full", "--speed=2", "--", "a", "-"}}) {
+        const CommandLine line(words, options);
+        EXPECT_EQ(line.value("speed"), "2");
+        EXPECT_TRUE(line.has("full"));
+        EXPECT_FALSE(line.has("data"));
+        EXPECT_EQ(line.files, (Words{"a", "-"}));
+    }
+    const CommandLine line({"--data", "1", "--data=2", "a", "--speed"}, options,
+                           CommandLine::options_first);
+    EXPECT_EQ(line.value("data"), "2");
+    EXPECT_EQ(line.files, (Words{"a", "--speed"}));
+}
+
+TEST(CommandLineTest, NamesWhatIsWrong) {
+    const struct {
+        Words words;
+        const char* refusal;
+    } cases[] = {
+        {{"a", "--speed", "2"}, ""},
+        {{"--speed", "2", "--speed=3"}, "--speed stands there twice"},
+        {{"--full", "--full"}, "--full stands there twice"},
+        {{"a", "--speed"}, "--speed wants a value"},
+        {{"--full=1"}, "--full takes no value"},
+        {{"--nothing"}, "no such option: --nothing"},
+        {{"-x"}, "no such option: -x"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(refusal(c.words), c.refusal);
+}
+
+TEST(CommandLineTest, ReadsTimesAndSpeeds) {
+    EXPECT_EQ(toTime("1:30"), 90000U);
+    EXPECT_EQ(toTime("75"), 75000U);
+    EXPECT_EQ(toTime("0:05"), 5000U);
+    for (const char* text : {"", "x", "1:30x", "1:", ":30", "-1", "1:2:3"})
+        EXPECT_THROW(toTime(text), BadUsage) << text;
+    EXPECT_EQ(toSpeed("0.5", 0.5, 4.0), 0.5);
+    EXPECT_EQ(toSpeed("4", 0.5, 4.0), 4.0);
+    for (const char* text : {"", "0.49", "4.01", "nan", "2x"})
+        EXPECT_THROW(toSpeed(text, 0.5, 4.0), BadUsage) << text;
+}
+
+TEST(FilmTimeTest, ShortensWhereNothingGoesOn) {
+    FilmTime time(false);
+    EXPECT_EQ(time.advance(5000), 5000U);
+    EXPECT_EQ(time.advance(1), 0U);
+    EXPECT_EQ(time.advance(3600000), 0U);
+    time.enliven();
+    EXPECT_EQ(time.advance(4990), 4990U);
+    EXPECT_EQ(time.advance(30), 10U) << "the last of it";
+    time.enliven();
+    EXPECT_EQ(time.advance(3600000), 5000U) << "at once";
+
+    FilmTime full(true);
+    EXPECT_EQ(full.advance(3600000), 3600000U);
+    EXPECT_EQ(full.volume(0), 1.0);
+}
+
+TEST(FilmTimeTest, FadesTowardsTheCut) {
+    FilmTime time(false);
+    EXPECT_EQ(time.volume(4000), 1.0);
+    EXPECT_EQ(time.volume(4500), 0.5);
+    EXPECT_EQ(time.volume(5000), 0.0);
+    EXPECT_EQ(time.volume(9000), 0.0);
+    time.advance(4250);
+    EXPECT_EQ(time.volume(0), 0.75);
+    time.enliven();
+    EXPECT_EQ(time.volume(0), 1.0);
+}

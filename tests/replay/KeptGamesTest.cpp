@@ -1,0 +1,170 @@
+// What stays of the kept games, which are the best, and the page of these.
+
+#include "replay/KeptGames.h"
+#include "replay/Best.h"
+#include "replay/Page.h"
+#include "tests/support/Files.h"
+
+#include <boost/filesystem.hpp>
+#include <gtest/gtest.h>
+
+#include <set>
+
+using namespace quorva::replay;
+namespace fs = boost::filesystem;
+
+namespace {
+
+class KeptGames : public testing::Test {
+protected:
+    void SetUp() override {
+        fs::create_directory(folder);
+        fs::current_path(folder);
+    }
+    void TearDown() override {
+        fs::current_path("/");
+        fs::remove_all(folder);
+    }
+    static std::set<std::string> names() {
+        std::set<std::string> found;
+        for (const fs::directory_entry& entry : fs::directory_iterator("."))
+            found.insert(entry.path().filename().string());
+        return found;
+    }
+
+    const fs::path folder = fs::temp_directory_path() / fs::unique_path("kov-kept-%%%%%%%%");
+};
+
+std::string at(int second, const std::string& rest) {
+    return "2026-11-26 20.15." + std::to_string(second) + rest + ".kovreplay";
+}
+
+} // namespace
+
+TEST_F(KeptGames, OfThoseKeptByThemselvesTheLatestAndTheBestStay) {
+    const std::set<std::string> players = {at(10, " 5"),
+                                           "mine.kovreplay",
+                                           at(11, " 7 auto mine"),
+                                           at(12, " 5 auto") + ".txt",
+                                           "x" + at(13, " 5 auto"),
+                                           "2026-11-26 20.15.1x 5 auto.kovreplay"};
+    for (const std::string& name : players)
+        fill(name, "12345678");
+    const std::string best = at(20, " 900 auto"), second = at(21, " 800 auto");
+    const std::string broken = at(22, " auto"), poor = at(23, " 1 auto");
+    const std::string last = at(24, " 3 auto"), latest = at(25, " 2 auto");
+    for (const std::string& name : {best, second, broken, poor, last, latest})
+        fill(name, "12345678");
+    const auto expectLeft = [&](std::set<std::string> expected) {
+        expected.insert(players.begin(), players.end());
+        EXPECT_EQ(names(), expected);
+    };
+    tidy(".", {4, 2, 48});
+    expectLeft({best, second, broken, poor, last, latest});
+    tidy(".", {3, 2, 48});
+    expectLeft({best, second, poor, last, latest});
+    tidy(".", {3, 2, 39}); // a byte too few: the oldest that isn't one of the best goes
+    expectLeft({best, second, last, latest});
+    tidy(".", {1, 1, 48});
+    expectLeft({best, latest});
+    tidy(".", {1, 1, 8});
+    expectLeft({best});
+    tidy("nowhere");
+}
+
+TEST_F(KeptGames, NamesTellWhenAndHowWell) {
+    KeptName name = KeptName::now(true);
+    KeptName read;
+    ASSERT_TRUE(KeptName::parse(name.unfinished(), read));
+    EXPECT_EQ(read.date, name.date);
+    EXPECT_EQ(read.score, 0U);
+    name.score = 45567;
+    ASSERT_TRUE(KeptName::parse(name.finished(), read));
+    EXPECT_EQ(read.score, 45567U);
+    name.isAutomatic = false;
+    EXPECT_FALSE(KeptName::parse(name.finished(), read));
+    EXPECT_EQ(name.finished(), name.date + " 45567.kovreplay");
+}
+
+TEST_F(KeptGames, AProofIsMadeOnceForEachFileProgramAndFolder) {
+    fs::create_directory("games");
+    fill("games/a.kovreplay", "one");
+    fill("games/b.kovreplay", "two");
+    fill("program", "1");
+    unsigned int made = 0;
+    bool succeeds = true;
+    const auto prove = [&](const fs::path&, const fs::path& path) {
+        ++made;
+        Report report;
+        report.date = 7;
+        report.games.push_back(
+            {45567, 1, 2, true, "story", "remarks", {{10, 20}, {30, 45567}}, "<svg>"});
+        ByteWriter out;
+        report.write(out);
+        fill(path.string(), out.bytes);
+        return succeeds;
+    };
+    const auto proofs = [&] { return Proofs("games", {"program"}, prove); };
+    {
+        Proofs first = proofs();
+        const auto report = first.of("games/a.kovreplay");
+        ASSERT_TRUE(report);
+        EXPECT_EQ(report->games[0].curve[1].second, 45567U);
+        EXPECT_EQ(report->games[0].picture, "<svg>");
+        EXPECT_TRUE(report->games[0].marked);
+        EXPECT_TRUE(first.of("games/b.kovreplay"));
+        fill("games/copy.kovreplay", "two");
+        EXPECT_FALSE(first.of("games/copy.kovreplay")) << "the same game once more";
+    }
+    EXPECT_EQ(made, 2U);
+    EXPECT_TRUE(proofs().of("games/a.kovreplay"));
+    EXPECT_EQ(made, 2U) << "it was kept";
+    fill("program", "2");
+    EXPECT_TRUE(proofs().of("games/a.kovreplay"));
+    EXPECT_EQ(made, 3U) << "by another program";
+    fill("games/a.kovreplay", "three");
+    Proofs last = proofs();
+    EXPECT_TRUE(last.of("games/a.kovreplay"));
+    EXPECT_EQ(made, 4U) << "of another file";
+    last.forgetOthers();
+    EXPECT_EQ(std::distance(fs::directory_iterator("games/.proofs"), fs::directory_iterator()), 1);
+    succeeds = false;
+    EXPECT_FALSE(last.of("games/b.kovreplay"));
+    EXPECT_EQ(std::distance(fs::directory_iterator("games/.proofs"), fs::directory_iterator()), 1);
+}
+
+TEST_F(KeptGames, TheBestAreInOrderAndNotTooMany) {
+    std::vector<RankedGame> games;
+    for (const std::uint32_t score : {5U, 9U, 5U, 7U}) {
+        games.push_back({"game", static_cast<std::int64_t>(100 - games.size()), {}});
+        games.back().game.score = score;
+    }
+    games = best(games, 3);
+    ASSERT_EQ(games.size(), 3U);
+    EXPECT_EQ(games[0].game.score, 9U);
+    EXPECT_EQ(games[1].game.score, 7U);
+    EXPECT_EQ(games[2].date, 98) << "the earlier of two equals";
+    EXPECT_EQ(best(games, 5).size(), 3U);
+}
+
+TEST_F(KeptGames, ThePageEscapesNames) {
+    const std::string name = "<b>&\"'# 50%.kovreplay";
+    fill(name, "a game");
+    RankedGame game = {name, 0, {}};
+    game.game.score = 20;
+    game.game.length = 1000;
+    game.game.curve = {{500, 20}};
+    game.game.picture = "<svg/>";
+    writePage("page", {game});
+    EXPECT_EQ(contentsOf("page/" + name), "a game");
+    EXPECT_EQ(contentsOf("page/game-1.svg"), "<svg/>\n");
+    const std::string page = contentsOf("page/index.html");
+    EXPECT_EQ(page.find("<b>"), std::string::npos);
+    EXPECT_NE(page.find("href=\"./%3Cb%3E%26%22%27%23%2050%25.kovreplay\""), std::string::npos);
+    EXPECT_NE(page.find(">&lt;b&gt;&amp;&quot;&#39;# 50%.kovreplay<"), std::string::npos);
+    EXPECT_NE(page.find("d=\"M0 80H150V0H300\""), std::string::npos) << "half a second, then all";
+    EXPECT_EQ(page.find("<script"), std::string::npos);
+    writePage("page", {});  // again
+    writePage(".", {game}); // where the file is already
+    EXPECT_EQ(contentsOf(name), "a game");
+}

@@ -1,0 +1,204 @@
+// The layer between the game and what comes from outside, and the pictures of a game unseen.
+
+#include "platform/standins/GLRecorder.h"
+#include "platform/standins/SoundRecorder.h"
+#include "platform/standins/VirtualSDL.h"
+#include "replay/FramePicture.h"
+#include "replay/Tape.h"
+
+#include "Framework/Graphics/Renderer.h"
+#include "headless/HeadlessGame.h"
+#include "headless/Sandbox.h"
+
+#include <GL/gl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <chrono>
+
+using namespace quorva;
+using namespace quorva::replay;
+using standins::glRecorder;
+using standins::sdl;
+
+namespace {
+
+/// Answers in place of the libraries.
+class Counting : public Tape {
+public:
+    std::uint32_t clock() override { return say("clock"), 7; }
+    int poll(SDL_Event*) override { return say("poll"), 2; }
+    int joysticks() override { return say("joysticks"), 3; }
+    SDL_Joystick* openJoystick(int index) override {
+        say("open " + std::to_string(index));
+        return nullptr;
+    }
+    std::int16_t axis(SDL_Joystick*, int index) override {
+        return say("axis " + std::to_string(index)), 5;
+    }
+    FMOD_RESULT openSong(FMOD_SYSTEM*, const char* path, FMOD_SOUND** song) override {
+        say(std::string("song ") + path);
+        *song = aSong;
+        return FMOD_OK;
+    }
+    FMOD_RESULT songLength(FMOD_SOUND*, unsigned int* ms) override {
+        say("length");
+        *ms = 9;
+        return FMOD_OK;
+    }
+    void sleep(std::uint32_t microseconds) override {
+        say("sleep " + std::to_string(microseconds));
+    }
+    SDL_Surface* openWindow(int width, int height, int, std::uint32_t) override {
+        say("window " + std::to_string(width) + 'x' + std::to_string(height));
+        return nullptr;
+    }
+    void setViewport(int width, int height) override {
+        say("viewport " + std::to_string(width) + 'x' + std::to_string(height));
+    }
+    float lineWidth(float width) override { return width * 3.0F; }
+    bool sounds() override { return audible; }
+    void endFrame() override { say("frame"); }
+
+    void say(const std::string& what) { said += what + ", "; }
+
+    std::string said;
+    bool audible = true;
+    FMOD_SOUND* aSong = nullptr;
+};
+
+class Layer : public testing::Test {
+protected:
+    void TearDown() override {
+        insert(nullptr);
+        glRecorder().stop();
+        sdl() = {};
+        standins::sound() = {};
+    }
+};
+
+} // namespace
+
+TEST_F(Layer, LeadsTheGamesCallsToTheTape) {
+    Counting tape;
+    insert(&tape);
+    SDL_Event event;
+    EXPECT_EQ(SDL_GetTicks(), 7U);
+    EXPECT_EQ(SDL_PollEvent(&event), 2);
+    EXPECT_EQ(SDL_NumJoysticks(), 3);
+    EXPECT_EQ(SDL_JoystickOpen(1), nullptr);
+    EXPECT_STREQ(SDL_JoystickName(0), "");
+    EXPECT_EQ(SDL_JoystickNumAxes(nullptr) + SDL_JoystickNumButtons(nullptr), 0);
+    EXPECT_EQ(SDL_JoystickGetAxis(nullptr, 4), 5);
+    SDL_SetVideoMode(640, 480, 32, 0);
+    glViewport(0, 0, 320, 200);
+    usleep(11);
+    SDL_GL_SwapBuffers();
+    unsigned int length = 0;
+    FMOD_SOUND* song = nullptr;
+    FMOD_System_CreateStream(nullptr, "a.ogg", 64, nullptr, &song);
+    FMOD_Sound_GetLength(song, &length, 1);
+    EXPECT_EQ(length, 9U);
+    EXPECT_EQ(tape.said,
+              "clock, poll, joysticks, open 1, axis 4, window 640x480, viewport 320x200, "
+              "sleep 11, frame, song a.ogg, length, ");
+    glRecorder().start();
+    glLineWidth(2.0F);
+    EXPECT_EQ(glRecorder().callsTo("glLineWidth").at(0).arguments[0], 6.0);
+}
+
+TEST_F(Layer, GoesThroughWithoutATape) {
+    sdl() = {};
+    sdl().ticks = 42;
+    sdl().joysticks = 1;
+    sdl().axes[0][1] = 77;
+    EXPECT_EQ(SDL_GetTicks(), 42U);
+    EXPECT_EQ(SDL_NumJoysticks(), 1);
+    SDL_Joystick* const joystick = SDL_JoystickOpen(0);
+    EXPECT_EQ(SDL_JoystickGetAxis(joystick, 1), 77);
+    standins::pushQuit();
+    SDL_Event event;
+    EXPECT_EQ(SDL_PollEvent(&event), 1);
+    EXPECT_EQ(SDL_PollEvent(&event), 0);
+    SDL_SetVideoMode(640, 480, 16, SDL_OPENGL);
+    EXPECT_EQ(sdl().modes.at(0).height, 480);
+    SDL_GL_SwapBuffers();
+    EXPECT_EQ(sdl().swaps, 1U);
+    glRecorder().start();
+    glViewport(0, 0, 320, 200);
+    glLineWidth(2.5F);
+    EXPECT_EQ(glRecorder().text(), "glViewport 0 0 320 200\nglLineWidth 2.5\n");
+    const auto before = std::chrono::steady_clock::now();
+    usleep(20000);
+    EXPECT_GE(std::chrono::steady_clock::now() - before, std::chrono::milliseconds(20));
+}
+
+TEST_F(Layer, SilencesEffectsButNoSong) {
+    Counting tape;
+    insert(&tape);
+    tape.audible = false;
+    FMOD_SOUND *effect = nullptr, *song = nullptr;
+    FMOD_CHANNEL* channel = nullptr;
+    FMOD_System_CreateSound(nullptr, "Sounds/hit.wav", 0, nullptr, &effect);
+    tape.Tape::openSong(nullptr, "Songs/a.ogg", &tape.aSong);
+    FMOD_System_CreateStream(nullptr, "a", 64, nullptr, &song);
+    standins::sound().recording = true;
+    FMOD_System_PlaySound(nullptr, -1, effect, 0, &channel);
+    FMOD_System_PlaySound(nullptr, -1, song, 0, &channel);
+    EXPECT_EQ(standins::sound().take(), "play Songs/a.ogg; ");
+    tape.audible = true;
+    FMOD_System_PlaySound(nullptr, -1, effect, 0, &channel);
+    EXPECT_EQ(standins::sound().take(), "play Sounds/hit.wav; ");
+}
+
+TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
+    const headless::Sandbox sandbox(KOV_SOURCE_DIR);
+    const headless::HeadlessGame game(0, 800, 600); // the field is 40 by 30
+    FramePicture camera;
+    glNewList(5, GL_COMPILE);
+    glBegin(GL_TRIANGLES);
+    for (const float x : {0.0F, 1.0F, 0.0F})
+        glVertex2f(x, x == 0.0F ? 0.0F : 1.0F);
+    glEnd();
+    glEndList();
+    camera.skip();
+    EXPECT_TRUE(glRecorder().calls.empty());
+
+    glColor4f(1.0F, 0.0F, 0.5F, 1.0F);
+    glLineWidth(2.0F);
+    glPushMatrix();
+    glTranslatef(10.0F, 0.0F, 0.0F);
+    glScalef(2.0F, 1.0F, 1.0F);
+    glBegin(GL_LINES);
+    glVertex3f(-1.0F, 5.0F, 0.0F);
+    glVertex3f(1.0F, 5.0F, 0.0F);
+    glVertex3f(0.0F, 0.0F, 0.0F);
+    glVertex3f(0.0F, 1.0F, 0.0F);
+    glEnd();
+    glPopMatrix();
+    glRotatef(90.0F, 0.0F, 0.0F, 1.0F);
+    glColor4f(1.0F, 1.0F, 1.0F, 0.5F);
+    glBegin(GL_QUADS); // both ways round
+    for (const bool turned : {false, true})
+        for (const int corner : {0, 1, 2, 3}) {
+            const int c = turned ? 3 - corner : corner;
+            glVertex2f(c == 1 || c == 2 ? 1.0F : 0.0F, c > 1 ? 1.0F : 0.0F);
+        }
+    glEnd();
+    glCallList(5);
+    glBegin(GL_LINE_LOOP);
+    glVertex2f(0.0F, 0.0F);
+    glVertex2f(0.0F, -1.0F);
+    glEnd();
+    const std::string picture = camera.take(800, 600);
+    const auto expect = [&](const std::string& part) {
+        EXPECT_NE(picture.find(part), std::string::npos) << part << "\n" << picture;
+    };
+    expect("viewBox='0 0 800 600'");
+    expect("<path d='M560.0 200.0L640.0 200.0M600.0 300.0L600.0 280.0' fill='none' "
+           "stroke='#ff0080' stroke-width='2'/>");
+    const std::string square = "M380.0 300.0L400.0 300.0L400.0 280.0L380.0 280.0Z";
+    EXPECT_EQ(picture.find("fill='#ffffff' opacity='0.5'/>") != std::string::npos, true) << picture;
+    expect("<path d='M400.0 300.0L420.0 300.0Z'");
+    EXPECT_TRUE(glRecorder().calls.empty());
+}

@@ -1,0 +1,182 @@
+#!/bin/bash
+# The program as a player uses it, in a window on a display of its own (Xvfb), by keys: a game is
+# kept, told, proved, watched and filmed. Usage:
+#   player_test.sh KOV_REPLAY SOURCES CLOSE_WINDOW KOV_RECORD
+set -u
+replay=$1 sources=$2 close=$3 record=$4
+folder=$(mktemp -d) failures=0
+Xvfb -displayfd 3 -screen 0 1024x768x24 -noreset -iglx 3>"$folder/display" 2>/dev/null &
+server=$!
+trap 'kill $server; rm -rf "$folder"' EXIT
+while [ ! -s "$folder/display" ]; do
+    kill -0 $server || exit 1
+    sleep 0.1
+done
+DISPLAY=:$(cat "$folder/display")
+export DISPLAY ALSOFT_DRIVERS=null ASAN_OPTIONS=detect_leaks=0 # GL drivers leak
+unset WAYLAND_DISPLAY SDL_VIDEODRIVER
+cd "$folder" || exit
+for each in data fonts Sounds; do ln -s "$sources/$each" .; done
+mkdir Songs tmp bin
+export TMPDIR=$folder/tmp PATH=$folder/bin:$PATH
+cat >bin/ffmpeg <<'DOUBLE'
+#!/bin/bash
+# Counts what it is given, in bytes, and keeps the last of it; makes any film but *.xyz.
+for target; do :; done
+case $target in
+*.xyz) exit 1 ;;
+esac
+target=${target#file:}
+case " $* " in
+*" pipe:0 "*) tee >(tail -c 384000 >"${target%.*}.last") | wc -c >"$target" ;;
+*" -c copy "*) cat pictures.mkv sound.mka >"$target" && cp pictures.last "$target.last" ;;
+*) [ "$target" = - ] || : >"$target" ;;
+esac
+DOUBLE
+chmod +x bin/ffmpeg
+
+fail() { echo "FAILED: $*" && failures=1; }
+expect() { # what, exit code, text that must have been said, command...
+    local what=$1 code=$2 text=$3 got
+    shift 3
+    timeout 60 "$replay" --data "$sources" "$@" >said 2>&1 </dev/null
+    got=$?
+    [ $got = "$code" ] || fail "$what: exit code $got, not $code: $(cat said)"
+    [[ $(cat said) == *"$text"* ]] || fail "$what: no '$text' in: $(cat said)"
+}
+window() { xdotool search --onlyvisible --name '^KOV' 2>/dev/null | tail -n 1; }
+title() { xdotool getwindowname "$(window)" 2>/dev/null; }
+press() { for key; do xdotool key "$key" && sleep 0.1; done; }
+soon() { # what, pattern of the window's title
+    for _ in $(seq 100); do
+        title | grep -q -e "$2" && return
+        sleep 0.1
+    done
+    fail "$1: the title is '$(title)'"
+}
+start() { # command...
+    env --default-signal=INT timeout 60 "$replay" --data "$sources" "$@" >said 2>&1 </dev/null &
+    process=$!
+    xdotool mousemove 300 300
+    soon "no window" "^KOV"
+}
+ends() { # what, exit code, text that must have been said
+    wait $process
+    local got=$?
+    [ $got = "$2" ] || fail "$1: exit code $got, not $2: $(cat said)"
+    [[ $(cat said) == *"$3"* ]] || fail "$1: no '$3' in: $(cat said)"
+}
+
+# A game of four shots, and a pause.
+start record one.kovreplay -- --NoPlayMusic
+sleep 1
+press Return && sleep 0.5
+press w d && sleep 1
+press p && sleep 0.5 && press p
+press a s && sleep 1
+press Escape && sleep 0.5 && press Up Return
+ends "record" 0 "kept in $folder/one.kovreplay"
+
+expect "show" 0 "4 shots, 0 of them a side" show one.kovreplay
+grep -q "1 pause of 0:0[0-2]" said || fail "show tells no pause: $(cat said)"
+grep -q "ScreenWidth=800" said || fail "show tells no settings: $(cat said)"
+expect "verify" 0 "one.kovreplay: " verify one.kovreplay
+grep -q ": holds$" said || fail "verify: $(cat said)"
+expect "best" 0 "one.kovreplay, at 0:" best . --page page
+[ "$(grep -c '<article>' page/index.html)" = 1 ] || fail "best: the page"
+cmp -s one.kovreplay page/one.kovreplay || fail "best: the file to download"
+head -c $(($(stat -c %s one.kovreplay) - 9)) one.kovreplay >cut.kovreplay
+expect "no file" 2 "none that can be read" verify nothing.kovreplay
+expect "several files, one cut off" 0 "holds, but is cut off" verify cut.kovreplay one.kovreplay
+expect "an option twice" 2 "--speed stands there twice" watch one.kovreplay --speed=2 --speed 4
+expect "one that is there" 2 "File exists" record one.kovreplay
+
+# What takes a while says how far it is, on a terminal; a signal that is ignored doesn't end it; and
+# a game that is killed is kept up to nine seconds before.
+"$record" long.kovreplay --seed 8 --ticks 1200 --songs 4 --music 0 --idle 900 >/dev/null
+SHELL=/bin/bash script -qec "'$replay' --data '$sources' verify long.kovreplay" /dev/null >said </dev/null
+grep -q "[0-9] % " said && grep -q ": holds" said || fail "verify on a terminal: $(cat said)"
+timeout -s TERM 0.3 sh -c 'trap "" TERM; exec "$@"' sh "$replay" --data "$sources" verify long.kovreplay >said
+grep -q ": holds" said || fail "verify, TERM ignored: $(cat said)"
+timeout -s KILL 1 "$record" killed.kovreplay --seed 3 --ticks 10000000 >/dev/null 2>&1
+expect "a game that was killed" 0 "holds, but is cut off" verify killed.kovreplay
+ticks=$(sed -n 's/.*replay: \([0-9]*\) ticks.*/\1/p' said)
+[ "${ticks:-0}" -gt 600 ] || fail "a game that was killed: $ticks ticks are left"
+rm -r tmp/*
+
+# Watching.
+start watch one.kovreplay --speed=0.125
+soon "watch" "x0.125$"
+press space
+soon "watch, space" "stopped$"
+before=$(title)
+press Right Right # steps: the speed stays
+[ "$(title)" = "$before" ] || fail "watch, right while stopped: '$(title)' after '$before'"
+press Up
+soon "watch, up" "x0.25 *stopped$"
+press Up Up Up Up Up Up Up Up
+soon "watch, no faster" "x64 *stopped$"
+press Down Down Down Down Down Down Down Down Down Down Down space
+soon "watch, no slower" "x0.125$"
+press Right Right
+soon "watch, right" "x0.5$"
+press Left
+soon "watch, left" "x0.25$"
+press Escape
+ends "watch, Escape" 0 ""
+start watch one.kovreplay --from 0:01 --speed=0.125
+soon "watch from" " 0:01 / "
+"$close" "$(window)"
+ends "watch, closed" 0 ""
+for signal in INT TERM; do
+    start watch one.kovreplay --speed=0.125
+    soon "watch" "x0.125$"
+    kill -$signal "$(pgrep -P $process)"
+    ends "watch, $signal" 3 "interrupted at 0:0"
+done
+start watch one.kovreplay --speed=64
+ends "watch to the end" 0 ""
+
+start watch --speed=64
+soon "watch the game that comes with it" " / 2:0"
+press Escape
+ends "watch the game that comes with it" 0 ""
+"$record" night.kovreplay --seed 5 --ticks 300 --wait 30000 >/dev/null
+start watch night.kovreplay --from 0:04
+soon "a pause of a night" "0:0[45] / 500:"
+press Escape
+ends "watch, Escape in a pause of a night" 0 ""
+
+# Filming: 320 by 240 pixels of four bytes.
+picture=307200
+expect "film" 0 "100 %" film one.kovreplay whole.mp4 --size 320x240
+whole=$(($(head -n 1 whole.mp4) / picture))
+length=$("$replay" --data "$sources" show one.kovreplay | sed -n 's/^length *0:0*//p')
+between() { [ "$2" -ge "$1" ] && [ "$2" -le "$3" ]; }
+between $((length * 100 / 3 - 3)) $whole $(((length + 1) * 100 / 3)) ||
+    fail "film: $whole pictures of $length s"
+expect "film of a part" 0 "" film one.kovreplay part.mp4 --size=320x240 --from 0:01 --to=0:02
+part=$(($(head -n 1 part.mp4) / picture))
+between 30 $part 34 || fail "film of a part: $part pictures of a second"
+[ $((part * 30 * 441 * 4 / 10)) -le $(($(tail -n 1 part.mp4) + 12000)) ] || fail "film: its sound"
+# In a picture of another shape the game's is in the middle: only beside it its menu isn't.
+expect "film, wide" 0 "" film one.kovreplay wide.mp4 --size=400x240
+beside=$(tr -dc '\033' <wide.mp4.last | wc -c)
+between $((80 * 240 * 3)) "$beside" $((84 * 240 * 3)) || fail "film, wide: $beside bytes"
+expect "film of a night" 0 "" film night.kovreplay night.mp4 --size=320x240
+between 440 $(($(head -n 1 night.mp4) / picture)) 475 || fail "a film of a night: $(head -n 1 night.mp4)"
+expect "film, there already" 2 "File exists" film one.kovreplay part.mp4
+expect "film, no such folder" 2 "No such file" film one.kovreplay nowhere/o.mp4
+expect "film, no such ending" 2 "ffmpeg makes no films like o.xyz" film one.kovreplay o.xyz
+expect "film, no such part" 2 "nothing lies between" film one.kovreplay o.mp4 --from 9:00
+start film night.kovreplay stopped.mp4 --full # the whole night
+sleep 2
+kill -TERM "$(pgrep -P $process)"
+ends "film of a whole night, interrupted" 3 "interrupted at"
+start film one.kovreplay stopped.mp4 --size 1920x1200 # takes a while
+kill -TERM "$(pgrep -P $process)"
+ends "film, interrupted" 3 "interrupted at"
+for left in stopped.mp4 o.mp4 o.xyz; do [ ! -e $left ] || fail "a film was left: $left"; done
+
+[ -z "$(ls tmp)" ] || fail "left behind: $(ls tmp)"
+exit $failures
