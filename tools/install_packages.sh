@@ -24,7 +24,7 @@ for group in "$@"; do
     test) packages="$packages libgtest-dev libmpfr-dev clang-format xvfb xdotool" ;;
     web) packages="$packages emscripten node-pako g++ cmake ninja-build pkgconf|pkg-config
         libsdl1.2-dev|libsdl1.2-compat-dev libglew-dev libftgl-dev libfreetype-dev libboost-dev
-        zlib1g-dev libsndfile1-dev libmpg123-dev python3" ;;
+        zlib1g-dev libsndfile1-dev libmpg123-dev sndfile-programs python3" ;;
     webtest) packages="$packages chromium firefox-esr xvfb xauth"
         command -v npm >/dev/null || packages="$packages npm" ;; # node's own packages bring it
     check) packages="$packages clang-tidy cppcheck" ;;

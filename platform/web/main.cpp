@@ -5,9 +5,9 @@
 #include "Framework/Timer.h"
 #include "game/GameBase.h"
 #include "game/GameIdentity.h"
+#include "platform/web/GameKeeper.h"
 #include "platform/web/MenuTouch.h"
 #include "platform/web/gl/Frame.h"
-#include "replay/Recorder.h"
 
 #include <SDL.h>
 #include <emscripten.h>
@@ -25,13 +25,12 @@ extern "C" double kovClock(); ///< ms, while the game does not stand still
 
 namespace {
 
-/// Of the page: the file to keep the games in.
-const std::string keep_option = "--keep-in=";
+const std::string keep_option = "--keep-games"; // the page's own
 
-std::unique_ptr<GameBase> game;             // null once it has ended
-std::unique_ptr<replay::Recorder> recorder; // null if nothing is kept
-bool isSeen = true;                         // what the pass draws
-std::uint32_t tickSeen = 0;                 // the last that has been drawn
+std::unique_ptr<GameBase> game;          // null once it has ended
+std::unique_ptr<web::GameKeeper> keeper; // null if games aren't kept
+bool isSeen = true;                      // what the pass draws
+std::uint32_t tickSeen = 0;              // the last that has been drawn
 
 /// ms, from 0 to a tick's period. The page's clock is asked itself: a kept game has what the game
 /// has asked for, and nothing else.
@@ -49,21 +48,18 @@ bool isIdle() {
            timer.blips == tickSeen;
 }
 
-void keepGamesIn(const std::string& path) {
+void keepGames() {
     try {
-        recorder = std::make_unique<replay::Recorder>(path);
-        replay::insert(recorder.get());
+        keeper = std::make_unique<web::GameKeeper>();
     } catch (const std::runtime_error& e) {
-        std::cerr << "can't write " << path << ": " << e.what() << '\n';
+        std::cerr << "the games can't be kept: " << e.what() << '\n';
     }
 }
 
 void end() {
     game.reset();
-    if (recorder == nullptr) return;
-    recorder->finish();
-    replay::insert(nullptr);
-    recorder.reset();
+    if (keeper != nullptr) keeper->finish();
+    keeper.reset();
 }
 
 } // namespace
@@ -77,9 +73,8 @@ int main(int argc, char* argv[]) {
     config.setDefaults();
     config.readFile();
     for (int i = 1; i < argc; ++i) {
-        const std::string argument = argv[i];
-        if (argument.compare(0, keep_option.size(), keep_option) == 0)
-            keepGamesIn(argument.substr(keep_option.size()));
+        if (argv[i] == keep_option)
+            keepGames();
         else
             config.parseCmdLineArgs(argv[0], argv[i]);
     }

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """Puts together the folder that a web server serves.
   make_site.py SOURCE PROGRAM OUTPUT
-SOURCE is the project's folder, PROGRAM that of kov.js and kov.wasm. KOV_ADDRESS in the environment
-is where the page will be: only with it can others show a picture beside a link to the page."""
+SOURCE is the project's folder, PROGRAM that of kov.js, kov.wasm and the effects. KOV_ADDRESS in the
+environment is where the page will be: only with it can others show a picture beside a link to the
+page."""
 import hashlib
 import json
 import os
@@ -20,7 +21,7 @@ files["manual.html"] = source / "manual.html"
 files["picture.png"] = source / "docs/gallery/fence.png"
 for name in ("kov.svg", "kov-48.png", "kov-128.png", "kov-256.png"):
     files[f"icons/{name}"] = source / "packaging/icons" / name
-files |= {f"Sounds/{path.name}": path for path in (source / "Sounds").glob("*.wav")}
+files |= {f"Sounds/{path.name}": path for path in (program / "Sounds").glob("*.flac")}
 songs = {f"Songs/{path.name}": path for path in (source / "Songs").iterdir()
          if path.suffix in (".mp3", ".ogg")}
 licences = {f"licences/{name}": source / name

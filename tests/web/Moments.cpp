@@ -3,7 +3,7 @@
 // DATA is the folder of the game's data. After each of the rising TICKs, counted from the start of
 // the program, FOLDER/TICK.ppm is what the screen shows.
 
-#include "replay/Player.h"
+#include "replay/Playback.h"
 #include "replay/Stage.h"
 #include "tools/gallery/Picture.h"
 
@@ -18,10 +18,10 @@ using namespace quorva::replay;
 
 namespace {
 
-class Moments : public Player {
+class Moments : public Playback {
 public:
     Moments(Script& script_, std::string folder_, std::vector<std::uint32_t> ticks_)
-        : Player(script_), folder(std::move(folder_)), ticks(std::move(ticks_)) {}
+        : Playback(script_), folder(std::move(folder_)), ticks(std::move(ticks_)) {}
 
     /// Only the frames that may be the next picture.
     bool draws() override { return taken < ticks.size() && progress().ticks + 1 >= ticks[taken]; }

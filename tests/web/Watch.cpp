@@ -1,7 +1,7 @@
 // The game in a page, played by a recorded game's keys and clock. It is the page's program in every
 // other way, and keeps the high score.
 
-#include "replay/Player.h"
+#include "replay/Playback.h"
 #include "replay/Stage.h"
 
 #include <boost/filesystem.hpp>
@@ -15,9 +15,9 @@ using namespace quorva::replay;
 namespace {
 
 /// Plays the page's song of the recorded one's length, or any.
-class Watcher : public Player {
+class Watcher : public Playback {
 public:
-    using Player::Player;
+    using Playback::Playback;
 
 private:
     FMOD_RESULT openSongOf(std::uint32_t ms, FMOD_SYSTEM* system, FMOD_SOUND** song) override {

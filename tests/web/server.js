@@ -14,7 +14,7 @@ const folders = [site, join(root, 'build/wasm/tests/web'), join(root, 'tests/web
 
 const kinds = {
   '.html': 'text/html', '.js': 'text/javascript', '.css': 'text/css', '.wasm': 'application/wasm',
-  '.png': 'image/png', '.svg': 'image/svg+xml', '.wav': 'audio/wav', '.ogg': 'audio/ogg',
+  '.png': 'image/png', '.svg': 'image/svg+xml', '.flac': 'audio/flac', '.ogg': 'audio/ogg',
   '.mp3': 'audio/mpeg', '.webmanifest': 'application/manifest+json',
 };
 

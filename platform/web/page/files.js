@@ -69,53 +69,52 @@ export class Files {
     return [...this.stored.keys()].filter(name => name.startsWith(`${gamesFolder}/`)).sort();
   }
 
-  /** A name for a game that begins now. */
-  nameOfGame() {
-    const part = number => String(number).padStart(2, '0');
-    const now = new Date();
-    const day = [now.getFullYear(), now.getMonth() + 1, now.getDate()].map(part).join('-');
-    const time = [now.getHours(), now.getMinutes(), now.getSeconds()].map(part).join('.');
-    return `${gamesFolder}/${day} ${time}.kovreplay`;
+  remove(name) {
+    this.FS.unlink(`${folder}/${name}`);
+    return this.save();
   }
 
-  async remove(name) {
-    this.stored.delete(name);
-    const transaction = this.db.transaction(store, 'readwrite');
-    transaction.objectStore(store).delete(name);
-    await done(transaction);
-  }
-
-  /** Before the game starts, which never looks at kept games. */
+  /** Before the game starts. */
   unpack(FS) {
     this.FS = FS;
     FS.mkdirTree(`${folder}/${gamesFolder}`);
-    for (const [name, contents] of this.stored)
-      if (!name.startsWith(gamesFolder)) FS.writeFile(`${folder}/${name}`, contents);
+    for (const [name, contents] of this.stored) FS.writeFile(`${folder}/${name}`, contents);
     for (const name of this.names()) this.times.set(name, this.timeOf(name));
     setInterval(() => this.save(), interval);
   }
 
   names() {
-    const inside = this.FS.readdir(`${folder}/${gamesFolder}`).map(name => `${gamesFolder}/${name}`);
-    return [...this.FS.readdir(folder), ...inside].filter(name => keptFiles.test(name));
+    const games = this.FS.readdir(`${folder}/${gamesFolder}`).map(name => `${gamesFolder}/${name}`);
+    return [...this.FS.readdir(folder), ...games].filter(name => keptFiles.test(name));
   }
 
   timeOf(name) {
     return this.FS.stat(`${folder}/${name}`).mtime.getTime();
   }
 
-  /** Writes what has changed since the last time. */
+  /** Whether the file is to be written: it has changed, and as a kept game has a game in it. */
+  hasNews(name) {
+    return this.times.get(name) !== this.timeOf(name) &&
+      (!name.startsWith(gamesFolder) || this.hasPlayed());
+  }
+
+  /** Writes what has changed since the last time, and removes what has gone. */
   async save() {
     if (!this.db || !this.FS) return;
-    const changed = this.names().filter(name => this.times.get(name) !== this.timeOf(name) &&
-                                                (!name.startsWith(gamesFolder) || this.hasPlayed()));
-    if (changed.length === 0) return;
+    const names = this.names();
+    const changed = names.filter(name => this.hasNews(name));
+    const gone = [...this.stored.keys()].filter(name => !names.includes(name));
+    if (changed.length + gone.length === 0) return;
     try {
       const transaction = this.db.transaction(store, 'readwrite');
       for (const name of changed) {
         this.times.set(name, this.timeOf(name));
         this.stored.set(name, this.FS.readFile(`${folder}/${name}`));
         transaction.objectStore(store).put(this.stored.get(name), name);
+      }
+      for (const name of gone) {
+        this.stored.delete(name);
+        transaction.objectStore(store).delete(name);
       }
       await done(transaction);
     } catch (error) {

@@ -2,12 +2,12 @@
 
 const key = 'kov-keeps-games';
 
-/** What the player has chosen; no, where the browser keeps no choices. */
+/** What the player has chosen: yes, as long as nothing is. */
 export function keepsGames() {
   try {
-    return localStorage.getItem(key) === 'yes';
+    return localStorage.getItem(key) !== 'no';
   } catch {
-    return false;
+    return true;
   }
 }
 
@@ -41,6 +41,6 @@ function itemOf(files, name) {
 export function showGames(files, list, button) {
   list.replaceChildren(...files.games().map(name => itemOf(files, name)));
   button.hidden = !files.db;
-  button.textContent = keepsGames() ? 'Stop keeping my games' : 'Keep my games';
+  button.textContent = keepsGames() ? "Don't keep my games" : 'Keep my games';
   button.addEventListener('click', () => choose(!keepsGames()));
 }

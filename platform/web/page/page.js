@@ -182,7 +182,7 @@ class Loop {
 async function fetchProgram(files, onStart) {
   const { default: createKov } = await import('./kov.js');
   const words = [];
-  if (keepsGames()) words.push(`--keep-in=${files.nameOfGame()}`);
+  if (files.db && keepsGames()) words.push('--keep-games');
   if (!files.has('game.conf')) { // as long as the player has chosen none
     const [width, height] = firstResolution();
     words.push(`--ScreenWidth=${width}`, `--ScreenHeight=${height}`);
