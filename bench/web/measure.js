@@ -12,7 +12,8 @@ const starts = 7;
 const busyFrom = 140, busyFor = 30; // seconds of the recorded game
 const framesBefore = 100; // that the browser may take to make its code fast
 
-const at = (sorted, share) => sorted[Math.min(sorted.length - 1, Math.floor(share * sorted.length))];
+const at = (sorted, share) =>
+  sorted[Math.min(sorted.length - 1, Math.floor(share * sorted.length))];
 const sort = numbers => [...numbers].sort((a, b) => a - b);
 
 /** In a browser that knows nothing of the page. */

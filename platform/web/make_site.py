@@ -24,16 +24,22 @@ for name in ("kov.svg", "kov-48.png", "kov-128.png", "kov-256.png"):
 files |= {f"Sounds/{path.name}": path for path in (program / "Sounds").glob("*.flac")}
 songs = {f"Songs/{path.name}": path for path in (source / "Songs").iterdir()
          if path.suffix in (".mp3", ".ogg")}
-licences = {f"licences/{name}": source / name
-            for name in ("LICENSE", "Songs/LICENSE", "Sounds/LICENSE", "fonts/LICENSE-Kov.txt",
-                         "fonts/LICENSE-Vera.txt")}
+# Of the game, and of what is in its program.
+licences = [source / name for name in ("LICENSE", "Songs/LICENSE", "Sounds/LICENSE",
+                                       "fonts/LICENSE-Kov.txt", "fonts/LICENSE-Vera.txt")]
+licences += [pathlib.Path("/usr/share/doc", package, "copyright")
+             for package in ("emscripten", "libboost-dev", "node-pako")]
 
 shutil.rmtree(output, ignore_errors=True)
 version = hashlib.sha256()
-for name, path in sorted((files | songs | licences).items()):
+for name, path in sorted((files | songs).items()):
     (output / name).parent.mkdir(parents=True, exist_ok=True)
     shutil.copyfile(path, output / name)
     version.update(name.encode() + path.read_bytes())
+
+(output / "licences.txt").write_text("\n\n".join(
+    f"==== {path.relative_to(source) if path.is_relative_to(source) else path.parent.name} ====\n\n"
+    + path.read_text() for path in licences if path.exists()))
 
 if address := os.environ.get("KOV_ADDRESS"):
     index = output / "index.html"

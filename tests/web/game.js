@@ -7,6 +7,9 @@ const patience = 20000; // ms
 // Colours of the ground, as they come out of the game's own.
 const grounds = { menu: [11, 13, 14], play: [27, 27, 27] };
 
+// What Firefox says of a song that ends, or that can't be had, while it is being fetched.
+const brokenOff = /^Error: Failed to load ‘/;
+
 // By "Enter" the driver of Firefox means the number pad's.
 const returnKey = '\uE006';
 
@@ -17,7 +20,12 @@ export class Game {
     this.page = page;
     this.faults = [];
     this.isFirefox = page.browser().process().spawnfile.includes('firefox');
-    page.on('pageerror', error => this.faults.push(String(error)));
+    page.on('pageerror', error => {
+      if (!brokenOff.test(String(error))) this.faults.push(String(error));
+    });
+    page.on('console', message => {
+      if (/Content[ -]Security[ -]Policy/i.test(message.text())) this.faults.push(message.text());
+    });
     page.on('request', request => this.faults.push(...(
       /^(?:http:\/\/localhost:|data:|blob:)/.test(request.url()) ? [] : [request.url()])));
   }
@@ -76,8 +84,23 @@ export class Game {
     await this.untilShows('play');
   }
 
+  /** Where a place of the game's is within the window, the picture being 16 by 10. */
+  async inWindow(x, y) {
+    const [halfWidth, halfHeight] = [24, 15]; // of the view
+    const box = await this.page.$eval('#screen', canvas => {
+      const { left, top, width, height } = canvas.getBoundingClientRect();
+      return { left, top, width, height };
+    });
+    return [box.left + box.width * (0.5 + x / halfWidth / 2),
+            box.top + box.height * (0.5 - y / halfHeight / 2)];
+  }
+
   message() {
     return this.page.$eval('#message', element => (element.hidden ? '' : element.innerText));
+  }
+
+  untilSays(pattern) {
+    return this.until(async () => pattern.test(await this.message()), `the message ${pattern}`);
   }
 
   note() {

@@ -27,7 +27,7 @@ function distance(a, b, i) {
                   Math.abs(a[i + 2] - b[i + 2]));
 }
 
-/** The share of pixels that differ by no more than `tolerance`, and a picture of all differences. */
+/** The share of pixels that differ by no more than `tolerance`, and a picture of what differs. */
 export function compare(a, b, tolerance) {
   const picture = new PNG({ width: a.width, height: a.height });
   let equal = 0;

@@ -16,15 +16,20 @@ const unnoticed = 24; // of 255
 
 const areEqual = (a, b) => compare(a, b, unnoticed).equal === 1;
 
+/** Whether the cube, which is white, has left the middle of the field. */
+const hasMoved = game => async () => (await game.colourAt(0.5, 0.5))[0] < 200;
+
 // Scripts in front of the page's own.
 const without = {
-  storage: 'Object.defineProperty(globalThis, "indexedDB", { get() { throw new Error("refused"); } });',
+  storage: `Object.defineProperty(globalThis, "indexedDB", {
+    get() { throw new Error("refused"); } });`,
   webGL: 'HTMLCanvasElement.prototype.getContext = () => null;',
   webAssembly: 'delete globalThis.WebAssembly;',
 };
 
 // Of the first game in the recording that kov_watch plays.
 const record = 7115;
+const wholeGame = 90000; // ms that it may take
 
 for (const name of browserNames)
   describe(`the page in ${name}`, { timeout: 300000 }, () => {
@@ -102,13 +107,15 @@ for (const name of browserNames)
     });
 
     test('a whole game: its record is there after a reload', async (game, page) => {
-      const scoreOf = bytes => bytes && new DataView(Uint8Array.from(bytes).buffer).getUint32(0, true);
+      const kept = async () => {
+        const bytes = await game.kept('s.dat');
+        return bytes && Buffer.from(bytes).readUInt32LE();
+      };
       await game.open(server.address);
       const menu = await game.picture();
       server.others.set('kov.js', 'kov_watch.js');
       await page.reload();
-      await game.until(async () => scoreOf(await game.kept('s.dat')) === record, 'the record', 90000);
-      await shot(page, 'game-over');
+      await game.until(async () => await kept() === record, 'the record', wholeGame);
       server.others.clear();
       await page.reload();
       await game.firstPicture();
@@ -125,14 +132,14 @@ for (const name of browserNames)
       await game.press('Escape');
       await game.untilShows('menu');
       await game.press('ArrowUp', 'Enter'); // Exit
-      await game.until(async () => /has ended/.test(await game.message()), 'the last page');
+      await game.untilSays(/has ended/);
       await Promise.all([page.waitForNavigation(), page.click('#again')]);
       const link = await page.waitForSelector('#kept a');
       const bytes = await game.kept(`Replays/${await link.evaluate(a => a.textContent)}`);
       const file = join(results, `${name}.kovreplay`);
       writeFileSync(file, Uint8Array.from(bytes));
-      const verdict = execFileSync(join(root, 'build/release/replay/kov-replay-verify'), [file, root],
-                                   { encoding: 'utf8' });
+      const verifier = join(root, 'build/release/replay/kov-replay-verify');
+      const verdict = execFileSync(verifier, [file, root], { encoding: 'utf8' });
       assert.match(verdict, /: holds$/m);
     });
 
@@ -172,7 +179,7 @@ for (const name of browserNames)
       await game.until(async () => (await tap(1), await game.colourAt(0.75, 0.5))[2] > 150,
                        'a line to the right');
       await page.evaluate(() => { window.pad.axes[0] = -1; });
-      await game.until(async () => (await game.colourAt(0.5, 0.5))[0] < 200, 'the cube moving away');
+      await game.until(hasMoved(game), 'the cube moving away');
       await tap(9); // Start: the pause
       await game.until(async () => !await game.shows('play'), 'the pause');
       await tap(9);
@@ -181,40 +188,66 @@ for (const name of browserNames)
     });
 
     test('a touch screen', async (game, page) => {
+      /** @param events type, and place in the window */
       const touch = (...events) => page.evaluate(async list => {
-        const stage = document.getElementById('stage');
-        for (const [type, x, y, pointerId = 1] of list) {
-          stage.dispatchEvent(new PointerEvent(type, {
-            pointerType: 'touch', pointerId, bubbles: true,
-            clientX: x * stage.clientWidth, clientY: y * stage.clientHeight,
-          }));
+        for (const [type, clientX, clientY] of list) {
+          document.getElementById('stage').dispatchEvent(new PointerEvent(type, {
+            pointerType: 'touch', pointerId: 1, bubbles: true, clientX, clientY }));
           await new Promise(resolve => { setTimeout(resolve, 100); });
         }
       }, events);
-      const tap = (x, y) => touch(['pointerdown', x, y], ['pointerup', x, y]);
+      const tap = async (...place) => {
+        const at = await game.inWindow(...place);
+        await touch(['pointerdown', ...at], ['pointerup', ...at]);
+      };
+      const changes = (before, what) =>
+        game.until(async () => !areEqual(before, await game.picture()), what);
+
       await game.open(server.address);
       const menu = await game.picture();
-      await tap(0.35, 0.625); // Configuration
-      await game.until(async () => !areEqual(menu, await game.picture()), 'the configuration');
+      await tap(-8, -3.7); // Configuration
+      await changes(menu, 'the configuration');
       const settings = await game.picture();
-      await tap(0.6, 0.275 - 0.005); // the value of Music Volume or of a setting near it
-      await game.until(async () => !areEqual(settings, await game.picture()), 'a setting changed');
-      await tap(0.27, 0.527); // Cancel
+      await tap(4, 9.3); // the resolution's value
+      await changes(settings, 'a setting');
+      await tap(-9, -0.7); // Cancel
       await game.untilShows('menu');
-      await tap(0.35, 0.56); // Start Game
+      await tap(-8, -1.7); // Start Game
       await game.untilShows('play');
       await shot(page, 'touch');
+
+      const [right, middle] = await game.inWindow(10, 0);
       await game.until(async () => {
-        await touch(['pointerdown', 0.7, 0.7], ['pointermove', 0.8, 0.7], ['pointerup', 0.8, 0.7]);
+        await touch(['pointerdown', right, middle], ['pointermove', right + 60, middle],
+                    ['pointerup', right + 60, middle]);
         return (await game.colourAt(0.75, 0.5))[2] > 150;
       }, 'a line by a swipe to the right');
-      await touch(['pointerdown', 0.2, 0.6], ['pointermove', 0.1, 0.6]);
-      await game.until(async () => (await game.colourAt(0.5, 0.5))[0] < 200, 'the cube moving away');
-      await touch(['pointerup', 0.1, 0.6]);
+      const [left] = await game.inWindow(-12, 0);
+      await touch(['pointerdown', left, middle], ['pointermove', left - 60, middle]);
+      await game.until(hasMoved(game), 'the cube moving away');
+      await touch(['pointerup', left - 60, middle]);
       await page.click('#pause');
       await game.until(async () => !await game.shows('play'), 'the pause');
       await page.click('#leave');
       await game.untilShows('menu');
+    });
+
+    test('full screen by the button', async (game, page) => {
+      await game.open(server.address);
+      const isFull = () => page.evaluate(() => document.fullscreenElement !== null);
+      await page.click('#full');
+      await game.until(isFull, 'full screen');
+      await page.evaluate(() => document.exitFullscreen());
+      await game.until(async () => !await isFull(), 'the window');
+      await game.startLevel();
+    });
+
+    test('full screen by the setting', async (game, page) => {
+      await game.open(server.address);
+      await game.press('ArrowDown', 'Enter', 'ArrowDown', 'ArrowRight');
+      await game.press('ArrowUp', 'ArrowUp', 'ArrowUp', 'Enter'); // over the end to Save
+      await game.until(() => page.evaluate(() => document.fullscreenElement !== null),
+                       'full screen');
     });
 
     test('a lost context comes back', async (game, page) => {
@@ -225,9 +258,9 @@ for (const name of browserNames)
         window.taker = gl.getExtension('WEBGL_lose_context');
         window.taker.loseContext();
       });
-      await game.until(async () => /waits until it is back/.test(await game.message()), 'a message');
+      await game.untilSays(/waits until it is back/);
       await page.evaluate(() => window.taker.restoreContext());
-      await game.until(async () => await game.message() === '', 'the message going');
+      await game.untilSays(/^$/);
       await game.untilShows('menu');
     });
 
@@ -241,13 +274,13 @@ for (const name of browserNames)
                                     ['webAssembly', /needs WebAssembly/]])
       test(`without ${what} it says so`, async (game, page) => {
         await page.goto(server.address);
-        await game.until(async () => sentence.test(await game.message()), 'a sentence');
+        await game.untilSays(sentence);
       }, { prelude: without[what] });
 
     for (const file of ['kov.wasm', 'kov.js'])
       test(`without ${file} it says so`, async (game, page) => {
         await page.goto(server.address);
-        await game.until(async () => /could not be fetched/.test(await game.message()), 'a sentence');
+        await game.untilSays(/could not be fetched/);
         game.faults = game.faults.filter(fault => !/fetch|import|load|abort/i.test(fault));
       }, { missing: [file] });
 
@@ -267,7 +300,7 @@ for (const name of browserNames)
     test('"Exit" offers to start again', async (game, page) => {
       await game.open(server.address);
       await game.press('ArrowUp', 'Enter');
-      await game.until(async () => /has ended/.test(await game.message()), 'the last page');
+      await game.untilSays(/has ended/);
       await Promise.all([page.waitForNavigation(), page.click('#again')]);
       await game.firstPicture();
       await game.untilShows('menu');

@@ -22,10 +22,14 @@ const leastEqual = 0.995; // of all pixels
 const programs = join(root, 'build/release/tests/web');
 const results = join(root, 'build/web-tests'); // for people to look at
 
-/** Runs a program among the game's files. @param wordsFor makes its arguments, of the pictures' folder */
+/**
+ * Runs a program among the game's files.
+ * @param wordsFor its arguments, given the folder for its pictures
+ */
 function byMachine(program, wordsFor) {
   const folder = mkdtempSync(join(tmpdir(), 'kov-pictures-'));
-  for (const name of ['data', 'fonts', 'textures']) symlinkSync(join(root, name), join(folder, name));
+  for (const name of ['data', 'fonts', 'textures'])
+    symlinkSync(join(root, name), join(folder, name));
   for (const name of ['Songs', 'pictures']) mkdirSync(join(folder, name));
   const made = join(folder, 'pictures');
   execFileSync(join(programs, program), wordsFor(made), { cwd: folder, stdio: 'ignore' });
@@ -69,7 +73,8 @@ describe('pictures in a page and by the machine', () => {
 
   it('three moments of a recorded game', async () => {
     const words = ticks.map(String);
-    const ours = byMachine('kov_moments', folder => [join(root, recording), root, folder, ...words]);
+    const ours = byMachine('kov_moments',
+                           folder => [join(root, recording), root, folder, ...words]);
     const pages = await inPage('kov_moments',
                                [`/${basename(recording)}`, '/kov', '/pictures', ...words],
                                [recording]);

@@ -5,8 +5,8 @@ cd "$(dirname "$0")/../.."
 
 tools/install_packages.sh build web webtest
 ./web.sh --build
-cmake --build --preset web --target kov-replay-verify kov_moments gallery kov_watch >build/web.log ||
-    { cat build/web.log; exit 1; }
+cmake --build --preset web --target kov-replay-verify kov_moments gallery kov_watch \
+    >build/web.log || { cat build/web.log; exit 1; }
 [ -f build/release/build.ninja ] || cmake --preset release -DKOV_TESTS=ON >/dev/null
 cmake --build --preset release --target kov_moments gallery kov-replay-verify >build/build.log ||
     { cat build/build.log; exit 1; }

@@ -1,5 +1,5 @@
-// Writes a minute of what a recorded game sounds like in a page, to be laid beside the machine's own
-// (kov-replay film).
+// Writes a minute of what a recorded game sounds like in a page, to be laid beside the machine's
+// own (kov-replay film).
 //   node record_sound.js OUTPUT.wav [seconds]
 
 import { writeFileSync } from 'node:fs';
