@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <regex>
 #include <sstream>
 
 namespace quorva::replay {
@@ -62,11 +61,16 @@ std::string CommandLine::value(const std::string& option) const {
 }
 
 std::uint32_t toTime(const std::string& text) {
-    static const std::regex pattern("(?:(\\d{1,5}):)?(\\d{1,6})");
-    std::smatch parts;
-    if (!std::regex_match(text, parts, pattern)) throw BadUsage("no time such as 1:30: " + text);
-    const unsigned long m = parts[1].matched ? std::stoul(parts[1]) : 0;
-    return static_cast<std::uint32_t>((m * 60 + std::stoul(parts[2])) * 1000);
+    constexpr std::size_t most_digits = 5;
+    const std::size_t colon = text.find(':');
+    const bool hasMinutes = colon != std::string::npos;
+    const std::string m = hasMinutes ? text.substr(0, colon) : "0";
+    const std::string s = hasMinutes ? text.substr(colon + 1) : text;
+    for (const std::string& part : {m, s})
+        if (part.empty() || part.size() > most_digits ||
+            part.find_first_not_of("0123456789") != std::string::npos)
+            throw BadUsage("no time such as 1:30: " + text);
+    return static_cast<std::uint32_t>((std::stoul(m) * 60 + std::stoul(s)) * 1000);
 }
 
 double toSpeed(const std::string& text, double slowest, double fastest) {

@@ -3,8 +3,8 @@
 #include <boost/filesystem.hpp>
 
 #include <algorithm>
+#include <cstring>
 #include <ctime>
-#include <regex>
 #include <set>
 
 namespace quorva::replay {
@@ -14,6 +14,15 @@ namespace {
 namespace fs = boost::filesystem;
 
 const std::string automatic = " auto";
+const char* const date_pattern = "dddd-dd-dd dd.dd.dd"; // d for a digit
+constexpr std::size_t longest_score = 10;               // a blank and nine digits
+
+bool fits(const std::string& text, const std::string& pattern) {
+    const auto fitsOne = [](char c, char expected) {
+        return expected == 'd' ? c >= '0' && c <= '9' : c == expected;
+    };
+    return std::equal(text.begin(), text.end(), pattern.begin(), pattern.end(), fitsOne);
+}
 
 struct Kept {
     fs::path path;
@@ -68,12 +77,17 @@ KeptName KeptName::now(bool isAutomatic) {
 }
 
 bool KeptName::parse(const std::string& fileName, KeptName& name) {
-    static const std::regex pattern(
-        "(\\d{4}-\\d{2}-\\d{2} \\d{2}\\.\\d{2}\\.\\d{2})( \\d{1,9})? auto\\.kovreplay");
-    std::smatch parts;
-    if (!std::regex_match(fileName, parts, pattern)) return false;
-    name.date = parts[1];
-    name.score = parts[2].matched ? static_cast<std::uint32_t>(std::stoul(parts[2])) : 0;
+    const std::string end = automatic + replay_ending;
+    const std::size_t date = std::strlen(date_pattern);
+    if (fileName.size() < date + end.size()) return false;
+    const std::size_t scoreEnd = fileName.size() - end.size();
+    const std::string score = fileName.substr(date, scoreEnd - date);
+    if (!fits(fileName.substr(0, date), date_pattern) || fileName.substr(scoreEnd) != end ||
+        (!score.empty() && !fits(score, ' ' + std::string(score.size() - 1, 'd'))) ||
+        score.size() == 1 || score.size() > longest_score)
+        return false;
+    name.date = fileName.substr(0, date);
+    name.score = score.empty() ? 0 : static_cast<std::uint32_t>(std::stoul(score));
     name.isAutomatic = true;
     return true;
 }

@@ -20,9 +20,8 @@ namespace {
 constexpr int pipe_size = 1 << 20; // bytes; the system may give less
 
 /// @param input becomes its standard input
-/// @param mask the signals that it holds
 /// @return an error number, 0 for success
-int start(const std::vector<std::string>& words, int input, const sigset_t& mask, pid_t& process) {
+int start(const std::vector<std::string>& words, int input, pid_t& process) {
     std::vector<char*> arguments;
     arguments.reserve(words.size() + 1);
     for (const std::string& word : words)
@@ -31,6 +30,8 @@ int start(const std::vector<std::string>& words, int input, const sigset_t& mask
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
+    sigset_t mask; // what this program holds back is none of its business
+    sigemptyset(&mask);
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setsigmask(&attributes, &mask);
@@ -40,12 +41,6 @@ int start(const std::vector<std::string>& words, int input, const sigset_t& mask
     posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
     return error;
-}
-
-sigset_t presentMask() {
-    sigset_t mask;
-    pthread_sigmask(SIG_BLOCK, nullptr, &mask);
-    return mask;
 }
 
 int codeOf(pid_t process) {
@@ -61,7 +56,7 @@ Pipe::Pipe(const std::vector<std::string>& words) {
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error(std::strerror(errno));
     fcntl(ends[1], F_SETPIPE_SZ, pipe_size);
-    const int error = start(words, ends[0], presentMask(), process);
+    const int error = start(words, ends[0], process);
     close(ends[0]);
     end = ends[1];
     if (error == 0) return;
@@ -94,11 +89,12 @@ bool Pipe::finish() {
 }
 
 ProgramEnd runProgram(const std::vector<std::string>& words) {
-    const sigset_t mask = presentMask();
+    sigset_t mask; // as it was
+    pthread_sigmask(SIG_BLOCK, nullptr, &mask);
     const sigset_t held = holdInterruptions(SIGCHLD);
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
     pid_t process = -1;
-    const int error = start(words, nothing, mask, process);
+    const int error = start(words, nothing, process);
     close(nothing);
     ProgramEnd end = {-1, false};
     int status = 0;

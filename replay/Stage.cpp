@@ -2,7 +2,6 @@
 
 #include "Framework/config/Settings.h"
 #include "headless/GameMain.h"
-#include "replay/Interruption.h"
 
 #include <boost/filesystem.hpp>
 
@@ -62,7 +61,6 @@ int runGame(const Setup& setup) {
     std::vector<std::string> options;
     for (const auto& [letter, value] : setup.settings)
         options.push_back(argument(letter, value));
-    holdInterruptions(); // until the playback can tell of them
     return headless::runGameMain(options);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "headless/Sandbox.h"
+#include "replay/Interruption.h"
 #include "replay/Setup.h"
 #include "replay/Shipped.h"
 
@@ -10,7 +11,7 @@ namespace quorva::replay {
 
 /// A folder to play a recorded game in, entered: the game's files with the recorded colours and
 /// points and the shipped bindings, and nothing of whoever watches. What the game writes goes with
-/// it.
+/// it, so interruptions wait from here on until a Playback catches them.
 class Stage {
 public:
     /// @param source the folder of the game's data. Throws boost::filesystem::filesystem_error.
@@ -19,11 +20,11 @@ public:
     const Shipped shipped;
 
 private:
+    const sigset_t held = holdInterruptions();
     headless::Sandbox sandbox;
 };
 
-/// Runs the whole game with the recorded settings, from its main to its end. Interruptions wait
-/// until a Playback catches them.
+/// Runs the whole game with the recorded settings, from its main to its end.
 /// @return its exit code
 int runGame(const Setup& setup);
 

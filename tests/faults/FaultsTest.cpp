@@ -15,9 +15,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cstring>
 #include <functional>
 #include <random>
+#include <sstream>
 
 /// The effects are held until the process ends, by nobody in the end.
 extern "C" const char* __lsan_default_suppressions() { // NOLINT: the sanitizer's name
@@ -178,6 +180,16 @@ struct Row {
     }
 };
 
+/// Resource managers are loaded again in the order of their addresses, which differs by system.
+std::vector<std::string> sortedLines(const std::string& text) {
+    std::istringstream in(text);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(in, line);)
+        lines.push_back(line);
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
+
 std::string told(FMOD_RESULT result) {
     return "FMOD error!" + std::to_string(result) + FMOD_ErrorString(result) + "\n";
 }
@@ -242,7 +254,9 @@ TEST_F(Faults, AFileThatIsNotWhatItShouldBeIsReportedOnceAndTheGameGoesOn) {
             SCOPED_TRACE(std::string(row.paths[0]) + ": " + harm_names[harm]);
             for (const char* path : row.paths)
                 spoil(path, static_cast<Harm>(harm));
-            EXPECT_EQ(play(), Outcome(row.linesOf(harm), 0));
+            const auto [said, code] = play();
+            EXPECT_EQ(sortedLines(said), sortedLines(row.linesOf(harm)));
+            EXPECT_EQ(code, 0);
             TearDown();
             SetUp();
         }

@@ -60,7 +60,7 @@ TEST(CommandLineTest, ReadsTimesAndSpeeds) {
     EXPECT_EQ(toTime("1:30"), 90000U);
     EXPECT_EQ(toTime("75"), 75000U);
     EXPECT_EQ(toTime("0:05"), 5000U);
-    for (const char* text : {"", "x", "1:30x", "1:", ":30", "-1", "1:2:3"})
+    for (const char* text : {"", "x", "1:30x", "1:", ":30", "-1", "1:2:3", "100000", "1:100000"})
         EXPECT_THROW(toTime(text), BadUsage) << text;
     EXPECT_EQ(toSpeed("0.5", 0.5, 4.0), 0.5);
     EXPECT_EQ(toSpeed("4", 0.5, 4.0), 4.0);

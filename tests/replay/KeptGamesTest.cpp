@@ -83,6 +83,12 @@ TEST_F(KeptGames, NamesTellWhenAndHowWell) {
     EXPECT_EQ(read.score, 45567U);
     name.isAutomatic = false;
     EXPECT_FALSE(KeptName::parse(name.finished(), read));
+    EXPECT_TRUE(KeptName::parse(at(10, " 999999999 auto"), read));
+    EXPECT_EQ(read.score, 999999999U);
+    for (const char* rest :
+         {"  auto", " 1000000000 auto", " 1x auto", "1 auto", " 1 aut", " -1 auto", ""})
+        EXPECT_FALSE(KeptName::parse(at(10, rest), read)) << rest;
+    EXPECT_FALSE(KeptName::parse("", read));
     EXPECT_EQ(name.finished(), name.date + " 45567.kovreplay");
 }
 

@@ -56,8 +56,8 @@ protected:
         return run(KOV_VERIFY " " + path + " " KOV_SOURCE_DIR);
     }
 
-    /// Plays by keys, in a program that no game has run in, each held for a pass of 30 ms from the
-    /// given one on, in a process of its own.
+    /// Plays by keys, each held for a pass of 30 ms from the given one on. In a process of its own,
+    /// a copy of this one, in which no game may have run.
     static void record(const std::string& path, const std::map<unsigned int, int>& keys) {
         const pid_t child = fork();
         if (child == 0) {
@@ -315,9 +315,11 @@ TEST_F(Replay, AnInterruptionIsNoDifferenceAndLeavesNothing) {
     // More passes to repeat than could be played in a minute.
     fill("a", edited(kept, ofFirst<Pass>([](Pass& p) { p.idle = 1500000; })));
     fs::create_directory("tmp");
-    for (const char* signal : {"INT", "TERM", "HUP"}) {
-        const Outcome outcome = run("TMPDIR=tmp timeout --preserve-status -s " +
-                                    std::string(signal) + " 0.3 " KOV_VERIFY " a " KOV_SOURCE_DIR);
+    for (const std::string signal : {"INT", "TERM", "HUP"}) {
+        const Outcome outcome =
+            run("TMPDIR=tmp env --default-signal=INT " KOV_VERIFY " a " KOV_SOURCE_DIR
+                " & while [ -z \"$(ls tmp)\" ]; do sleep 0.01; done; kill -" +
+                signal + " $!; wait $!");
         EXPECT_EQ(outcome.code, 3) << signal << outcome.text;
         EXPECT_NE(outcome.text.find("interrupted\n"), std::string::npos) << outcome.text;
         EXPECT_TRUE(fs::is_empty("tmp")) << signal;

@@ -1,10 +1,10 @@
 // The layer between the game and what comes from outside, and the pictures of a game unseen.
 
+#include "replay/Tape.h"
 #include "platform/standins/GLRecorder.h"
 #include "platform/standins/SoundRecorder.h"
 #include "platform/standins/VirtualSDL.h"
 #include "replay/FramePicture.h"
-#include "replay/Tape.h"
 
 #include "Framework/Graphics/Renderer.h"
 #include "headless/HeadlessGame.h"
