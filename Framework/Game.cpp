@@ -50,17 +50,15 @@ Game::~Game() {
 }
 
 void Game::mainLoop() {
-    const TimerClass& timer = Timer::Instance();
-    while (!dead) {
-        if (config::Config::Instance().getSaveCPU() && !timer.paused) rest(timer);
+    while (!dead)
         pass();
-    }
 }
 
 void Game::pass() {
     TimerClass& timer = Timer::Instance();
     EngineClass& engine = Engine::Instance();
     if (endRequested.exchange(false)) publish(messages::EndGame());
+    if (config::Config::Instance().getSaveCPU() && !timer.paused) rest(timer);
     if (timer.isItTimeToProcess() && !timer.paused) {
         engine.process();
         timer.calculateLastBlip(); // after the tick: a late one is not made up

@@ -2,13 +2,14 @@
 
 #include "Framework/Graphics/Camera.h"
 #include "Framework/Graphics/Stuff/GWord.h"
-#include "Framework/MessageHandler.h"
-#include "Framework/Messages.h"
+#include "Framework/input/KeyMapper.h"
 #include "Framework/menus/ConfigMenu.h"
 #include "Framework/menus/MainMenu.h"
 
 #include <cmath>
 #include <vector>
+
+extern "C" void kovKey(int symbol, bool down); // as the keyboard's
 
 namespace quorva::web {
 
@@ -16,7 +17,6 @@ namespace {
 
 using graphics::GWord;
 using menus::ConfigMenu;
-using messages::MenuMove;
 
 constexpr double middle_of_line = 0.3; ///< above its position, world units
 constexpr double reach = 0.9;          ///< of an item, up and down, world units
@@ -41,19 +41,22 @@ int itemAt(const std::vector<GWord*>& words, double y) {
     return nearest;
 }
 
-void send(bool MenuMove::*flag) {
-    MenuMove move;
-    if (flag != nullptr) move.*flag = true;
-    publish(move);
+/// Sends the key of an action.
+void send(const char* action, bool down) {
+    kovKey(input::KeyMapper::Instance().getButton(action, 0)->key, down);
+}
+
+void press(const char* action) {
+    send(action, true);
+    send(action, false);
 }
 
 /// As the keys would, one item after the other.
-template <class Menu>
-void select(const Menu& menu, int item) {
-    while (menu.selection < item)
-        send(&MenuMove::down);
-    while (menu.selection > item)
-        send(&MenuMove::up);
+void select(int selection, int item) {
+    for (; selection < item; ++selection)
+        press("Down");
+    for (; selection > item; --selection)
+        press("Up");
 }
 
 void touchConfiguration(const ConfigMenu& menu, const math::Point& place, bool down) {
@@ -61,14 +64,15 @@ void touchConfiguration(const ConfigMenu& menu, const math::Point& place, bool d
     rows.push_back(menu.saveWord);
     rows.push_back(menu.cancelWord);
     const int row = itemAt(rows, place.y);
-    const bool isSetting = row != nothing && row < ConfigMenu::setting_count;
-    if (down && row != nothing) select(menu, row);
-    if (down && isSetting)
-        send(place.x < menu.values[static_cast<std::size_t>(row)]->position.x ? &MenuMove::left
-                                                                              : &MenuMove::right);
-    if (down) return;
-    send(nullptr); // lets go
-    if (row != nothing && !isSetting) send(&MenuMove::select);
+    if (row == nothing) return;
+    const bool isSetting = row < ConfigMenu::setting_count;
+    if (down == isSetting) select(menu.selection, row);
+    if (isSetting) {
+        const GWord& value = *menu.values[static_cast<std::size_t>(row)];
+        send(place.x < value.position.x ? "Left" : "Right", down);
+    } else if (!down) {
+        press("Menu Select");
+    }
 }
 
 } // namespace
@@ -77,15 +81,15 @@ void touchMenu(menus::MainMenu& menu, double x, double y, bool down) {
     const math::Point place = toWorld(x, y);
     if (const auto* const page = dynamic_cast<ConfigMenu*>(menu.subMenu))
         return touchConfiguration(*page, place, down);
-    if (!menu.shown) {
-        if (!down) send(&MenuMove::select); // closes the page
-        return;
+    if (down) return;
+    if (menu.shown) {
+        const int item =
+            itemAt({menu.startWord, menu.configWord, menu.helpWord, menu.aboutWord, menu.exitWord},
+                   place.y);
+        if (item == nothing) return;
+        select(menu.selection, item);
     }
-    const int item = itemAt(
-        {menu.startWord, menu.configWord, menu.helpWord, menu.aboutWord, menu.exitWord}, place.y);
-    if (item == nothing) return;
-    if (down) select(menu, item);
-    if (!down && menu.selection == item) send(&MenuMove::select);
+    press("Menu Select"); // which closes a page
 }
 
 } // namespace quorva::web

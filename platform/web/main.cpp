@@ -44,7 +44,7 @@ int timeUntilTick() {
 /// Between two ticks nothing moves, and a player who saves power is shown each of them once.
 bool isIdle() {
     const TimerClass& timer = Timer::Instance();
-    return config::Config::Instance().getSaveCPU() && !timer.paused && !timer.isItTimeToProcess() &&
+    return config::Config::Instance().getSaveCPU() && !timer.paused && timeUntilTick() > 0 &&
            timer.blips == tickSeen;
 }
 
@@ -110,6 +110,7 @@ EMSCRIPTEN_KEEPALIVE bool kovIsPlaying() {
     return game != nullptr && game->level != nullptr;
 }
 
+/// See touchMenu.
 EMSCRIPTEN_KEEPALIVE void kovTouchMenu(double x, double y, bool down) {
     if (game != nullptr && game->level == nullptr) web::touchMenu(*game->mainMenu, x, y, down);
 }

@@ -4,6 +4,7 @@ const axisEnd = 32767;
 const stickReach = 45; // CSS pixels from the middle to the end
 const deadZone = 0.2; // of that
 const swipeLength = 24; // CSS pixels
+const shortestTap = 80; // ms: a menu wants a tick or two
 
 // Numbers of pad buttons, as bind1.conf has them.
 const guns = { up: 3, down: 0, left: 2, right: 1 };
@@ -45,7 +46,7 @@ export function followTouch(stage, controls, kov, onPress) {
     const isLeft = event.clientX < box.left + box.width / 2;
     const taken = [...fingers.values()].some(finger => finger.does === 'steer');
     const does = !kov._kovIsPlaying() ? 'tap' : isLeft && !taken ? 'steer' : 'fire';
-    const finger = { x: event.clientX, y: event.clientY, does };
+    const finger = { x: event.clientX, y: event.clientY, does, since: performance.now() };
     fingers.set(event.pointerId, finger);
     if (does === 'tap') touchMenu(finger, true);
     if (does !== 'steer') return;
@@ -72,7 +73,9 @@ export function followTouch(stage, controls, kov, onPress) {
       steer(0, 0);
       stick.classList.remove('held');
     }
-    if (finger.does === 'tap') touchMenu(finger, false);
+    const lasted = performance.now() - finger.since;
+    if (finger.does === 'tap')
+      setTimeout(() => touchMenu(finger, false), Math.max(0, shortestTap - lasted));
   };
 
   const isControl = event => event.target.closest('button, a');
@@ -88,7 +91,10 @@ export function followTouch(stage, controls, kov, onPress) {
     end(event);
   });
   stage.addEventListener('pointercancel', end);
-  controls.querySelector('#pause').addEventListener('click', () => press(pauseButton));
-  controls.querySelector('#leave').addEventListener('click', () => press(leaveButton));
+  for (const [id, button] of [['pause', pauseButton], ['leave', leaveButton]])
+    controls.querySelector(`#${id}`).addEventListener('click', () => {
+      press(button);
+      canvas.focus(); // for keys
+    });
   controls.hidden = !matchMedia('(hover: none) and (pointer: coarse)').matches;
 }
