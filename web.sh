@@ -24,5 +24,5 @@ cmake --build --preset web --target kov_web_site >build/web.log || { cat build/w
 [ "${1:-}" != --build ] || exit 0
 
 echo "KOV is at http://localhost:$port/ until you press Ctrl+C here."
-exec python3 -m http.server $port --bind 127.0.0.1 --directory build/web \
-    >/dev/null 2>build/web-server.log
+python3 -m http.server $port --bind 127.0.0.1 --directory build/web \
+    >/dev/null 2>build/web-server.log || { tail -n 1 build/web-server.log >&2; exit 1; }
