@@ -18,6 +18,7 @@ page = source / "platform/web/page"
 files = {path.name: path for path in page.iterdir() if path.name != "worker.js"}
 files |= {name: program / name for name in ("kov.js", "kov.wasm")}
 files["manual.html"] = source / "manual.html"
+files["pad.svg"] = source / "docs/pad.svg"
 files["picture.png"] = source / "docs/gallery/fence.png"
 for name in ("kov.svg", "kov-48.png", "kov-128.png", "kov-256.png"):
     files[f"icons/{name}"] = source / "packaging/icons" / name

@@ -76,6 +76,7 @@ for (const name of browserNames)
     });
 
     test('follows keys through the menu, and keeps the settings', async (game, page) => {
+      const pages = (await page.browser().pages()).length;
       await game.open(server.address);
       await game.press('ArrowDown');
       const menu = await game.picture();
@@ -84,7 +85,9 @@ for (const name of browserNames)
       await shot(page, 'configuration');
       await game.press('ArrowUp', 'ArrowUp', 'Enter'); // over the end to Save
       await game.until(() => game.kept('game.conf'), 'the settings in the database');
-      assert.equal(await page.evaluate(() => scrollY), 0);
+      await game.press(' ', 'F1', 'PageDown', 'ArrowDown');
+      assert.equal(await page.evaluate(() => scrollY), 0, 'no key scrolls');
+      assert.equal((await page.browser().pages()).length, pages, 'no key opens anything');
     });
 
     test('plays: a shot, a pause, the end by Escape', async (game, page) => {
