@@ -24,7 +24,6 @@ constexpr std::uint32_t picture_duration = 30; // ms
 constexpr std::uint32_t rate = 44100;          // Hz
 constexpr std::uint64_t piece = 1024;          // samples rendered at once
 constexpr std::uint32_t look_interval = 500;   // ms, the real clock
-constexpr double fade_in = 0.1;                // of the volume, in a piece
 const char* const picture_file = "pictures.mkv";
 const char* const sound_file = "sound.mka";
 
@@ -157,13 +156,9 @@ void Film::hear(std::uint64_t until, double volume) {
         FMOD_System_Update(system);
         platform::fmodex::render(system, samples.data(), static_cast<int>(count));
         heard += count;
-        const double next = std::min(volume, lastVolume + fade_in);
-        for (std::uint64_t i = 0; i < 2 * count && (next < 1.0 || lastVolume < 1.0); ++i) {
-            const double part = static_cast<double>(i) / static_cast<double>(2 * count);
-            samples[i] =
-                static_cast<std::int16_t>(samples[i] * (lastVolume + (next - lastVolume) * part));
-        }
-        lastVolume = next;
+        const double loudness = time.nextVolume(volume);
+        for (std::uint64_t i = 0; i < 2 * count && loudness < 1.0; ++i)
+            samples[i] = static_cast<std::int16_t>(samples[i] * loudness);
         if (!sound.write(samples.data(), 2 * count * sizeof samples[0])) stop();
     }
 }

@@ -63,7 +63,6 @@ private:
     std::uint64_t filmed = 0;            ///< ms of the film
     std::uint64_t pictureCount = 0;      ///< written
     std::uint64_t heard = 0;             ///< samples
-    double lastVolume = 1.0;             ///< 0 to 1
     double scale = 1.0;                  ///< of the game's pixels in the film
     std::uint32_t begun = 0, looked = 0; ///< ms, the real clock
 };

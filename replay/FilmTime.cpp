@@ -17,4 +17,8 @@ double FilmTime::volume(std::uint32_t ms) const {
     return std::clamp(left / fade, 0.0, 1.0);
 }
 
+double FilmTime::nextVolume(double wanted) {
+    return lastVolume = std::min(wanted, lastVolume + fade_in);
+}
+
 } // namespace quorva::replay

@@ -21,11 +21,18 @@ public:
     /// How loud it is `ms` after the last moment, from 0 to 1.
     double volume(std::uint32_t ms) const;
 
+    /// The volume of the next piece of sound, which comes back to what it should be step by step.
+    /// @param wanted 0 to 1
+    double nextVolume(double wanted);
+
+    static constexpr double fade_in = 0.1; ///< at most, from piece to piece
+
     static constexpr std::uint32_t longest_still = 5000; ///< ms
     static constexpr std::uint32_t fade = 1000;          ///< ms, the last of these
 
 private:
     bool full;
+    double lastVolume = 1.0;
     std::uint64_t still = 0; ///< ms in the session, up to the last moment
 };
 

@@ -52,12 +52,16 @@ bool Playback::giveEvent(SDL_Event* event) {
     const Uint8 types[] = {SDL_KEYDOWN, SDL_KEYUP, SDL_JOYBUTTONDOWN, SDL_JOYAXISMOTION, SDL_QUIT};
     *event = {};
     event->type = types[kept.kind];
-    if (kept.kind == Event::button_down) {
-        event->jbutton.button = static_cast<Uint8>(kept.which);
-        event->jbutton.state = SDL_PRESSED;
-    } else if (kept.kind < Event::button_down) {
+    switch (kept.kind) {
+    case Event::key_down:
+    case Event::key_up:
         event->key.keysym.sym = static_cast<SDLKey>(kept.which & 0xffff);
-        event->key.state = kept.kind == Event::key_down ? SDL_PRESSED : SDL_RELEASED;
+        break;
+    case Event::button_down:
+        event->jbutton.button = static_cast<Uint8>(kept.which);
+        break;
+    default:
+        break;
     }
     return true;
 }

@@ -26,6 +26,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
+#include <iterator>
 #include <optional>
 #include <stdexcept>
 
@@ -180,13 +181,11 @@ int watch(const Places& places, const Words& words) {
     return judge(watcher, summary.start);
 }
 
-/// Of two exit codes: what is unusable, what differs, what is marked, what is well.
+/// Of two exit codes: rather unusable than differs, than marked, than well.
 int worse(int a, int b) {
-    const auto rank = [](int code) {
-        return code == exit_marked     ? 1
-               : code == exit_differs  ? 2
-               : code == exit_unusable ? 3
-                                       : code;
+    constexpr int ranking[] = {0, exit_marked, exit_differs, exit_unusable};
+    const auto rank = [&](int code) {
+        return std::find(std::begin(ranking), std::end(ranking), code) - std::begin(ranking);
     };
     return rank(a) > rank(b) ? a : b;
 }
@@ -196,24 +195,25 @@ fs::path verifyProgram() {
     return fs::read_symlink("/proc/self/exe").parent_path() / "kov-replay-verify";
 }
 
-ProgramEnd playUnseen(const Words& words) {
-    Words all = {verifyProgram().string()};
-    all.insert(all.end(), words.begin(), words.end());
-    return runProgram(all);
+/// @return that program's exit code; exit_differs, with a line, if it has none. Throws Interrupted.
+int playUnseen(const Places& places, const std::string& file, const Words& options) {
+    Words words = {verifyProgram().string()};
+    words.insert(words.end(), options.begin(), options.end());
+    words.insert(words.end(), {"--", file, places.data.string()});
+    const ProgramEnd end = runProgram(words);
+    if (end.interrupted || end.code == exit_interrupted) throw Interrupted();
+    if (end.code >= 0) return end.code;
+    complain(file + ": the game has failed");
+    return exit_differs;
 }
 
 int verify(const Places& places, const Words& words) {
     const CommandLine line(words, {{"fair", false}});
     requireFiles(line, 1, line.files.size());
+    const Words options = line.has("fair") ? Words{"--fair"} : Words{};
     int worst = 0;
-    for (const std::string& file : line.files) {
-        Words all = {"--", file, places.data.string()};
-        if (line.has("fair")) all.insert(all.begin(), "--fair");
-        const ProgramEnd end = playUnseen(all);
-        if (end.interrupted || end.code == exit_interrupted) return exit_interrupted;
-        if (end.code < 0) complain(file + ": the game has failed");
-        worst = worse(worst, end.code < 0 ? exit_differs : end.code);
-    }
+    for (const std::string& file : line.files)
+        worst = worse(worst, playUnseen(places, file, options));
     return worst;
 }
 
@@ -265,20 +265,7 @@ int film(const Places& places, const Words& words) {
 int show(const Places& places, const Words& words) {
     const CommandLine line(words, {});
     requireFiles(line, 1, 1);
-    const ProgramEnd end = playUnseen({"--show", "--", line.files[0], places.data.string()});
-    if (end.interrupted) return exit_interrupted;
-    if (end.code >= 0) return end.code;
-    complain(line.files[0] + ": the game has failed");
-    return exit_differs;
-}
-
-/// By another program, which leaves a report.
-bool prove(const Places& places, const fs::path& file, const fs::path& report) {
-    const ProgramEnd end =
-        playUnseen({"--report", report.string(), "--", file.string(), places.data.string()});
-    if (end.interrupted || end.code == exit_interrupted) throw Interrupted();
-    if (end.code < 0) complain(file.string() + ": the game has failed");
-    return end.code == 0 || end.code == exit_differs;
+    return playUnseen(places, line.files[0], {"--show"});
 }
 
 std::vector<RankedGame> provenGames(const Places& places, const fs::path& folder) {
@@ -286,7 +273,8 @@ std::vector<RankedGame> provenGames(const Places& places, const fs::path& folder
     std::vector<fs::path> basis = shipped.files;
     basis.push_back(verifyProgram());
     Proofs proofs(folder, basis, [&](const fs::path& file, const fs::path& report) {
-        return prove(places, file, report);
+        const int code = playUnseen(places, file.string(), {"--report", report.string()});
+        return code == 0 || code == exit_differs;
     });
     std::vector<RankedGame> games;
     for (const fs::path& file : replaysIn(folder)) {

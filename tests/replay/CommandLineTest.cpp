@@ -94,4 +94,10 @@ TEST(FilmTimeTest, FadesTowardsTheCut) {
     EXPECT_EQ(time.volume(0), 0.75);
     time.enliven();
     EXPECT_EQ(time.volume(0), 1.0);
+
+    EXPECT_EQ(time.nextVolume(1.0), 1.0);
+    EXPECT_EQ(time.nextVolume(0.25), 0.25) << "at once";
+    EXPECT_DOUBLE_EQ(time.nextVolume(1.0), 0.35) << "but back in steps";
+    EXPECT_DOUBLE_EQ(time.nextVolume(1.0), 0.45);
+    EXPECT_DOUBLE_EQ(time.nextVolume(0.5), 0.5);
 }

@@ -8,7 +8,9 @@
 #include "replay/Recorder.h"
 #include "replay/Script.h"
 #include "replay/Snapshot.h"
+#include "replay/Stage.h"
 #include "replay/Tape.h"
+#include "replay/Watcher.h"
 
 #include "Framework/math/MTRand.h"
 #include "tests/support/Field.h"
@@ -131,6 +133,22 @@ bool changeKey(Record& record) {
         if (event.which == SDLK_w) return event.which = SDLK_s, true;
     return false;
 }
+
+/// Gets an Escape after a thousand passes in which nothing is shown, of a ms each.
+class EscapingWatcher : public Watcher {
+public:
+    using Watcher::Watcher;
+    unsigned int passes = 0;
+
+private:
+    void passIdly() override {
+        ++standins::sdl().ticks;
+        if (++passes == 1000)
+            for (const bool down : {true, false})
+                standins::pushKey(SDLK_ESCAPE, down);
+        Watcher::passIdly();
+    }
+};
 
 } // namespace
 
@@ -324,6 +342,33 @@ TEST_F(Replay, AnInterruptionIsNoDifferenceAndLeavesNothing) {
         EXPECT_NE(outcome.text.find("interrupted\n"), std::string::npos) << outcome.text;
         EXPECT_TRUE(fs::is_empty("tmp")) << signal;
     }
+}
+
+TEST_F(Replay, ARecorderThatSawNoFrameWritesNothing) {
+    {
+        Recorder recorder("empty");
+        recorder.finish();
+        EXPECT_EQ(recorder.games, 0U);
+        EXPECT_EQ(recorder.bestScore, 0U);
+    }
+    EXPECT_EQ(contentsOf("empty").size(), BlockWriter::empty_size);
+    EXPECT_THROW(Recorder("empty"), std::runtime_error) << "there already";
+}
+
+TEST_F(Replay, AWatcherTakesKeysWhileNothingIsShown) {
+    fill("a", edited(kept, ofFirst<Pass>([](Pass& p) { p.idle = 1500000; })));
+    const pid_t child = fork();
+    if (child == 0) {
+        Script script("a");
+        const Stage stage(KOV_SOURCE_DIR, script.setup);
+        EscapingWatcher watcher(script, "Songs", {0, 1000, 0, 1.0});
+        insert(&watcher);
+        runGame(script.setup);
+        std::_Exit(watcher.passes < 1010 ? 0 : 1);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
 }
 
 TEST_F(Replay, SettingsAreThoseOfEachGame) {
