@@ -39,7 +39,7 @@ build() { # preset, targets... (all if none is named)
     cmake --preset "$preset" -DKOV_TESTS=ON $strictness >/dev/null || return 1
     cmake --build --preset "$preset" ${1:+--target "$@"} >build/build.log 2>&1
     code=$?
-    grep -vE '^\[[0-9]+/[0-9]+\] |^ninja' build/build.log # warnings, and errors
+    grep -avE '^(\[[0-9]+/[0-9]+\] |ninja|-- )' build/build.log # warnings, and errors
     return "$code"
 }
 
