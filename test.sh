@@ -1,8 +1,8 @@
 #!/bin/sh
 # Builds the tests, if need be with the packages that they take, and runs them: optimised, and
 # under the sanitizers. `./test.sh all` takes a compiler's warnings as errors, and adds recorded games
-# with link-time optimisation, the static checks, and a bot that plays for an hour of game time under
-# the sanitizers. Goes on after a failure and ends with a summary.
+# with link-time optimisation, the page in two browsers, the static checks, and a bot that plays for
+# an hour of game time under the sanitizers. Goes on after a failure and ends with a summary.
 set -u
 cd "$(dirname "$0")" || exit 1
 
@@ -75,6 +75,9 @@ step "build, sanitizers" build sanitize
 step "tests, sanitizers" run_tests sanitize
 if [ "${1:-}" = all ]; then
     step "link-time optimisation" verify_optimised_whole
+    # Only Debian 12's Emscripten has been tried so far.
+    [ "${KOV_PAGE:-yes}" = no ] ||
+        step "page, Chromium and Firefox" quietly build/tests-web.log 9 tests/web/run.sh
     step "packages of the static checks" tools/install_packages.sh check
     step "static checks" tools/static_checks.sh build/release
     step "bot, $soak_ticks ticks, sanitizers" soak

@@ -50,17 +50,20 @@ Game::~Game() {
 }
 
 void Game::mainLoop() {
+    while (!dead)
+        pass();
+}
+
+void Game::pass() {
     TimerClass& timer = Timer::Instance();
     EngineClass& engine = Engine::Instance();
-    while (!dead) {
-        if (endRequested.exchange(false)) publish(messages::EndGame());
-        if (config::Config::Instance().getSaveCPU() && !timer.paused) rest(timer);
-        if (timer.isItTimeToProcess() && !timer.paused) {
-            engine.process();
-            timer.calculateLastBlip(); // after the tick: a late one is not made up
-        }
-        engine.update();
+    if (endRequested.exchange(false)) publish(messages::EndGame());
+    if (config::Config::Instance().getSaveCPU() && !timer.paused) rest(timer);
+    if (timer.isItTimeToProcess() && !timer.paused) {
+        engine.process();
+        timer.calculateLastBlip(); // after the tick: a late one is not made up
     }
+    engine.update();
 }
 
 } // namespace quorva

@@ -17,6 +17,9 @@ public:
 
     /// Runs ticks and passes until `dead` is set; the pass that sets it runs to its end.
     void mainLoop();
+
+    /// One turn of the main loop: the tick, if one is due, and a frame.
+    void pass();
 };
 
 } // namespace quorva

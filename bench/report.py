@@ -255,7 +255,21 @@ def plot(rows):
         '<rect width="100%" height="100%" fill="#fff"/>', *parts, "</svg>", ""])
 
 
-# The page
+# In a browser
+
+
+def page_rows():
+    figures = json.loads(output("node", "bench/web/measure.js"))
+    by = "`bench/web`"
+    yield ("page: fetched before the first song", "%.0f KB compressed" %
+           (figures["compressed"] / 1000), "plain %.0f KB" % (figures["plain"] / 1000), None, by)
+    yield ("page: navigation to the menu's first picture", ms(figures["firstPicture"]),
+           "fastest of seven " + ms(figures["fastestFirstPicture"]), None, by)
+    yield ("page: a frame of its thread, busiest half minute of a game", ms(figures["median"]),
+           "99 of 100 within " + ms(figures["p99"]), None, by)
+
+
+# The document
 
 
 def machine():
@@ -279,7 +293,7 @@ def table(rows):
 def main():
     bench = benchmarks()
     rows = [*tick_rows(bench), *elementary_rows(bench), *frame_rows(), *start_rows(), *memory_rows(), *play_rows(),
-            *idle_rows(), *replay_rows()]
+            *idle_rows(), *replay_rows(), *page_rows()]
     curves = plot([("ms a tick", growth_of_ticks(bench)), ("ms a frame", growth_of_frames())])
     with open(PLOT, "w", encoding="utf-8") as file:
         file.write(curves)

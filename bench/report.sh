@@ -12,6 +12,7 @@ tools/install_packages.sh build report
 cmake -S . -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DKOV_BENCH=ON >/dev/null
 cmake --build "$build" --target kov kov-replay kov-replay-verify kov_bench kov_frame_cost \
     kov_first_frame kov_bare_start
+tests/web/prepare.sh
 
 folder=$(mktemp -d)
 server=

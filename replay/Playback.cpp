@@ -56,6 +56,8 @@ bool Playback::giveEvent(SDL_Event* event) {
     case Event::key_down:
     case Event::key_up:
         event->key.keysym.sym = static_cast<SDLKey>(kept.which & 0xffff);
+        // Menus compare it with buttons' numbers: without it every key would be the first one.
+        event->key.state = kept.kind == Event::key_down ? SDL_PRESSED : SDL_RELEASED;
         break;
     case Event::button_down:
         event->jbutton.button = static_cast<Uint8>(kept.which);

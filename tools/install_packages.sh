@@ -1,7 +1,8 @@
 #!/bin/sh
-# Installs those of the named groups' Debian packages that are missing: build, test, check, fuzz,
-# demo, package, portable, gallery, assets, report. Of "one|other" one will do: the one that is
-# installed, else the first that this release has. "one|" is left out where the release hasn't got it.
+# Installs those of the named groups' Debian packages that are missing: build, test, web, webtest,
+# check, fuzz, demo, package, portable, gallery, assets, report. Of "one|other" one will do: the one
+# that is installed, else the first that this release has. "one|" is left out where the release
+# hasn't got it.
 set -eu
 
 if ! command -v apt-get >/dev/null; then
@@ -21,6 +22,11 @@ for group in "$@"; do
         libftgl-dev libfreetype-dev libloki-dev| libboost-dev libboost-filesystem-dev zlib1g-dev
         libopenal-dev libsndfile1-dev libmpg123-dev libgl1-mesa-dri" ;;
     test) packages="$packages libgtest-dev libmpfr-dev clang-format xvfb xdotool" ;;
+    web) packages="$packages emscripten node-pako g++ cmake ninja-build pkgconf|pkg-config
+        libsdl1.2-dev|libsdl1.2-compat-dev libglew-dev libftgl-dev libfreetype-dev libboost-dev
+        zlib1g-dev libsndfile1-dev libmpg123-dev sndfile-programs python3" ;;
+    webtest) packages="$packages chromium firefox-esr xvfb xauth"
+        command -v npm >/dev/null || packages="$packages npm" ;; # node's own packages bring it
     check) packages="$packages clang-tidy cppcheck" ;;
     fuzz) packages="$packages clang libclang-rt-$(clang_version)-dev" ;;
     demo) packages="$packages xvfb xdotool imagemagick" ;;

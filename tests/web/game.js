@@ -1,0 +1,120 @@
+// The page as a player has it: looks at its picture, and presses its keys.
+
+import { fromPng } from './images.js';
+
+const patience = 20000; // ms
+
+// Colours of the ground, as they come out of the game's own.
+const grounds = { menu: [11, 13, 14], play: [27, 27, 27] };
+
+// What Firefox says of a song that ends, or that can't be had, while it is being fetched.
+const brokenOff = /^Error: Failed to load ‘/;
+
+// By "Enter" the driver of Firefox means the number pad's.
+const returnKey = '\uE006';
+
+export const pause = ms => new Promise(resolve => { setTimeout(resolve, ms); });
+
+export class Game {
+  constructor(page) {
+    this.page = page;
+    this.faults = [];
+    this.isFirefox = page.browser().process().spawnfile.includes('firefox');
+    page.on('pageerror', error => {
+      if (!brokenOff.test(String(error))) this.faults.push(String(error));
+    });
+    page.on('console', message => {
+      if (/Content[ -]Security[ -]Policy/i.test(message.text())) this.faults.push(message.text());
+    });
+    page.on('request', request => this.faults.push(...(
+      /^(?:http:\/\/localhost:|data:|blob:)/.test(request.url()) ? [] : [request.url()])));
+  }
+
+  async open(address) {
+    await this.page.goto(address);
+    await this.firstPicture();
+  }
+
+  async firstPicture() {
+    await this.page.waitForFunction(
+      () => performance.getEntriesByName('kov-first-picture').length > 0, { timeout: patience });
+  }
+
+  /** What the canvas shows, taken in the task that has drawn it. */
+  async picture() {
+    const url = await this.page.evaluate(() => new Promise(resolve => {
+      requestAnimationFrame(() => resolve(document.getElementById('screen').toDataURL()));
+    }));
+    return fromPng(url.split(',')[1]);
+  }
+
+  /** Red, green and blue at shares of width and height. */
+  async colourAt(x, y) {
+    const { width, height, data } = await this.picture();
+    const i = 4 * (Math.floor(y * height) * width + Math.floor(x * width));
+    return [...data.subarray(i, i + 3)];
+  }
+
+  /** Whether the ground is that of the menu or of play; a pause has neither. */
+  async shows(ground) {
+    const colour = await this.colourAt(0.02, 0.3);
+    return colour.every((part, i) => Math.abs(part - grounds[ground][i]) <= 2);
+  }
+
+  async until(condition, what, ms = patience) {
+    for (const end = Date.now() + ms; Date.now() < end; await pause(100))
+      if (await condition()) return;
+    throw new Error(`not within ${ms} ms: ${what}`);
+  }
+
+  untilShows(ground) {
+    return this.until(() => this.shows(ground), `the ground of ${ground}`);
+  }
+
+  async press(...keys) {
+    for (const name of keys) {
+      const key = this.isFirefox && name === 'Enter' ? returnKey : name;
+      await this.page.keyboard.press(key, { delay: 50 });
+      await pause(50); // more than a tick
+    }
+  }
+
+  async startLevel() {
+    await this.press('Enter');
+    await this.untilShows('play');
+  }
+
+  /** Where a place of the game's is within the window, the picture being 16 by 10. */
+  async inWindow(x, y) {
+    const [halfWidth, halfHeight] = [24, 15]; // of the view
+    const box = await this.page.$eval('#screen', canvas => {
+      const { left, top, width, height } = canvas.getBoundingClientRect();
+      return { left, top, width, height };
+    });
+    return [box.left + box.width * (0.5 + x / halfWidth / 2),
+            box.top + box.height * (0.5 - y / halfHeight / 2)];
+  }
+
+  message() {
+    return this.page.$eval('#message', element => (element.hidden ? '' : element.innerText));
+  }
+
+  untilSays(pattern) {
+    return this.until(async () => pattern.test(await this.message()), `the message ${pattern}`);
+  }
+
+  note() {
+    return this.page.$eval('#note', element => element.innerText);
+  }
+
+  /** A kept file's bytes, or null. */
+  kept(name) {
+    return this.page.evaluate(wanted => new Promise(resolve => {
+      const request = indexedDB.open('kov');
+      request.onsuccess = () => {
+        const get = request.result.transaction('files').objectStore('files').get(wanted);
+        get.onsuccess = () => resolve(get.result ? [...get.result] : null);
+      };
+    }), name);
+  }
+}
