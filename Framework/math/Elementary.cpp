@@ -176,7 +176,7 @@ inline double cosineOf(const Angle& angle, double x) {
 
 /// Of c, in 64ths.
 double nearestStep(const DoubleDouble& y, const DoubleDouble& x) {
-    return static_cast<int>(y.high / x.high * tangent_steps + 0.5);
+    return (y.high / x.high * tangent_steps + round_to_whole) - round_to_whole;
 }
 
 DoubleDouble quickLowDirection(const DoubleDouble& y, const DoubleDouble& x) {
