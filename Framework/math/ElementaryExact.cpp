@@ -84,8 +84,14 @@ double rounded(Compute compute) {
 
 // Sine and cosine.
 
-const mp::cpp_int& twoOverPi() {
-    static const mp::cpp_int digits(two_over_pi_digits);
+/// A whole number with room for the digits of 2 / pi and all of a double's places; no allocation.
+constexpr unsigned whole_bits = 4096;
+using Whole = mp::number<
+    mp::cpp_int_backend<whole_bits, whole_bits, mp::signed_magnitude, mp::unchecked, void>,
+    mp::et_off>;
+
+const Whole& twoOverPi() {
+    static const Whole digits(two_over_pi_digits);
     return digits;
 }
 
@@ -107,12 +113,12 @@ struct Reduced {
 template <class N>
 Reduced<N> reduce(double x) {
     int exponent = 0;
-    const mp::cpp_int digits(
+    const Whole digits(
         ldexp(frexp(N(x), &exponent), double_digits).template convert_to<std::uint64_t>());
     const auto places = static_cast<unsigned>(two_over_pi_bits + double_digits - exponent);
-    const mp::cpp_int turns = digits * twoOverPi();
-    const mp::cpp_int whole = (turns + (mp::cpp_int(1) << (places - 1))) >> places;
-    const mp::cpp_int rest = turns - (whole << places);
+    const Whole turns = digits * twoOverPi();
+    const Whole whole = (turns + (Whole(1) << (places - 1))) >> places;
+    const Whole rest = turns - (whole << places);
     return {static_cast<unsigned>(whole & 3U),
             ldexp(N(rest), -static_cast<int>(places)) * halfPi<N>()};
 }
