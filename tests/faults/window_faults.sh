@@ -3,16 +3,8 @@
 # display of its own (Xvfb), asks it to end, and compares its exit code and its standard error.
 set -u
 game=$1 sources=$2
-folder=$(mktemp -d) failures=0
-Xvfb -displayfd 3 -screen 0 1024x768x24 -noreset -iglx 3>"$folder/display" 2>/dev/null &
-server=$!
-trap 'kill $server; rm -rf "$folder"' EXIT
-while [ ! -s "$folder/display" ]; do
-    kill -0 $server || exit 1
-    sleep 0.1
-done
-DISPLAY=:$(cat "$folder/display")
-export DISPLAY ALSOFT_DRIVERS=null ASAN_OPTIONS=detect_leaks=0 # GL drivers leak
+failures=0
+. "${0%/*}/../support/display.sh"
 cp -r "$sources"/{data,fonts,Sounds} "$folder"
 mkdir "$folder/Songs"
 touch "$folder/said"

@@ -4,16 +4,8 @@
 #   player_test.sh KOV_REPLAY SOURCES CLOSE_WINDOW KOV_RECORD
 set -u
 replay=$1 sources=$2 close=$3 record=$4
-folder=$(mktemp -d) failures=0
-Xvfb -displayfd 3 -screen 0 1024x768x24 -noreset -iglx 3>"$folder/display" 2>/dev/null &
-server=$!
-trap 'kill $server; rm -rf "$folder"' EXIT
-while [ ! -s "$folder/display" ]; do
-    kill -0 $server || exit 1
-    sleep 0.1
-done
-DISPLAY=:$(cat "$folder/display")
-export DISPLAY ALSOFT_DRIVERS=null ASAN_OPTIONS=detect_leaks=0 # GL drivers leak
+failures=0
+. "${0%/*}/../support/display.sh"
 unset WAYLAND_DISPLAY SDL_VIDEODRIVER
 cd "$folder" || exit
 for each in data fonts Sounds; do ln -s "$sources/$each" .; done
