@@ -4,6 +4,7 @@
 #include "Framework/Engine.h"
 #include "Framework/MessageHandler.h"
 #include "Framework/Messages.h"
+#include "Framework/Signals.h"
 #include "Framework/Timer.h"
 
 #include <SDL.h>
@@ -34,15 +35,7 @@ void rest(const TimerClass& timer) {
 } // namespace
 
 void endOnSignals() {
-    for (const int signal : {SIGHUP, SIGTERM}) {
-        struct sigaction action = {};
-        sigaction(signal, nullptr, &action);
-        if (action.sa_handler == SIG_IGN) continue; // by nohup, for example
-        action = {};
-        action.sa_handler = requestEnd;
-        action.sa_flags = SA_RESTART; // the libraries' calls; a sleep ends all the same
-        sigaction(signal, &action, nullptr);
-    }
+    catchSignals({SIGHUP, SIGTERM}, requestEnd);
 }
 
 Game::~Game() {

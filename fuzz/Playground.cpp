@@ -1,8 +1,6 @@
 #include "fuzz/Playground.h"
 
-#include "game/GameIdentity.h"
-
-#include <boost/filesystem.hpp>
+#include "headless/Sandbox.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -11,37 +9,14 @@
 
 namespace fuzz {
 
-namespace {
-
-namespace fs = boost::filesystem;
-
-const fs::path& folder() {
-    static const auto* const path =
-        new fs::path(fs::temp_directory_path() / fs::unique_path("kov-fuzz-%%%%%%%%"));
-    return *path;
-}
-
-void leavePlayground() {
-    boost::system::error_code ignored;
-    fs::remove_all(folder(), ignored);
-}
-
-} // namespace
-
 void enterPlayground(bool linkData) {
-    fs::create_directories(folder() / "Songs");
-    std::atexit(leavePlayground);
-    for (const char* name : {"fonts", "textures", "Sounds"})
-        fs::create_directory_symlink(fs::path(KOV_SOURCE_DIR) / name, folder() / name);
-    if (linkData)
-        fs::create_directory_symlink(fs::path(KOV_SOURCE_DIR) / "data", folder() / "data");
-    else
-        fs::create_directory(folder() / "data");
-    fs::current_path(folder());
+    static const quorva::headless::Sandbox sandbox(KOV_SOURCE_DIR);
+    if (!linkData) {
+        boost::filesystem::remove("data"); // the link
+        boost::filesystem::create_directory("data");
+    }
     for (std::ostream* stream : {&std::cerr, &std::cout})
         stream->setstate(std::ios::failbit);
-
-    introduceGame();
 }
 
 void write(const char* name, const std::uint8_t* data, std::size_t size) {

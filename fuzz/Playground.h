@@ -11,9 +11,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace fuzz {
 
-/// A folder of this process's own with the game's fonts, textures and sounds linked in, which
-/// becomes the working directory and goes at exit. `std::cerr` and `std::cout` fall silent: what
-/// the game says of bad input is no finding.
+/// Enters a sandbox that goes at exit. `std::cerr` and `std::cout` fall silent: what the game says
+/// of bad input is no finding.
+/// @param linkData false: the folder of resource files is an empty one of its own
 void enterPlayground(bool linkData = true);
 
 /// Fills a file of the playground.

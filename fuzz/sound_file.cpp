@@ -8,8 +8,7 @@
 
 namespace {
 
-constexpr int channels = 40, any_channel = -1;
-constexpr unsigned int sample_mode = 0x4149, stream_mode = 64, in_ms = 1;
+constexpr int channels = 40;
 constexpr int passes = 4;
 constexpr std::size_t pass_frames = 1024;
 
@@ -27,8 +26,9 @@ FMOD_SOUND* playIfGood(FMOD_SYSTEM* system, FMOD_RESULT opened, FMOD_SOUND* soun
     if (sound == nullptr) return nullptr;
     FMOD_CHANNEL* channel = nullptr;
     unsigned int length = 0;
-    fuzz::require(FMOD_Sound_GetLength(sound, &length, in_ms) == FMOD_OK, "it has a length");
-    fuzz::require(FMOD_System_PlaySound(system, any_channel, sound, 0, &channel) == FMOD_OK,
+    fuzz::require(FMOD_Sound_GetLength(sound, &length, FMOD_LENGTH_MS) == FMOD_OK,
+                  "it has a length");
+    fuzz::require(FMOD_System_PlaySound(system, FMOD_CHANNEL_ANY, sound, 0, &channel) == FMOD_OK,
                   "it plays");
     return sound;
 }
@@ -44,9 +44,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static FMOD_SYSTEM* const system = openSystem();
     fuzz::write("any.wav", data, size);
     FMOD_SOUND *effect = nullptr, *song = nullptr;
-    FMOD_RESULT opened = FMOD_System_CreateSound(system, "any.wav", sample_mode, nullptr, &effect);
+    FMOD_RESULT opened =
+        FMOD_System_CreateSound(system, "any.wav", FMOD_MODE_EFFECT, nullptr, &effect);
     effect = playIfGood(system, opened, effect);
-    opened = FMOD_System_CreateStream(system, "any.wav", stream_mode, nullptr, &song);
+    opened = FMOD_System_CreateStream(system, "any.wav", FMOD_MODE_STREAM, nullptr, &song);
     song = playIfGood(system, opened, song);
     if (effect == nullptr && song == nullptr) return 0;
 

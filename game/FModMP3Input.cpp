@@ -16,11 +16,7 @@ namespace {
 
 math::MTRand_int32 Rand;
 
-constexpr std::uint16_t no_song = 37626;     // an index that no song has
-constexpr unsigned int effect_mode = 0x4149; // no loop, 2D, software, loaded whole
-constexpr unsigned int stream_mode = 64;     // software
-constexpr unsigned int length_in_ms = 1;
-constexpr int any_channel = -1;
+constexpr std::uint16_t no_song = 37626; // an index that no song has
 constexpr std::size_t ending_length = 4; // ".mp3"
 constexpr float full_volume = 100.0F;
 /// ms. Beyond half the clock's range, an end that has long passed would count as one to come.
@@ -81,7 +77,7 @@ void FModMP3Input::subscribeToAll() {
 void FModMP3Input::loadEffects() {
     for (const auto& effect : effects) {
         FMOD_SOUND*& sound = this->*effect.sound;
-        result = FMOD_System_CreateSound(system, effect.file, effect_mode, nullptr, &sound);
+        result = FMOD_System_CreateSound(system, effect.file, FMOD_MODE_EFFECT, nullptr, &sound);
         if (FModSystem::Instance().isFModOk(result)) continue;
         std::cerr << effect.failure << '\n';
         sound = nullptr;
@@ -126,14 +122,14 @@ void FModMP3Input::playSong(unsigned short id) {
     lastSongID = id;
 
     const std::string path = mp3_directory + "/" + songs[id];
-    result = FMOD_System_CreateStream(system, path.c_str(), stream_mode, nullptr, &song);
+    result = FMOD_System_CreateStream(system, path.c_str(), FMOD_MODE_STREAM, nullptr, &song);
     const bool isKnownToFail = result != FMOD_OK && !brokenSongs.insert(path).second;
     if (!isKnownToFail) FModSystem::Instance().isFModOk(result);
-    result = FMOD_System_PlaySound(system, any_channel, song, 0, &musicChannel);
+    result = FMOD_System_PlaySound(system, FMOD_CHANNEL_ANY, song, 0, &musicChannel);
     FMOD_Channel_SetVolume(musicChannel, config.getMusicVolume() / full_volume);
     if (!isKnownToFail) FModSystem::Instance().isFModOk(result);
     // If it can't be opened, the previous length stays, and the silence lasts that long.
-    FMOD_Sound_GetLength(song, &songLength, length_in_ms);
+    FMOD_Sound_GetLength(song, &songLength, FMOD_LENGTH_MS);
     songEndTime = SDL_GetTicks() + songLength;
     songPlaying = true;
 }
@@ -181,7 +177,7 @@ void FModMP3Input::receiveMessage(const PauseGame* m) {
 void FModMP3Input::playEffect(FMOD_SOUND* sound) {
     const auto& config = config::Config::Instance();
     if (sound != nullptr && config.getPlaySound())
-        FMOD_System_PlaySound(system, any_channel, sound, 0, &effectChannel);
+        FMOD_System_PlaySound(system, FMOD_CHANNEL_ANY, sound, 0, &effectChannel);
     // In every case: with sound off it sets the level of the effect before.
     FMOD_Channel_SetVolume(effectChannel, config.getFXVolume() / full_volume);
 }

@@ -1,5 +1,7 @@
 #include "replay/Interruption.h"
 
+#include "Framework/Signals.h"
+
 #include <atomic>
 
 namespace quorva::replay {
@@ -13,13 +15,7 @@ void note(int) {
     interrupted = true;
 }
 
-bool isIgnored(int signal) { // by nohup, for example
-    struct sigaction action = {};
-    sigaction(signal, nullptr, &action);
-    return action.sa_handler == SIG_IGN;
-}
-
-constexpr int signals[] = {SIGINT, SIGTERM, SIGHUP};
+constexpr std::initializer_list<int> signals = {SIGINT, SIGTERM, SIGHUP};
 
 sigset_t signalSet() {
     sigset_t set;
@@ -39,11 +35,7 @@ sigset_t holdInterruptions(int another) {
 }
 
 void catchInterruptions() {
-    struct sigaction action = {};
-    action.sa_handler = note;
-    action.sa_flags = SA_RESTART;
-    for (const int signal : signals)
-        if (!isIgnored(signal)) sigaction(signal, &action, nullptr);
+    catchSignals(signals, note);
     const sigset_t set = signalSet();
     pthread_sigmask(SIG_UNBLOCK, &set, nullptr);
 }

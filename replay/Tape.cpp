@@ -28,8 +28,6 @@ namespace quorva::replay {
 
 namespace {
 
-constexpr unsigned int stream_mode = 64, in_ms = 1; // as the game has them
-
 Tape* inserted = nullptr;
 const FMOD_SOUND* lastSong = nullptr; // that was opened
 
@@ -66,11 +64,11 @@ std::int16_t Tape::axis(SDL_Joystick* joystick, int index) {
 }
 
 FMOD_RESULT Tape::openSong(FMOD_SYSTEM* system, const char* path, FMOD_SOUND** song) {
-    return __real_FMOD_System_CreateStream(system, path, stream_mode, nullptr, song);
+    return __real_FMOD_System_CreateStream(system, path, FMOD_MODE_STREAM, nullptr, song);
 }
 
 FMOD_RESULT Tape::songLength(FMOD_SOUND* song, unsigned int* ms) {
-    return __real_FMOD_Sound_GetLength(song, ms, in_ms);
+    return __real_FMOD_Sound_GetLength(song, ms, FMOD_LENGTH_MS);
 }
 
 void Tape::sleep(std::uint32_t microseconds) {

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr unsigned int unit_ms = 1;
-
 const char* const error_texts[] = {
     "No error.",
     "Locked already.",
@@ -140,7 +138,8 @@ FMOD_RESULT FMOD_Channel_SetPaused(FMOD_CHANNEL* channel, int paused) {
 }
 
 FMOD_RESULT FMOD_Sound_GetLength(FMOD_SOUND* sound, unsigned int* length, unsigned int unit) {
-    if (sound == nullptr || length == nullptr || unit != unit_ms) return FMOD_ERR_INVALID_PARAM;
+    if (sound == nullptr || length == nullptr || unit != FMOD_LENGTH_MS)
+        return FMOD_ERR_INVALID_PARAM;
     *length = sound->length;
     return FMOD_OK;
 }

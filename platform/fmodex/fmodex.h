@@ -29,6 +29,14 @@ enum {
     FMOD_ERR_MEMORY = 43,
 };
 
+/// What the game asks for. Which mode it is makes no difference here.
+enum {
+    FMOD_CHANNEL_ANY = -1,
+    FMOD_LENGTH_MS = 1,
+    FMOD_MODE_STREAM = 64,     ///< software
+    FMOD_MODE_EFFECT = 0x4149, ///< no loop, 2D, software, loaded whole
+};
+
 /// The one system of the process.
 FMOD_RESULT FMOD_System_Create(FMOD_SYSTEM** system);
 
@@ -49,7 +57,7 @@ FMOD_RESULT FMOD_System_CreateStream(FMOD_SYSTEM* system, const char* path, unsi
 
 /// Starts a sound at full level. When no channel is free the oldest effect gives way, never a
 /// stream; CHANNEL_ALLOC if there is none to give way. A stream that plays starts again.
-/// @param channelIndex -1 for any channel
+/// @param channelIndex FMOD_CHANNEL_ANY: there is no choosing
 FMOD_RESULT FMOD_System_PlaySound(FMOD_SYSTEM* system, int channelIndex, FMOD_SOUND* sound,
                                   int paused, FMOD_CHANNEL** channel);
 
@@ -57,7 +65,7 @@ FMOD_RESULT FMOD_System_PlaySound(FMOD_SYSTEM* system, int channelIndex, FMOD_SO
 FMOD_RESULT FMOD_Channel_SetVolume(FMOD_CHANNEL* channel, float volume);
 FMOD_RESULT FMOD_Channel_SetPaused(FMOD_CHANNEL* channel, int paused);
 
-/// @param unit 1: milliseconds, the only one
+/// @param unit FMOD_LENGTH_MS, the only one
 FMOD_RESULT FMOD_Sound_GetLength(FMOD_SOUND* sound, unsigned int* length, unsigned int unit);
 
 /// Stops the sound at once, wherever it plays, and frees it: the pointer must not be used again.

@@ -108,7 +108,8 @@ FMOD_RESULT FMOD_System_CreateStream(FMOD_SYSTEM*, const char* path, unsigned in
 FMOD_RESULT FMOD_System_PlaySound(FMOD_SYSTEM*, int channelIndex, FMOD_SOUND* played, int paused,
                                   FMOD_CHANNEL** channel) {
     if (played == nullptr) return 37;
-    const std::string where = channelIndex == -1 ? "" : " on " + std::to_string(channelIndex);
+    const std::string where =
+        channelIndex == FMOD_CHANNEL_ANY ? "" : " on " + std::to_string(channelIndex);
     note("play ", played->path, where, paused != 0 ? " paused" : "");
     *channel = channelOf(played->path);
     return 0;
@@ -125,7 +126,7 @@ FMOD_RESULT FMOD_Channel_SetPaused(FMOD_CHANNEL* channel, int paused) {
 }
 
 FMOD_RESULT FMOD_Sound_GetLength(FMOD_SOUND* of, unsigned int* length, unsigned int unit) {
-    if (of == nullptr || unit != 1) return 37;
+    if (of == nullptr || unit != FMOD_LENGTH_MS) return 37;
     *length = sound().songLength;
     return 0;
 }

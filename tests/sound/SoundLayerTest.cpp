@@ -26,7 +26,6 @@ namespace fs = boost::filesystem;
 
 constexpr int rate = 44100;
 constexpr double pi = 3.141592653589793;
-constexpr unsigned int sample_mode = 0x4149, stream_mode = 64;
 constexpr int no_updates = 0;
 
 struct Wave {
@@ -130,7 +129,7 @@ protected:
     struct Playing {
         explicit Playing(const std::string& path, bool isSong = true) {
             const auto create = isSong ? FMOD_System_CreateStream : FMOD_System_CreateSound;
-            const unsigned int mode = isSong ? stream_mode : sample_mode;
+            const unsigned int mode = isSong ? FMOD_MODE_STREAM : FMOD_MODE_EFFECT;
             EXPECT_EQ(create(system, path.c_str(), mode, nullptr, &sound), FMOD_OK) << path;
             channel = play(sound);
         }
@@ -149,7 +148,7 @@ protected:
     /// What opening a file for one of the two uses gives.
     static FMOD_RESULT codeOf(decltype(FMOD_System_CreateSound) create, const char* path) {
         FMOD_SOUND* sound = nullptr;
-        const FMOD_RESULT code = create(system, path, stream_mode, nullptr, &sound);
+        const FMOD_RESULT code = create(system, path, FMOD_MODE_STREAM, nullptr, &sound);
         EXPECT_EQ(sound != nullptr, code == FMOD_OK) << path;
         if (sound != nullptr) FMOD_Sound_Release(sound);
         return code;
