@@ -27,7 +27,12 @@ inline void press(quorva::headless::HeadlessGame& run, std::initializer_list<int
 class Field {
 public:
     explicit Field(unsigned short width = 0, unsigned short height = 0) : run(100, width, height) {
-        run.startLevel();
+        startLevel();
+    }
+
+    void startLevel() { ///< also after the end of another
+        while (run.game().level == nullptr)
+            run.startLevel(); // by keys: a last death has left a page that takes one
         level = run.game().level;
         player = level->player;
         physics = run.game().physicsProcessor;

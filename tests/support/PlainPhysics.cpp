@@ -1,14 +1,19 @@
 #include "tests/support/PlainPhysics.h"
 
-#include "Framework/Entity.h"
+#include "Framework/Engine.h"
+#include "Framework/Graphics/GraphicObject.h"
+#include "Framework/Graphics/Stuff/GLine.h"
 #include "Framework/Messages.h"
 #include "Framework/Primitives/Box.h"
 #include "Framework/math/Fuzzy.h"
 #include "Framework/physics/PhysicsObject.h"
 #include "game/Bullet.h"
+#include "game/GTriangle.h"
 #include "game/Marvo.h"
 #include "game/PlayerCharacter.h"
 #include "game/TrapLine.h"
+#include "game/Triangle.h"
+#include "headless/HeadlessGame.h"
 
 #include <algorithm>
 
@@ -52,16 +57,6 @@ bool meets(const TrapLine& line, const Point& b1, const Point& b2) {
     return x >= std::min(a1.x, a2.x) && x <= std::max(a1.x, a2.x);
 }
 
-bool isStopped(const PhysicsObject& body) {
-    if (body.type != shape_triangle) return false;
-    const Point a = cornerOf(body, 0), b = cornerOf(body, 1), c = cornerOf(body, 2);
-    for (const TriLine& known : body.lines) {
-        const TrapLine& line = *known.line;
-        if (meets(line, a, b) || meets(line, a, c) || meets(line, b, c)) return true;
-    }
-    return false;
-}
-
 void touchPlayer(const Entity* a) {
     if (dynamic_cast<const PlayerCharacter*>(a) != nullptr) Marvo::Instance().killPlayer();
 }
@@ -80,9 +75,84 @@ bool joins(const TrapLine* line, const TrapLine* top, const TrapLine* bottom) {
            x <= b.high && x <= t.high;
 }
 
+void swapComponents(const Component* from, Component* to) {
+    for (Component*& component : Engine::Instance().components)
+        if (component == from) component = to;
+}
+
+class PlainLine : public TrapLine {
+public:
+    using TrapLine::receiveMessage;
+    using TrapLine::TrapLine;
+
+    void process() override {
+        if (fading) {
+            fadeStep += 0.01F;
+            fadeScale -= fadeStep;
+            line->setScale(fadeScale);
+            if (fadeScale > 0) return;
+            fakeDone = true;
+            if (bullet != nullptr) bullet->fakeKill();
+            return;
+        }
+        if (!solid && solidDelay++ > 5) solid = true;
+        if (bullet != nullptr) return;
+        if (--lifeTicks == 0) fakeDone = true;
+        if (lifeTicks == 0 || lifeTicks > 74 || --blinkTicks > 4) return;
+        blinkTicks = 8;
+        graphics->setEnabled(!graphics->enabled);
+    }
+
+    void update() override {
+        if (bullet == nullptr) return;
+        end = line->end = bullet->physics->position;
+        if (!bullet->fakeKilled) return;
+        finished = solid = bullet->dead = true;
+        bullet = nullptr;
+    }
+
+    void receiveMessage(const PlayerDead*) override {
+        fading = true;
+        fadeScale = 1.0F;
+        fadeStep = 0.01F;
+    }
+};
+
 } // namespace
 
+PlainPhysics::PlainPhysics(PhysicsProcessor& processor_) : processor(processor_) {
+    MessageHandler<PhysicsLineMessage>::Instance().unsubscribe(&processor);
+    subscribe<PhysicsLineMessage>(this);
+}
+
+PlainPhysics::~PlainPhysics() {
+    subscribe<PhysicsLineMessage>(&processor);
+}
+
+void PlainPhysics::receiveMessage(const PhysicsLineMessage* m) {
+    if (processor.lines.size() > 15) return publish(SoundBad());
+    processor.lines.push_back(Engine::Instance().createEntity<PlainLine>(
+        "Line", m->position, m->bullet, Marvo::Instance().getPlayerLineLength(), m->horizontal));
+    for (Entity* e : processor.entities)
+        e->physics->lines.push_back({processor.lines.back(), {}});
+}
+
+void PlainPhysics::tick(headless::HeadlessGame& run) {
+    swapComponents(&processor, this);
+    run.process();
+    swapComponents(this, &processor);
+}
+
+/// A triangle is as it is drawn.
+void PlainPhysics::takeOutlines() const {
+    for (Entity* e : processor.entities)
+        if (const auto* const triangle = dynamic_cast<Triangle*>(e))
+            e->physics->vertices = triangle->graphic->points;
+}
+
 void PlainPhysics::process() {
+    const auto& components = Engine::Instance().components;
+    if (std::count(components.begin(), components.end(), this) != 0) takeOutlines();
     participants.clear();
     for (Entity* e : processor.entities) {
         const PhysicsObject& body = *e->physics;
@@ -113,6 +183,14 @@ PlainPhysics::Pairs PlainPhysics::pairs(ShapeType first, ShapeType second) const
             else if (b->second == first && a->second == second)
                 found.emplace_back(b->first, a->first);
     return found;
+}
+
+bool PlainPhysics::isStopped(const PhysicsObject& body) const {
+    if (body.type != shape_triangle) return false;
+    const Point a = cornerOf(body, 0), b = cornerOf(body, 1), c = cornerOf(body, 2);
+    return std::any_of(processor.lines.begin(), processor.lines.end(), [&](const TrapLine* line) {
+        return meets(*line, a, b) || meets(*line, a, c) || meets(*line, b, c);
+    });
 }
 
 void PlainPhysics::move() const {
@@ -183,8 +261,11 @@ void PlainPhysics::testTrianglesAndPoints() const {
 void PlainPhysics::retireLines() const {
     auto& lines = processor.lines;
     for (TrapLine* line : lines) {
-        line->updateBullet();
-        if (!line->isFakeDone()) continue;
+        if (line->bullet != nullptr && line->bullet->fakeKilled) {
+            line->line->end = line->bullet->physics->position;
+            line->bullet = nullptr;
+        }
+        if (!line->fakeDone) continue;
         for (Entity* e : processor.entities) {
             auto& known = e->physics->lines;
             known.erase(std::remove(known.begin(), known.end(), TriLine{line, {}}), known.end());
@@ -192,7 +273,7 @@ void PlainPhysics::retireLines() const {
         line->dead = true;
     }
     lines.erase(std::remove_if(lines.begin(), lines.end(),
-                               [](const TrapLine* line) { return line->isFakeDone(); }),
+                               [](const TrapLine* line) { return line->fakeDone; }),
                 lines.end());
 }
 
@@ -243,8 +324,10 @@ void PlainPhysics::testBoxes() const {
             ++count;
         }
         if (count == 0) continue;
-        for (TrapLine* side : square)
-            side->fakeKill(true);
+        for (TrapLine* side : square) {
+            side->fakeDone = true;
+            if (side->bullet != nullptr) side->bullet->fakeKill();
+        }
         Marvo::Instance().killTriangles(primitives::Box(top, bottom, left, right), count);
         return;
     }
