@@ -2,15 +2,21 @@
 """Do the tests notice small faults? Puts them into a copy of the tree, one at a time.
 
     tools/mutants.py --seed S --count N [FOLDER...]
+    tools/mutants.py --again FILE
 
 draws N places from the seed, each line of code as likely as any other, in the folders (Framework,
 game, platform/fmodex and replay unless named), and makes one fault at each: a comparison turned, a
-constant changed, a statement left out, two arguments swapped, a sign. For every fault the copy is built and
-the whole suite run, the quickest tests first, up to the first that fails. Printed is each fault that
-all tests pass, and last "N mutants, K survive, M do not build". A fault that leaves the programs the
-same to the byte is none: another is drawn for it. Some survivors change nothing that can be seen; a
-reader has to say which. The copy is kept in build/mutants, so that the next run has less to build;
-two runs at once want two trees.
+constant changed, a statement left out, two arguments swapped, a sign. For every fault the copy is
+built and the whole suite run, the quickest tests first, up to the first that fails. Printed is each
+fault that all tests pass, and last "N mutants, K survive, M do not build". A fault that leaves the
+programs the same to the byte is none: another is drawn for it. Some survivors change nothing that
+can be seen; a reader has to say which. The copy is kept in build/mutants, so that the next run has
+less to build; two runs at once want two trees.
+
+With --again the faults are those of the lines that a former run has printed, kept in a file: after
+a change of the tests, those that the changed ones had found. A fault whose line has gone is passed
+over. --quick runs but the tests that take no process of their own, about two thirds of all; what
+survives these may still be found by the others.
 """
 
 import argparse
@@ -39,9 +45,11 @@ SLACK_SECONDS = 30  # on top of three times what the same tests take without a f
 
 NUMBER = re.compile(r"(?<![\w.])(\d+\.\d*|\.\d+|\d+)(?:[eE][+-]?\d+)?(?=[uUlLfF]*\b|[^\w.]|$)")
 SWAPS = {  # operators, with their blanks so that templates and pointers are left alone
-    " < ": [" <= ", " > "], " <= ": [" < ", " >= "], " > ": [" >= ", " < "], " >= ": [" > ", " <= "],
+    " < ": [" <= ", " > "], " <= ": [" < ", " >= "],
+    " > ": [" >= ", " < "], " >= ": [" > ", " <= "],
     " == ": [" != "], " != ": [" == "], " && ": [" || "], " || ": [" && "],
-    " + ": [" - "], " - ": [" + "], " += ": [" -= "], " -= ": [" += "], " * ": [" / "], " / ": [" * "],
+    " + ": [" - "], " - ": [" + "], " += ": [" -= "], " -= ": [" += "],
+    " * ": [" / "], " / ": [" * "],
 }
 NOT_A_STATEMENT = re.compile(
     r"^(return|break|continue|using|typedef|class|struct|enum|friend|public|private|protected|case|"
@@ -56,7 +64,7 @@ class Fault:
         self.path, self.line, self.before, self.after = path, line, before, after
 
     def __str__(self):
-        return f"{self.path}:{self.line}: {self.before.strip()}  ->  {self.after.strip() or '(left out)'}"
+        return f"{self.path}:{self.line}: {self.before.strip()}  ->  {self.after.strip()}"
 
 
 def blank_comments_and_strings(text):
@@ -114,13 +122,14 @@ def turned_operators(line, code):
             for other in others:
                 yield line[:at] + other + line[at + len(operator):]
             at = code.find(operator, at + 1)
-    for sign in re.finditer(r"(?<=[(,=] )-(?=[\w(.])|(?<=\()-(?=[\w(.])|(?<=return )-(?=[\w(.])", code):
+    for sign in re.finditer(r"(?:(?<=[(,=] )|(?<=\()|(?<=return ))-(?=[\w(.])", code):
         yield line[:sign.start()] + line[sign.end():]
 
 
 def left_out(line, code, before):
     statement = code.strip()
-    starts_here = before.strip()[-1:] in ("", ";", "{", "}", ":", ")") and not before.strip().startswith("#")
+    last = before.strip()
+    starts_here = last[-1:] in ("", ";", "{", "}", ":", ")") and not last.startswith("#")
     if (starts_here and statement.endswith(";") and re.search(r"[=(]|\+\+|--|^delete\b", statement)
             and not NOT_A_STATEMENT.match(statement) and not DECLARATION.match(statement)
             and statement.count("(") == statement.count(")")):
@@ -149,7 +158,8 @@ class Draw:
                 text = path.read_text()
                 lines, codes = text.split("\n"), blank_comments_and_strings(text).split("\n")
                 relative = path.relative_to(root)
-                self.places += [(relative, n, lines, codes) for n in range(len(lines)) if codes[n].strip()]
+                self.places += [(relative, n, lines, codes)
+                                for n in range(len(lines)) if codes[n].strip()]
         if not self.places:
             sys.exit("mutants.py: there is no C++ in these folders")
 
@@ -166,19 +176,38 @@ class Draw:
         sys.exit("mutants.py: there are not so many different faults in these folders")
 
 
+PRINTED = re.compile(r"(?:[a-z ]*|dies by .*): (\S+):(\d+): (.*)  ->  (.*)")
+
+
+def made_again(root, text):
+    """The faults of what a run has printed, each where its line is now: the nearest to its old place."""
+    for path, line, before, after in PRINTED.findall(text):
+        lines = (root / path).read_text().split("\n") if (root / path).exists() else []
+        places = [n for n, now in enumerate(lines, 1) if now.strip() == before]
+        if not places:
+            print(f"gone: {path}: {before}", flush=True)
+            continue
+        place = min(places, key=lambda n: abs(n - int(line)))
+        indent = lines[place - 1][:-len(lines[place - 1].lstrip())]
+        yield Fault(Path(path), place, lines[place - 1], indent + after)
+
+
 class Copy:
     """A copy of the tree with a build of its own, in which the faults are made."""
 
-    def __init__(self, folder):
+    def __init__(self, folder, quick):
         self.folder, self.build = folder, folder / "build"
         self.renew()
-        self.must(["cmake", "-G", "Ninja", "-B", str(self.build), "-S", str(folder), "-DKOV_TESTS=ON"])
-        self.must(["cmake", "--build", str(self.build)])
-        self.limits, self.slow = {}, "none"
-        self.digests = {name: self.digest(name) for name in WHOLE_PROGRAMS + OTHER_PROGRAMS}
+        self.must(["cmake", "-G", "Ninja", "-B", str(self.build), "-S", str(folder),
+                   "-DKOV_TESTS=ON"])
+        self.limits, self.slow, self.quick = {}, "none", quick
+        programs = WHOLE_PROGRAMS + ([] if quick else OTHER_PROGRAMS)
+        self.must(["cmake", "--build", str(self.build),
+                   *(["--target", *map(lambda name: Path(name).name, programs)] if quick else [])])
+        self.digests = {name: self.digest(name) for name in programs}
         if any(self.fails(program) for program in WHOLE_PROGRAMS) or self.rest_fails():
             sys.exit("mutants.py: the tests fail without any fault")
-        self.slow = self.slow_tests()
+        self.slow = "none" if quick else self.slow_tests()
 
     def renew(self):
         """A file that is the same keeps its date, and so what is built of it."""
@@ -206,9 +235,9 @@ class Copy:
             if are_tests:
                 resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
         with open(self.folder / OUTPUT, "wb") as output:
-            process = subprocess.Popen(command, cwd=self.build if self.build.exists() else self.folder,
-                                       stdout=output, stderr=output, stdin=subprocess.DEVNULL,
-                                       preexec_fn=own_group)
+            cwd = self.build if self.build.exists() else self.folder
+            process = subprocess.Popen(command, cwd=cwd, stdout=output, stderr=output,
+                                       stdin=subprocess.DEVNULL, preexec_fn=own_group)
         try:
             return process.wait(limit)
         except subprocess.TimeoutExpired:
@@ -249,22 +278,25 @@ class Copy:
         """A regular expression, of what CTest has measured: name, runs and seconds a line."""
         log = (self.build / "Testing" / "Temporary" / "CTestCostData.txt").read_text()
         costs = [line.split() for line in log.split("---")[0].splitlines()]
-        return "|".join(re.escape(name) for name, _, seconds in costs if float(seconds) > SLOW_SECONDS)
+        return "|".join(re.escape(name)
+                        for name, _, seconds in costs if float(seconds) > SLOW_SECONDS)
 
     def rest_fails(self):
         """Whether any test fails but those of the programs that have run whole."""
+        if self.quick:
+            return False
         suite = ["ctest", "--stop-on-failure", "-j", str(os.cpu_count()), "-LE", "whole"]
         return not all(self.test(*suite, choice, f"^({self.slow})$") for choice in ("-E", "-R"))
 
     def outcome(self):
-        """"survives", "dies by …", "does not build" or "changes nothing". The programs that run whole come
-        first: they are quick to build and run, and see most faults."""
+        """"survives", "dies by …", "does not build" or "changes nothing". The programs that run
+        whole come first: they are quick to build and run, and see most faults."""
         for program in WHOLE_PROGRAMS:
             if not self.compile("--target", Path(program).name):
                 return "does not build"
             if self.has_changed(program) and self.fails(program):
                 return f"dies by {self.killer()}"
-        if not self.compile():
+        if not self.quick and not self.compile():
             return "does not build"
         if not any(self.has_changed(program) for program in self.digests):
             return "changes nothing"
@@ -284,22 +316,29 @@ class Copy:
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
-    parser.add_argument("--seed", type=int, required=True)
-    parser.add_argument("--count", type=int, required=True, metavar="N")
-    parser.add_argument("--verbose", action="store_true", help="also print the faults that are found, and by which test")
+    parser.add_argument("--seed", type=int)
+    parser.add_argument("--count", type=int, metavar="N")
+    parser.add_argument("--again", type=Path, metavar="FILE", help="what a former run has printed")
+    parser.add_argument("--quick", action="store_true", help="without the slower half of the tests")
+    parser.add_argument("--verbose", action="store_true",
+                        help="also print the faults that are found, and by which test")
     parser.add_argument("folders", nargs="*", default=DEFAULT_FOLDERS, metavar="FOLDER")
     arguments = parser.parse_args()
-    draw = Draw(ROOT, arguments.folders, arguments.seed)
+    if arguments.again is None and None in (arguments.seed, arguments.count):
+        parser.error("--seed and --count, or --again")
+    faults = (made_again(ROOT, arguments.again.read_text()) if arguments.again
+              else iter(Draw(ROOT, arguments.folders, arguments.seed).next, None))
     ends = {"survives": 0, "dies": 0, "does not build": 0}
-    copy = Copy(ROOT / "build" / "mutants")
-    while sum(ends.values()) < arguments.count:
-        fault = draw.next()
+    copy = Copy(ROOT / "build" / "mutants", arguments.quick)
+    for fault in faults:
         end = copy.try_out(fault)
         kind = "dies" if end.startswith("dies") else end
         if kind in ends:
             ends[kind] += 1
         if end == "survives" or arguments.verbose:
             print(f"{end}: {fault}", flush=True)
+        if sum(ends.values()) == arguments.count:
+            break
     print(f"{sum(ends.values())} mutants, {ends['survives']} survive, "
           f"{ends['does not build']} do not build")
 
