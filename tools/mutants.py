@@ -180,7 +180,7 @@ PRINTED = re.compile(r"(?:[a-z ]*|dies by .*): (\S+):(\d+): (.*)  ->  (.*)")
 
 
 def made_again(root, text):
-    """The faults of what a run has printed, each where its line is now: the nearest to its old place."""
+    """The faults that a run has printed, each where its line is now, nearest to its old place."""
     for path, line, before, after in PRINTED.findall(text):
         lines = (root / path).read_text().split("\n") if (root / path).exists() else []
         places = [n for n, now in enumerate(lines, 1) if now.strip() == before]

@@ -173,32 +173,28 @@ TEST_F(InputTest, AxesCountBeyondTheirThresholdUnalike) {
 
 TEST_F(InputTest, EachPlayersAxesAreSetByTheirOwnFunctions) {
     using H = InputHandler;
-    using Input = messages::PlayerInput;
-    using VectorOfInput = math::Vector Input::*;
-    using Axis = double math::Vector::*;
+    H handler;
+    const messages::PlayerInput& input = handler.playerInputs[3];
     const struct {
         void (H::*down)(unsigned short, short);
         void (H::*up)(unsigned short);
-        VectorOfInput vector;
-        Axis axis;
-        const char* held[2]; ///< by a negative and by a positive value
-    } cases[] = {{&H::xDown, &H::xUp, &Input::move, &math::Vector::x, {" left", " right"}},
-                 {&H::yDown, &H::yUp, &Input::move, &math::Vector::y, {" down", " up"}},
-                 {&H::xDown2, &H::xUp2, &Input::fire, &math::Vector::x, {"", ""}},
-                 {&H::yDown2, &H::yUp2, &Input::fire, &math::Vector::y, {"", ""}}};
+        const double& axis;
+        const char* held; ///< from here on, as only keys clear it
+    } cases[] = {{&H::xDown2, &H::xUp2, input.fire.x, ""},
+                 {&H::yDown2, &H::yUp2, input.fire.y, ""},
+                 {&H::xDown, &H::xUp, input.move.x, " right left"},
+                 {&H::yDown, &H::yUp, input.move.y, " right left up down"}};
     for (const auto& c : cases) {
-        for (const int positive : {0, 1}) {
-            H handler;
-            const double& axis = handler.playerInputs[3].*c.vector.*c.axis;
-            (handler.*c.down)(3, positive ? 32767 : -32767);
-            EXPECT_EQ(axis, positive ? 1.0 : -1.0);
-            EXPECT_EQ(heldBy(handler), c.held[positive]);
-            EXPECT_EQ(handler.dirty, (boost::array<bool, 4>{{false, false, false, true}}));
-            (handler.*c.up)(3);
-            EXPECT_EQ(axis, 0.0);
-            EXPECT_DEATH((handler.*c.down)(4, 1), "No such player: 4");
-            EXPECT_DEATH((handler.*c.up)(4), "No such player: 4");
+        for (const short value : {32767, -32767}) {
+            (handler.*c.down)(3, value);
+            EXPECT_EQ(c.axis, value / 32767);
         }
+        EXPECT_EQ(heldBy(handler), c.held);
+        EXPECT_EQ(handler.dirty, (boost::array<bool, 4>{{false, false, false, true}}));
+        (handler.*c.up)(3);
+        EXPECT_EQ(c.axis, 0.0);
+        EXPECT_DEATH((handler.*c.down)(4, 1), "No such player: 4");
+        EXPECT_DEATH((handler.*c.up)(4), "No such player: 4");
     }
 }
 
@@ -235,28 +231,19 @@ TEST_F(InputTest, MenusStepByTheStickWithADelayUpAndDownAlone) {
 }
 
 TEST_F(InputTest, KnowsTheWordsOfKeysAndButtons) {
-    const struct {
-        int first; ///< key, the words' own follow it
-        std::vector<std::string> words;
-    } rows[] = {
-        {SDLK_BACKSPACE, {"BACKSPACE", "TAB"}},
-        {SDLK_RETURN, {"ENTER"}},
-        {SDLK_RETURN, {"return"}},
-        {SDLK_ESCAPE, {"ESCAPE"}},
-        {SDLK_SPACE, {"SPACE"}},
-        {SDLK_0, {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}},
-        {SDLK_SEMICOLON, {";"}},
-        {SDLK_KP0,
-         {"NUM0", "NUM1",  "NUM2", "NUM3",   "NUM4", "NUM5", "NUM6",     "NUM7",     "NUM8",
-          "NUM9", "NUM.",  "NUM/", "NUM*",   "NUM-", "NUM+", "NUMENTER", "num=",     "UP",
-          "DOWN", "RIGHT", "LEFT", "INSERT", "HOME", "END",  "PAGEUP",   "PAGEDOWN", "F1"}},
-        {SDLK_RSHIFT,
-         {"RSHIFT", "LSHIFT", "RCTRL", "LCTRL", "RALT", "LALT", "RMETA", "LMETA", "LWINDOWS",
-          "RWINDOWS"}},
-    };
-    for (const auto& row : rows)
-        for (std::size_t i = 0; i < row.words.size(); ++i)
-            EXPECT_EQ(keyFromWord(row.words[i]), row.first + i) << row.words[i];
+    for (const auto& [word, key] : {std::pair{"ENTER", SDLK_RETURN},
+                                    {"return", SDLK_RETURN},
+                                    {"0", SDLK_0},
+                                    {";", SDLK_SEMICOLON},
+                                    {"NUM0", SDLK_KP0},
+                                    {"NUM.", SDLK_KP_PERIOD},
+                                    {"num=", SDLK_KP_EQUALS},
+                                    {"UP", SDLK_UP},
+                                    {"PAGEDOWN", SDLK_PAGEDOWN},
+                                    {"F1", SDLK_F1},
+                                    {"LMETA", SDLK_LMETA},
+                                    {"RWINDOWS", SDLK_RSUPER}})
+        EXPECT_EQ(keyFromWord(word), key) << word;
     for (char c = 'a'; c <= 'z'; ++c)
         EXPECT_EQ(keyFromWord({c}), c);
     std::size_t known = 0;

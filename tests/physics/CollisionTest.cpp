@@ -85,12 +85,3 @@ TEST_F(CollisionTest, RunsWhatAControllerAsksFor) {
     physics->doGravity();
     EXPECT_DOUBLE_EQ(body(triangle).velocity.y, -6.0 / 30.0);
 }
-
-TEST_F(CollisionTest, RefusesTheSeventeenthLine) {
-    const Count<SoundBad> refused;
-    for (int i = 0; i < 16; ++i)
-        EXPECT_NE(across(i, 0, 1), nullptr);
-    EXPECT_EQ(refused.count, 0);
-    EXPECT_EQ(across(16, 0, 1), nullptr);
-    EXPECT_EQ(refused.count, 1);
-}

@@ -1,4 +1,4 @@
-// The formulas that nothing calls yet, and of the others what seldom happens on a field.
+// The formulas that nothing calls yet; the others are seen at work on fields.
 
 #include "Framework/physics/Geometry.h"
 
@@ -37,21 +37,4 @@ TEST(Geometry, CorrectsAlongTheMinorAxisUnlessThatIsNothing) {
         EXPECT_EQ(getCollisionCorrectionVector(c.a, c.b, work), c.correction) << c.a.x;
         EXPECT_EQ(work, c.work) << c.a.x;
     }
-}
-
-TEST(Geometry, TouchingEndsMeet) {
-    const Point left(-5, 2, 0), right(5, 2, 0), low(3, -5, 0), high(3, 5, 0);
-    const struct {
-        const char* what;
-        Point a1, a2, b1, b2;
-        bool meets;
-    } cases[] = {
-        {"upright edge at the end of a line across", left, right, {5, 0, 0}, {5, 4, 0}, true},
-        {"at its start", right, left, {-5, 0, 0}, {-5, 4, 0}, true},
-        {"past its end", left, right, {5.001, 0, 0}, {5.001, 4, 0}, false},
-        {"sloping edge at the end of an upright line", low, high, {0, 2, 0}, {6, 8, 0}, true},
-        {"past its end", low, high, {0, 2.01, 0}, {6, 8.01, 0}, false},
-    };
-    for (const auto& c : cases)
-        EXPECT_EQ(LinesInterect(c.a1, c.a2, c.b1, c.b2), c.meets) << c.what;
 }
