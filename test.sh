@@ -1,8 +1,9 @@
 #!/bin/sh
 # Builds the tests, if need be with the packages that they take, and runs them: optimised, and
-# under the sanitizers. `./test.sh all` takes a compiler's warnings as errors, and adds recorded games
-# with link-time optimisation, the page in two browsers, the static checks, and a bot that plays for
-# an hour of game time under the sanitizers. Goes on after a failure and ends with a summary.
+# under the sanitizers. `./test.sh all` takes a compiler's warnings as errors, and adds recorded
+# games with link-time optimisation, the page in two browsers, the static checks, and a bot that
+# plays for an hour of game time under the sanitizers. Goes on after a failure and ends with a
+# summary.
 set -u
 cd "$(dirname "$0")" || exit 1
 
@@ -28,7 +29,8 @@ step() { # name, command...
 # Versions of clang-format differ in small things. What others than the tree's own find is shown.
 check_format() {
     find Framework game headless keys packaging platform replay tests tools fuzz bench \
-        \( -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null | xargs -0 clang-format --dry-run --Werror ||
+        \( -name '*.cpp' -o -name '*.h' \) -print0 2>/dev/null |
+        xargs -0 clang-format --dry-run --Werror ||
         ! clang-format --version | grep -q "version $format_version\."
 }
 

@@ -63,7 +63,8 @@ def tick_rows(bench):
         return cost("changingTick/%d/iterations:200" % count)
 
     by = "`kov_bench`"
-    for accuracy, plain in ((10, "worstFieldPlain/10"), (1000, "worstFieldPlain/1000/iterations:3")):
+    for accuracy, plain in ((10, "worstFieldPlain/10"),
+                            (1000, "worstFieldPlain/1000/iterations:3")):
         game = cost("worstField/%d" % accuracy)
         yield ("physics of the worst field, accuracy %d" % accuracy, ms(game),
                "plain loops " + ms(cost(plain)), cost(plain) / game, by)
@@ -195,8 +196,8 @@ def replay_rows():
 
 # The plot
 
-AMOUNTS = (("triangles", "triangles", 1), ("lines", "lines", 2), ("substeps", "sub-steps a tick", 1),
-           ("bursts", "rays", 100))
+AMOUNTS = (("triangles", "triangles", 1), ("lines", "lines", 2),
+           ("substeps", "sub-steps a tick", 1), ("bursts", "rays", 100))
 WIDTH, HEIGHT, GAP, MARGIN = 170, 120, 60, 50
 
 
@@ -292,8 +293,8 @@ def table(rows):
 
 def main():
     bench = benchmarks()
-    rows = [*tick_rows(bench), *elementary_rows(bench), *frame_rows(), *start_rows(), *memory_rows(), *play_rows(),
-            *idle_rows(), *replay_rows(), *page_rows()]
+    rows = [*tick_rows(bench), *elementary_rows(bench), *frame_rows(), *start_rows(),
+            *memory_rows(), *play_rows(), *idle_rows(), *replay_rows(), *page_rows()]
     curves = plot([("ms a tick", growth_of_ticks(bench)), ("ms a frame", growth_of_frames())])
     with open(PLOT, "w", encoding="utf-8") as file:
         file.write(curves)

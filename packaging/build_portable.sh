@@ -1,7 +1,7 @@
 #!/bin/sh
-# Makes build/portable/kov-VERSION-MACHINE.tar.xz: the game with its data and all libraries but those
-# of GL, X, C and C++, to be unpacked anywhere. It runs where the C library is no older than here:
-# make it on the oldest system that it is for.
+# Makes build/portable/kov-VERSION-MACHINE.tar.xz: the game with its data and all libraries but
+# those of GL, X, C and C++, to be unpacked anywhere. It runs where the C library is no older than
+# here: make it on the oldest system that it is for.
 set -eu
 cd "$(dirname "$0")/.."
 
@@ -27,7 +27,8 @@ copy_libraries_of() { # program
         if is_the_systems "$file" || [ -e "$libraries/$file" ]; then continue; fi
         cp -L "$library" "$libraries/$file"
         patchelf --set-rpath "\$ORIGIN" "$libraries/$file"
-        package=$(dpkg-query -S "*/$(basename "$(readlink -f "$library")")" | sed 's/[:,].*//' | head -n 1)
+        package=$(dpkg-query -S "*/$(basename "$(readlink -f "$library")")" |
+            sed 's/[:,].*//' | head -n 1)
         cp "/usr/share/doc/$package/copyright" "$licences/$package"
     done
 }

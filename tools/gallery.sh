@@ -7,7 +7,8 @@ cd "$(dirname "$0")/.."
 
 tools/install_packages.sh build gallery
 cmake -B build/gallery -G Ninja -DCMAKE_BUILD_TYPE=Release -DKOV_GALLERY=ON >/dev/null
-cmake --build build/gallery --target gallery >build/gallery.log || { cat build/gallery.log; exit 1; }
+cmake --build build/gallery --target gallery >build/gallery.log ||
+    { cat build/gallery.log; exit 1; }
 program=$PWD/build/gallery/tools/gallery/gallery
 gallery=$PWD/docs/gallery
 

@@ -82,7 +82,8 @@ run_apt() { # arguments of apt-get
         if [ "$code" -eq 0 ] || ! grep -q 'Could not get lock' "$errors"; then break; fi
         if [ -z "$until" ]; then
             holder=$(sed -n 's/.*held by \(process .*)\).*/\1/p' "$errors")
-            echo "apt is busy: waits for ${holder:-another program}, up to $((patience / 60)) minutes."
+            minutes=$((patience / 60))
+            echo "apt is busy: waits for ${holder:-another program}, up to $minutes minutes."
             until=$(($(date +%s) + patience))
         fi
         left=$((until - $(date +%s)))

@@ -1,7 +1,7 @@
 #!/bin/sh
 # clang-tidy (.clang-tidy) and cppcheck (tools/cppcheck.suppressions) over the program's sources.
-# Takes the compile commands of a build folder: build/release unless named. What runs in a browser is
-# only looked at by clang-tidy if build/wasm is there. Silent if all is well.
+# Takes the compile commands of a build folder: build/release unless named. What runs in a browser
+# is only looked at by clang-tidy if build/wasm is there. Silent if all is well.
 set -eu
 cd "$(dirname "$0")/.."
 build=${1:-build/release}

@@ -1,6 +1,6 @@
 #!/bin/sh
-# Builds the program that verifies kept games in the ways in which a bit could come out otherwise, and
-# plays the games of tests/recordings by each: a line for each build.
+# Builds the program that verifies kept games in the ways in which a bit could come out otherwise,
+# and plays the games of tests/recordings by each: a line for each build.
 #   tools/verify_builds.sh [COMPILER...]    g++ and clang++ if none is named
 # With a cross compiler, TOOLCHAIN names a CMake toolchain file, and RUN what runs the programs.
 set -u
@@ -29,7 +29,8 @@ verify() { # what, command...
 build() { # compiler, options
     rm -rf "$folder/build"
     cmake -S . -B "$folder/build" -G Ninja -DCMAKE_BUILD_TYPE=Release -DCMAKE_CXX_COMPILER="$1" \
-        ${TOOLCHAIN:+-DCMAKE_TOOLCHAIN_FILE="$TOOLCHAIN"} -DCMAKE_CXX_FLAGS="$2" >"$folder/log" 2>&1 &&
+        ${TOOLCHAIN:+-DCMAKE_TOOLCHAIN_FILE="$TOOLCHAIN"} \
+        -DCMAKE_CXX_FLAGS="$2" >"$folder/log" 2>&1 &&
         cmake --build "$folder/build" --target kov-replay-verify >"$folder/log" 2>&1 && return
     failed=1
     echo "$1 $2: doesn't build"
@@ -55,7 +56,8 @@ for compiler in "$@"; do
         verify "$version, $options" ${RUN:-} "$folder/build/replay/kov-replay-verify"
         # Older processors: the C library chooses its functions as it starts.
         [ "$options" != -O2 ] || [ -n "${RUN:-}" ] || verify "$version, $options, FMA hidden" \
-            env GLIBC_TUNABLES=glibc.cpu.hwcaps=-FMA,-FMA4,-AVX2 "$folder/build/replay/kov-replay-verify"
+            env GLIBC_TUNABLES=glibc.cpu.hwcaps=-FMA,-FMA4,-AVX2 \
+            "$folder/build/replay/kov-replay-verify"
     done <"$folder/options"
 done
 exit $failed

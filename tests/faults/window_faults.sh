@@ -25,7 +25,8 @@ expect() {
     kill "-${signal:-TERM}" $pid 2>/dev/null # as a closed window
     wait $pid
     got_code=$?
-    got=$(grep -v -e "$ready" -e "^libGL error:" -e "^glx:" "$folder/said" | sed "s/^\($refused\).*/\1/")
+    got=$(grep -v -e "$ready" -e "^libGL error:" -e "^glx:" "$folder/said" |
+        sed "s/^\($refused\).*/\1/")
     : >"$folder/said"
     [ "$got_code" = "$code" ] && [[ "|$errors|" == *"|$got|"* ]] && return
     printf '%s: exit code %s, not %s; said:\n%s\n' "$what" "$got_code" "$code" "$got"

@@ -14,7 +14,9 @@ double sudo 'exec "$@"'
 double sleep :
 double apt-get 'echo "$@" >>"$CALLS"
 case $(wc -l <"$CALLS") in
-[135]) echo "E: Could not get lock $LOCK. It is held by process 12 (unattended-upgr)" >&2 && exit 100 ;;
+[135])
+    echo "E: Could not get lock $LOCK. It is held by process 12 (unattended-upgr)" >&2
+    exit 100 ;;
 [24]) [ -z "$BROKEN" ] || { echo "E: no network" >&2 && exit 100; } ;;
 esac'
 export CALLS="$folder/calls" LOCK=/var/lib/apt/lists/lock BROKEN=""
@@ -22,7 +24,7 @@ install() { PATH="$folder:$PATH" "$1/tools/install_packages.sh" portable >"$fold
 
 install "$1" || { echo "FAILED: a lock that was let go:" && cat "$folder/said" && failures=1; }
 [ "$(grep -c 'waits for process 12 (unattended-upgr)' "$folder/said")" = 2 ] ||
-    { echo "FAILED: doesn't say once for each step whom it waits for:" && cat "$folder/said" && failures=1; }
+    { echo "FAILED: not once a step whom it waits for:" && cat "$folder/said" && failures=1; }
 grep -q 'DPkg::Lock::Timeout=[123].* install .*patchelf' "$CALLS" ||
     { echo "FAILED: nothing installed:" && cat "$CALLS" && failures=1; }
 rm "$CALLS"

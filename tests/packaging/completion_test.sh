@@ -10,7 +10,8 @@ compopt() { :; } # the real one works nowhere else
 mkdir films && touch game.kovreplay film.mp4
 cat >kov <<'KOV'
 #!/bin/sh
-printf '  -w, --ScreenWidth\t\t=[NUM] Set Height\n  -f, --FullScreen\t\tForces\nLauncher:\n  --manual\t\tOpens\n'
+printf '  -w, --ScreenWidth\t\t=[NUM] Set Height\n  -f, --FullScreen\t\tForces\n'
+printf 'Launcher:\n  --manual\t\tOpens\n'
 KOV
 chmod +x kov
 

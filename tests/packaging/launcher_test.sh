@@ -17,7 +17,8 @@ trap 'chmod -R u+w "$root"; rm -rf "$root"' EXIT
 cd "$root"
 bin=$root/usr/bin
 launcher=$1
-from_bin() { sed -n "s|^$1=.*\\\$here/\\(.*\\)\")|\\1|p" "$launcher"; } # what it looks for, seen from itself
+# What it looks for, seen from itself.
+from_bin() { sed -n "s|^$1=.*\\\$here/\\(.*\\)\")|\\1|p" "$launcher"; }
 mkdir -p "$bin" && mkdir -p "$bin/$(from_bin share)" "$bin/$(from_bin programs)"
 share=$(readlink -f "$bin/$(from_bin share)")
 programs=$(readlink -f "$bin/$(from_bin programs)")
@@ -30,7 +31,8 @@ echo "Up, UP" >"$share/bind1.conf"
 echo manual >"$share/manual.html"
 cat >"$programs/kov" <<'GAME'
 #!/bin/sh
-echo "arguments: $*; colours: $(cat data/one); songs: $(ls Songs | tr '\n' ' '); keys: $(cat bind1.conf)"
+songs=$(ls Songs | tr '\n' ' ')
+echo "arguments: $*; colours: $(cat data/one); songs: $songs; keys: $(cat bind1.conf)"
 eval "${ROUND:-:}"
 GAME
 chmod +x "$programs/kov"
@@ -80,14 +82,16 @@ kov --desktop
 expect "desktop, of a size unknown" "arguments: --FullScreen;"
 
 # What is the player's own outlives an upgrade; what is shipped follows it.
-echo mine >"$home/Songs/mine.ogg" && rm "$home/Songs/one" "$home/data/one" && echo own >"$home/data/one"
-ln -s /media/stick/away.ogg "$home/Songs/away.ogg" && ln -sf "$root/mine/kov/Sounds/one" "$home/Sounds/one"
+echo mine >"$home/Songs/mine.ogg" && rm "$home/Songs/one" "$home/data/one"
+echo own >"$home/data/one" && ln -s /media/stick/away.ogg "$home/Songs/away.ogg"
+ln -sf "$root/mine/kov/Sounds/one" "$home/Sounds/one"
 rm "$home/manual.html" && echo notes >"$home/manual.html"
 echo new >"$share/Songs/two" && rm "$share/fonts/one" && echo "Up, W" >"$share/bind1.conf"
 kov
 expect "upgrade" "colours: own; songs: away.ogg mine.ogg two ; keys: Up, W"
 [ ! -L "$home/fonts/one" ] || fail "a link into nowhere was left"
-[ "$(readlink "$home/Sounds/one")" = "$root/mine/kov/Sounds/one" ] || fail "the player's link was replaced"
+leads() { [ "$(readlink "$home/$1/one")" = "$2" ] || fail "$1: $3"; }
+leads Sounds "$root/mine/kov/Sounds/one" "the player's link was replaced"
 holds "a manual of the player's own" "$home/manual.html" notes
 echo "Up, U" >"$home/bind1.conf" && echo "Up, I" >"$share/bind1.conf"
 kov
@@ -96,7 +100,7 @@ mkdir "$root/a:=b" && cp -r usr "$root/a:=b" && ln -s "$root/a:=b/usr/bin/kov" l
 bin=$root kov -x && fail "no launcher there"
 ROUND="readlink textures/one" kov && "$root/link" -x >out
 expect "through a link, below a colon" "arguments: -x; colours: own"
-[ "$(readlink "$home/textures/one")" = "$root/a:=b/${share#"$root/"}/textures/one" ] || fail "links stayed behind"
+leads textures "$root/a:=b/${share#"$root/"}/textures/one" "links stayed behind"
 mv "$programs/kov" away
 kov && fail "nothing was started, and that is success"
 expect "damaged" "kov: the installation is damaged"
@@ -139,7 +143,8 @@ expect "read-only folder" "$home is read-only"
 expect "read-only score" "$home/s.dat is read-only"
 chmod u+w "$home" "$home/s.dat"
 
-ROUND="echo \"is (process \$PPID)\"; ROUND= '$bin/kov'; : >.kept/lock; '$bin/kov'; kill -9 \$\$" kov || true
+again="ROUND= '$bin/kov'"
+ROUND="echo \"is (process \$PPID)\"; $again; : >.kept/lock; $again; kill -9 \$\$" kov || true
 expect "two games" "kov: a game is running already $(sed -n 's/^is //p' out). One"
 expect "two games, the first has only begun" "kov: a game is running already. One"
 holds "two games" "$home/s.dat" 9999
@@ -149,16 +154,20 @@ expect "the lock ends with a killed game" "arguments: ;"
 # What the game says comes at once, a repeated line once; it gets the launcher's signals, and the
 # launcher ends as it does, with nothing left to be said.
 double uniq 'sleep 0.3; exec /usr/bin/uniq'
-ROUND='for i in 1 2 3 4 5; do echo same; done >&2; echo other >&2; echo same >&2; exit 255' kov && fail "no exit code"
+ROUND='for i in 1 2 3 4 5; do echo same; done >&2; echo other >&2; echo same >&2; exit 255' kov &&
+    fail "no exit code"
 [ "$(sed 1d out | tr '\n' ' ')" = "same other same " ] || { fail "repeated lines:" && cat out; }
 ln -sf /usr/bin/uniq tools/uniq
-perl -e 'exit(system(@ARGV) & 127)' env ROUND='kill -SEGV $$' "$bin/kov" >out 2>&1 && code=0 || code=$?
+perl -e 'exit(system(@ARGV) & 127)' env ROUND='kill -SEGV $$' "$bin/kov" >out 2>&1 &&
+    code=0 || code=$?
 [ "$code" = 11 ] || fail "killed by a signal: $code"
-waits='for s in HUP INT TERM; do trap "echo $s >&2; exit 7" $s; done; echo ready >&2; while :; do sleep 0.05; done'
+waits='for s in HUP INT TERM; do trap "echo $s >&2; exit 7" $s; done; echo ready >&2
+while :; do sleep 0.05; done'
 for case in "HUP -" "INT " "TERM "; do # a closed terminal tells all in front of it
     for folder in "$home" /proc; do
         : >out
-        XDG_DATA_HOME=${folder%/kov} ROUND=$waits setsid env --default-signal=INT "$bin/kov" >out 2>&1 </dev/null &
+        XDG_DATA_HOME=${folder%/kov} ROUND=$waits setsid env --default-signal=INT "$bin/kov" \
+            >out 2>&1 </dev/null &
         soon "not silent until the end" grep -q ready out
         kill -s "${case% *}" -- "${case#* }$!"
         wait $! && code=0 || code=$?
@@ -244,7 +253,8 @@ double notify-send false # nobody listens
 XDG_DATA_HOME="$root/file" ROUND='exit 3' kov || true
 soon "shown by zenity" grep -q "^zenity.*--text=Can't write to.*" shown
 soon "a failed game is shown" grep -q "The game has failed" shown
-: >shown && XDG_DATA_HOME="$root/file" SHELL=/bin/sh script -qec "$bin/kov" /dev/null >out && sleep 0.2
+: >shown
+XDG_DATA_HOME="$root/file" SHELL=/bin/sh script -qec "$bin/kov" /dev/null >out && sleep 0.2
 expect "in a terminal" "can't write to"
 holds "in a terminal" shown ""
 double xdg-open "echo opened \"\$@\""

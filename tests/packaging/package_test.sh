@@ -22,7 +22,9 @@ says game/AboutMenu.cpp "KOV $version"
 
 for language in de es fr it pl pt ru; do
     says packaging/kov-replay.desktop "Comment[$language]="
-    for key in GenericName Comment Keywords; do says packaging/kov.desktop "${key}[$language]="; done
+    for key in GenericName Comment Keywords; do
+        says packaging/kov.desktop "${key}[$language]="
+    done
     [ "$(grep -c "^Name\[$language\]=" packaging/kov.desktop)" -eq 5 ] ||
         { echo "FAILED: actions in $language" && failures=1; }
 done

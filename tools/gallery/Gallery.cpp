@@ -11,7 +11,6 @@
 #include "headless/HeadlessGame.h"
 #include "tools/gallery/Picture.h"
 #include "tools/gallery/Player.h"
-#include "tools/gallery/Rays.h"
 #include "tools/gallery/Scene.h"
 #include "tools/gallery/Stage.h"
 
@@ -28,7 +27,7 @@ using gallery::Scene;
 namespace {
 
 // In ticks.
-constexpr unsigned int ten_minutes = 20000, measure_interval = 50, late_tick = 9000;
+constexpr unsigned int ten_minutes = 20000, late_tick = 9000;
 constexpr unsigned int time_in_menu = 5;     ///< the clock at the start of a level seeds its game
 constexpr unsigned int harmless_start = 101; ///< the cube blinks so long
 constexpr unsigned int look_about = 25;      ///< the triangles turn towards the cube meanwhile
@@ -54,7 +53,6 @@ public:
     void death();
     void late();
     void verdicts();
-    void rays();
 
 private:
     Picture shot() const { return Picture::ofScreen(width, height); }
@@ -232,14 +230,6 @@ void Gallery::showEnd(const std::string& name) {
     save(name);
 }
 
-void Gallery::rays() {
-    startGame();
-    gallery::Rays measured(run, width, height);
-    for (unsigned int tick = 1; tick <= ten_minutes && playLongTick(); ++tick)
-        if (tick % measure_interval == 0) measured.measure();
-    measured.report();
-}
-
 const struct {
     const char* name;
     void (Gallery::*play)();
@@ -253,7 +243,6 @@ const struct {
     {"death", &Gallery::death, "a moment after a death"},
     {"late", &Gallery::late, "the fullest field of ten minutes"},
     {"verdicts", &Gallery::verdicts, "the page after a game, with a record and without"},
-    {"rays", &Gallery::rays, "no picture: prints what the rays are of ten minutes"},
 };
 
 int usage() {

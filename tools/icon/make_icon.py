@@ -117,7 +117,8 @@ def bmp(rows, size):
 
 def png(rows, size):
     def chunk(kind, data):
-        return struct.pack(">I", len(data)) + kind + data + struct.pack(">I", zlib.crc32(kind + data))
+        return (struct.pack(">I", len(data)) + kind + data
+                + struct.pack(">I", zlib.crc32(kind + data)))
 
     body = b"".join(b"\0" + bytes(v for pixel in row for v in pixel) for row in rows)
     header = struct.pack(">IIBBBBB", size, size, 8, 6, 0, 0, 0)
@@ -138,10 +139,12 @@ def svg(logo):
     lines = f"M{place(top)}L{place(bottom)} M{place(upper)}L{place(tip)}L{place(lower)}"
     triangle = "L".join(place(p) for p in arrow)
     side = 2 * REACH
-    return f"""<svg xmlns="http://www.w3.org/2000/svg" width="256" height="256" viewBox="0 0 {side} {side}">
+    box = f'viewBox="0 0 {side} {side}"'
+    ends = 'stroke-linejoin="round" fill="none"'
+    return f"""<svg xmlns="http://www.w3.org/2000/svg" width="256" height="256" {box}>
 <rect width="{side}" height="{side}" rx="{CORNER}" fill="{colour(PLATE)}"/>
 <path d="M{triangle}Z" fill="{colour(PREY)}"/>
-<path d="{lines}" stroke="{colour(LINE)}" stroke-width="{2 * HALF_STROKE}" stroke-linejoin="round" fill="none"/>
+<path d="{lines}" stroke="{colour(LINE)}" stroke-width="{2 * HALF_STROKE}" {ends}/>
 </svg>
 """
 

@@ -62,11 +62,13 @@ class Song:
     mix: dict = dataclasses.field(default_factory=dict)
 
 
-MIX = {"drums": 0.85, "bass": 0.62, "pad": 0.5, "arp": 0.54, "lead": 0.54, "counter": 0.36, "noise": 0.4}
+MIX = {"drums": 0.85, "bass": 0.62, "pad": 0.5, "arp": 0.54, "lead": 0.54, "counter": 0.36,
+       "noise": 0.4}
 ECHO = {"arp": 0.3, "lead": 0.26, "counter": 0.2}  # sent to the echo
 ROOM = {"pad": 0.25, "arp": 0.14, "lead": 0.2, "counter": 0.3, "noise": 0.2, "drums": 0.035}
 FILLS = {
-    "toms": {"snare": "....x...x.......", "high": "..........xx....", "mid": "............xx..", "low": "..............xx"},
+    "toms": {"snare": "....x...x.......", "high": "..........xx....", "mid": "............xx..",
+             "low": "..............xx"},
     "roll": {"snare": "x.o.x.o.x.oox.xx"},
 }
 

@@ -27,7 +27,8 @@ def envelope(t, length, attack, release):
     return rise * fall * math.exp(-1.2 * t / length)
 
 
-def voice(start, length, pitch, level=1.0, attack=0.005, release=0.05, harmonics=(1.0,), wobble=0.0):
+def voice(start, length, pitch, level=1.0, attack=0.005, release=0.05, harmonics=(1.0,),
+          wobble=0.0):
     """Samples of one voice; `pitch` gives Hz by the share of its time that has gone."""
     samples = [0.0] * int((start + length) * RATE + 1)
     phase = 0.0
@@ -110,7 +111,8 @@ def effects(rng):
         noise(rng, 0, 0.05, 0.9, glide(3000, 600), 0.002, 0.04),
     ], -21.5
     yield "square", (  # a major chord climbs and rings
-        notes([523.25, 659.26, 783.99, 1046.5], 0.07, 0.5, attack=0.004, release=0.3, harmonics=SOFT)
+        notes([523.25, 659.26, 783.99, 1046.5], 0.07, 0.5, attack=0.004, release=0.3,
+              harmonics=SOFT)
         + [voice(0.28, 0.7, steady(p), 0.4, 0.004, 0.5, SOFT, 0.003) for p in (1318.5, 1568.0)]
     ), -10.5
     yield "alive", [  # octaves and a fifth rise together
@@ -130,12 +132,15 @@ def effects(rng):
         voice(0, 0.9, glide(98, 784), 0.5, 0.1, 0.4, SOFT),
     ], -10.5
     yield "Immune", [  # high partials that beat and flicker, quicker and quicker
-        pulsing(voice(0, 1.1, steady(p * tune), 0.5, 0.08, 0.5, SOFT, w), lambda s, r=r: r + 9 * s, 0.75)
-        for p, w, r in [(587.33, 0.004, 5), (880.0, 0.006, 7), (1174.66, 0.008, 8), (2349.3, 0.01, 11)]
+        pulsing(voice(0, 1.1, steady(p * tune), 0.5, 0.08, 0.5, SOFT, w),
+                lambda s, r=r: r + 9 * s, 0.75)
+        for p, w, r in [(587.33, 0.004, 5), (880.0, 0.006, 7), (1174.66, 0.008, 8),
+                        (2349.3, 0.01, 11)]
         for tune in (0.996, 1.004)
     ], -11.5
     yield "Pup", (  # quick glassy notes up, two left ringing
-        notes([1318.5, 1568.0, 1975.5, 2637.0], 0.045, 0.2, attack=0.002, release=0.14, harmonics=GLASS)
+        notes([1318.5, 1568.0, 1975.5, 2637.0], 0.045, 0.2, attack=0.002, release=0.14,
+              harmonics=GLASS)
         + [voice(0.18, 0.34, steady(p), 0.6, 0.002, 0.3, GLASS) for p in (3136.0, 3951.1)]
     ), -12.0
     yield "Bad", [  # two buzzes a semitone rub, the second lower
@@ -143,7 +148,8 @@ def effects(rng):
         for start, length, ratio in ((0.0, 0.15, 1.0), (0.18, 0.26, 0.84))
         for p in (138.6, 146.8)
     ], -13.0
-    yield "Pause", notes([440.0, 440.0], 0.14, 0.13, attack=0.006, release=0.07, harmonics=SOFT), -13.0
+    yield "Pause", notes([440.0, 440.0], 0.14, 0.13, attack=0.006, release=0.07,
+                         harmonics=SOFT), -13.0
 
 
 def filtered(samples, feed, back):

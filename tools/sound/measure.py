@@ -3,9 +3,10 @@
 
     measure.py file ...
 
-Length in seconds; peaks in dBFS of the left side's samples and dBTP between them on both; loudness: integrated, and the
-greatest of any 400 ms with silence around the file, so that a short sound counts by its energy;
-mono is taken as heard from both sides. Ends: the greatest of the first and the last two samples, of 32768.
+Length in seconds; peaks in dBFS of the left side's samples and dBTP between them on both;
+loudness: integrated, and the greatest of any 400 ms with silence around the file, so that a short
+sound counts by its energy; mono is taken as heard from both sides. Ends: the greatest of the first
+and the last two samples, of 32768.
 """
 
 import array
@@ -33,7 +34,8 @@ def decoded(path):
 
 def loudness(path):
     """Integrated and greatest momentary loudness in LUFS, true peak in dBTP."""
-    report = ffmpeg(path, "-af", f"{QUIET},ebur128=peak=true:dualmono=true:framelog=info", "-f", "null")[1]
+    meter = "ebur128=peak=true:dualmono=true:framelog=info"
+    report = ffmpeg(path, "-af", f"{QUIET},{meter}", "-f", "null")[1]
     momentary = max(float(m) for m in re.findall(r"M: *(-?[\d.]+)", report))
     summary = report[report.rindex("Summary:") :]
     return (

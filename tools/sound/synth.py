@@ -36,7 +36,8 @@ def both(mono, pan=0.0):
 def cycles(shape, partials, resonance):
     """A cycle of a wave of so many partials; each row lets a quarter octave more through."""
     n = np.arange(1, partials + 1)
-    levels = {"saw": 1 / n, "square": (n % 2) / n * 1.3, "pulse": np.sin(n * np.pi * 0.22) / n * 1.5}
+    levels = {"saw": 1 / n, "square": (n % 2) / n * 1.3,
+              "pulse": np.sin(n * np.pi * 0.22) / n * 1.5}
     rows = []
     for row in range(ROWS):
         x = n / 2.0 ** (row / ROWS_PER_OCTAVE - 1)
@@ -172,7 +173,8 @@ def decaying(seconds, life, attack=0.0015):
 
 def kick(deep=46.0, life=0.16):
     t = clock(0.42)
-    sweep = deep * t + 115 * 0.028 * (1 - np.exp(-t / 0.028)) + 180 * 0.006 * (1 - np.exp(-t / 0.006))
+    sweep = (deep * t + 115 * 0.028 * (1 - np.exp(-t / 0.028))
+             + 180 * 0.006 * (1 - np.exp(-t / 0.006)))
     body = np.tanh(1.8 * np.sin(2 * np.pi * sweep) * decaying(0.42, life)) * 0.95
     click = hiss(0.42, 1500, 7000, 1, 1)[0] * decaying(0.42, 0.006) * 0.35
     return both(body + click) * 0.85
