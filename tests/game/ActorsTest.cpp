@@ -119,18 +119,6 @@ TEST_F(ActorsTest, BulletsAreFiredByCallInTheGunsDirectionsAlone) {
     EXPECT_EQ(countOf<Bullet>(), 8);
 }
 
-TEST_F(ActorsTest, ALineWhoseBulletEndsAfterTheTickKillsItOutright) {
-    fire(0, 1);
-    TrapLine* const line = newest<TrapLine>();
-    line->fakeKill(true);
-    body(newest<Bullet>()).position = math::Point(0, 3, 0);
-    line->update();
-    EXPECT_TRUE(newest<Bullet>()->dead);
-    EXPECT_EQ(line->bullet, nullptr);
-    EXPECT_EQ(line->end, math::Point(0, 3, 0));
-    EXPECT_TRUE(line->finished);
-}
-
 TEST_F(ActorsTest, ABombMayRunOutUnderAPlayerThatLiesDead) {
     body(player).isActive = true;
     auto* const bomb = engine().createEntity<BombClear>("Bomb", math::Point(0.5, 0, 0));
