@@ -95,7 +95,7 @@ TEST_F(AudioTest, LoadsTheEffectsThatShipAndPlaysAnotherForEachMessage) {
     FModMP3Input audio;
     const std::string loads = sound().take();
     activate({{"EffectsVolume", 50}});
-    std::string expected = "init 40 0; ", last;
+    std::string expected = "init 40 0; ";
     std::set<std::string> played;
     for (const auto send : effects) {
         send();

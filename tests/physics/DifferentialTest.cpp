@@ -227,7 +227,6 @@ std::string playedOut(unsigned int seed, bool plain) {
             maker.act();
             loops ? loops->tick(field.run) : field.run.process();
         } else {
-            swapOneTriangle(field);
             loops ? loops->process() : processor.process();
         }
         out << "tick " << tick << ", " << processor.stepCount << " sub-steps\n";
@@ -240,6 +239,7 @@ std::string playedOut(unsigned int seed, bool plain) {
         addObjects(out, field);
         if (refused.count != 0) out << "refused " << refused.count << '\n';
         field.run.frame();
+        if (!maker.lively) swapOneTriangle(field);
         if (field.run.game().level == nullptr) out << "level ended\n";
     }
     return out.str();
