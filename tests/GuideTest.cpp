@@ -14,6 +14,7 @@
 
 #include <regex>
 #include <set>
+#include <sstream>
 
 using namespace quorva;
 
@@ -78,6 +79,17 @@ TEST(Guide, ASettingIsInTheManualsAndCounted) {
     expect(manual, "All " + count + " settings", "manual.html");
     expect(contentsOf(root + "game/AboutMenu.cpp"),
            inWords(in_menu) + " of the " + count + " settings", "game/AboutMenu.cpp");
+}
+
+TEST(Guide, AColourIsInBothPalettes) {
+    const auto namesIn = [](const char* file) {
+        std::set<std::string> names;
+        std::istringstream text(contentsOf(root + file));
+        for (std::string line; std::getline(text, line);)
+            names.insert(line.substr(0, line.find(',')));
+        return names;
+    };
+    EXPECT_EQ(namesIn("data/Colour.kov"), namesIn("data/Colour-contrast.kov"));
 }
 
 TEST(Guide, AnEntityHasItsStateInTheHash) {
