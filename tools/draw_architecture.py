@@ -100,12 +100,17 @@ def room_of(path):
     return room if room.reach(path) else None
 
 
-def sources():
-    for path in sorted(ROOT.rglob("*")):
-        parts = path.relative_to(ROOT).parts
-        if parts[0] == "build" or any(p.startswith(".") or p == "node_modules" for p in parts):
-            continue
-        if path.suffix in SOURCES and path.is_file():
+def is_made(path):
+    """Whether a folder holds what a build has made, or a tool keeps."""
+    return (path == ROOT / "build" or (path / "CMakeCache.txt").exists() or
+            path.name.startswith(".") or path.name in ("CMakeFiles", "node_modules"))
+
+
+def sources(folder=ROOT):
+    for path in sorted(folder.iterdir()):
+        if path.is_dir() and not path.is_symlink() and not is_made(path):
+            yield from sources(path)
+        elif path.suffix in SOURCES and path.is_file():
             yield path
 
 
