@@ -154,7 +154,7 @@ void ConfigClass::saveConfig() {
     const GameInfoClass& info = GameInfo::Instance();
     std::ostringstream out;
     out << "#Config file for: " << info.title << ". v." << info.version << '\n';
-    for (const auto& [place, line] : lines)
+    for (const auto& [number, line] : lines)
         out << line << '\n';
     out << "#eof\n";
     utility::replaceContents(info.configFile, out.str());

@@ -41,7 +41,7 @@ bool writeAll(int file, const std::string& contents) {
 }
 
 /// Gives a new file the owner and the permissions of the file that it is to replace, if any.
-bool dress(int file, const struct stat* replaced) {
+bool copyOwnerAndMode(int file, const struct stat* replaced) {
     if (replaced == nullptr) return fchmod(file, newFileMode()) == 0;
     struct stat own = {};
     if (fstat(file, &own) != 0) return false;
@@ -56,7 +56,7 @@ bool exchange(const std::string& path, const std::string& contents, const struct
     const int file = mkostemp(name.data(), O_CLOEXEC);
     if (file < 0) return false;
     // On the disk before its name is: a crash must not leave the name with nothing behind it.
-    bool done = writeAll(file, contents) && dress(file, replaced) && fsync(file) == 0;
+    bool done = writeAll(file, contents) && copyOwnerAndMode(file, replaced) && fsync(file) == 0;
     done = close(file) == 0 && done;
     done = done && std::rename(name.c_str(), path.c_str()) == 0;
     if (!done) unlink(name.c_str());

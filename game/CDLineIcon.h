@@ -2,7 +2,7 @@
 
 #include "Framework/Graphics/Shape.h"
 
-/// Sign of the cooldown power-ups: a small square.
+/// The icon of the cooldown power-ups: a small square.
 class CDLineIcon : public quorva::graphics::Shape {
 public:
     void render() override;

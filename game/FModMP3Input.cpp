@@ -57,23 +57,6 @@ FModMP3Input::FModMP3Input() : lastSongID(no_song) {
     loadEffects();
 }
 
-void FModMP3Input::subscribeToAll() {
-    subscribe<PlaySong>(this);
-    subscribe<StopSong>(this);
-    subscribe<PauseGame>(this);
-    subscribe<SoundBullet>(this);
-    subscribe<SoundBuletHit>(this);
-    subscribe<SoundSquare>(this);
-    subscribe<SoundAlive>(this);
-    subscribe<SoundDeath>(this);
-    subscribe<SoundClearBomb>(this);
-    subscribe<SoundImmuneBomb>(this);
-    subscribe<SoundPup>(this);
-    subscribe<SoundBad>(this);
-    subscribe<SoundPause>(this);
-    subscribe<messages::ResetAudio>(this);
-}
-
 void FModMP3Input::loadEffects() {
     for (const auto& effect : effects) {
         FMOD_SOUND*& sound = this->*effect.sound;

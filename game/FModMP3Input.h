@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Framework/Component.h"
-#include "Framework/MessageInterface.h"
+#include "Framework/MessageReceiver.h"
 #include "Framework/Messages.h"
 #include "platform/fmodex/fmodex.h"
 
@@ -12,21 +12,12 @@
 
 /// Plays all sound: an effect for each effect's message, and the files of the song folder as an
 /// endless random sequence, which pauses with the game.
-class FModMP3Input : public quorva::Component,
-                     public quorva::MessageInterface<PlaySong>,
-                     public quorva::MessageInterface<StopSong>,
-                     public quorva::MessageInterface<PauseGame>,
-                     public quorva::MessageInterface<SoundBullet>,
-                     public quorva::MessageInterface<SoundBuletHit>,
-                     public quorva::MessageInterface<SoundSquare>,
-                     public quorva::MessageInterface<SoundAlive>,
-                     public quorva::MessageInterface<SoundDeath>,
-                     public quorva::MessageInterface<SoundClearBomb>,
-                     public quorva::MessageInterface<SoundImmuneBomb>,
-                     public quorva::MessageInterface<SoundPup>,
-                     public quorva::MessageInterface<SoundBad>,
-                     public quorva::MessageInterface<SoundPause>,
-                     public quorva::MessageInterface<quorva::messages::ResetAudio> {
+class FModMP3Input
+    : public quorva::Component,
+      public quorva::MessageReceiver<PlaySong, StopSong, PauseGame, SoundBullet, SoundBuletHit,
+                                     SoundSquare, SoundAlive, SoundDeath, SoundClearBomb,
+                                     SoundImmuneBomb, SoundPup, SoundBad, SoundPause,
+                                     quorva::messages::ResetAudio> {
 public:
     FModMP3Input(); ///< an effect that can't be loaded is reported and stays silent
 
@@ -86,7 +77,6 @@ public:
     bool songPaused = false; ///< as the last PauseGame said, until a song is stopped or started
 
 private:
-    void subscribeToAll();
     void loadEffects();
     void playEffect(FMOD_SOUND* sound);
     /// ms since the song's end, below 0 before it.

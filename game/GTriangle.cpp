@@ -1,7 +1,7 @@
 #include "game/GTriangle.h"
 
 #include "Framework/Graphics/Draw.h"
-#include "Framework/math/LineWidth.h"
+#include "Framework/Graphics/LineWidth.h"
 
 using namespace quorva;
 using namespace quorva::graphics;

@@ -22,12 +22,7 @@ const math::Vector gravity(0.0, -6.0, 0.0); // without effect: the physics never
 } // namespace
 
 GameBase::GameBase() {
-    subscribe<messages::EndLevel>(this);
-    subscribe<messages::LoadLevel>(this);
-    subscribe<messages::MenuLoad>(this);
-    subscribe<messages::MenuUnLoad>(this);
-    subscribe<messages::EndGame>(this);
-    subscribe<PlayerDead>(this);
+    subscribeToAll();
 
     renderer = new graphics::Renderer(nullptr);
     inputHandler = new input::InputHandler;

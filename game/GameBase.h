@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Framework/Game.h"
-#include "Framework/MessageInterface.h"
+#include "Framework/MessageReceiver.h"
 #include "Framework/Messages.h"
 
 class FModMP3Input;
@@ -25,13 +25,11 @@ class PhysicsProcessor;
 
 /// The one game object that `main` makes. It owns the components and, by choosing the active ones,
 /// switches between menu and level. It holds no rules of play.
-class GameBase : public quorva::Game,
-                 public quorva::MessageInterface<quorva::messages::EndLevel>,
-                 public quorva::MessageInterface<quorva::messages::LoadLevel>,
-                 public quorva::MessageInterface<quorva::messages::MenuLoad>,
-                 public quorva::MessageInterface<quorva::messages::MenuUnLoad>,
-                 public quorva::MessageInterface<quorva::messages::EndGame>,
-                 public quorva::MessageInterface<PlayerDead> {
+class GameBase
+    : public quorva::Game,
+      public quorva::MessageReceiver<quorva::messages::EndLevel, quorva::messages::LoadLevel,
+                                     quorva::messages::MenuLoad, quorva::messages::MenuUnLoad,
+                                     quorva::messages::EndGame, PlayerDead> {
 public:
     GameBase(); ///< opens the window, the main menu and the key table
     ~GameBase() override;

@@ -56,8 +56,7 @@ math::Point dropPoint() {
 } // namespace
 
 GameLevel::GameLevel() : spawnBase(first_spawn_base) {
-    subscribe<PlayerDead>(this);
-    subscribe<messages::PlayerInput>(this);
+    subscribeToAll();
     // The order below gives the ids, and with them the order of every tick: the level comes last.
     player = Engine::Instance().createEntity<PlayerCharacter>("Player", position);
     Marvo::Instance().reset();
@@ -137,21 +136,21 @@ void GameLevel::raiseDifficulty() {
 void GameLevel::dropBomb() {
     if (++ticksSinceBomb < bomb_interval) return;
     ticksSinceBomb = 0;
-    const math::Point place = dropPoint();
+    const math::Point point = dropPoint();
     if (draw() >= 0.5)
-        Engine::Instance().createEntity<BombClear>("Clear Bomb", place);
+        Engine::Instance().createEntity<BombClear>("Clear Bomb", point);
     else
-        Engine::Instance().createEntity<BombImmune>("Immune Bomb", place);
+        Engine::Instance().createEntity<BombImmune>("Immune Bomb", point);
 }
 
 void GameLevel::dropPowerUp() {
     if (trianglesSincePowerUp < triangles_per_power_up) return;
     const bool longerLines = draw() < 0.5;
-    const math::Point place = dropPoint();
+    const math::Point point = dropPoint();
     if (longerLines)
-        Engine::Instance().createEntity<PupLine>("Line Powerup", place);
+        Engine::Instance().createEntity<PupLine>("Line Powerup", point);
     else
-        Engine::Instance().createEntity<PupCooldown>("Cooldown Powerup", place);
+        Engine::Instance().createEntity<PupCooldown>("Cooldown Powerup", point);
     trianglesSincePowerUp = 0;
 }
 
@@ -210,11 +209,11 @@ double GameLevel::spawnSize() const {
 }
 
 void GameLevel::spawnTriangle() {
-    const math::Point place = spawnPoint();
+    const math::Point point = spawnPoint();
     const double speed = spawnSpeed();
     const double size = spawnSize();
     ++trianglesSincePowerUp;
-    Engine::Instance().createEntity<Triangle>("Triangle", place, speed, size);
+    Engine::Instance().createEntity<Triangle>("Triangle", point, speed, size);
     ticksSinceSpawn = 0;
 }
 

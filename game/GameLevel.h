@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Framework/Entity.h"
-#include "Framework/MessageInterface.h"
+#include "Framework/MessageReceiver.h"
 #include "Framework/Messages.h"
 
 #include <string>
@@ -20,8 +20,7 @@ class GWord;
 /// curve, keeps the display up to date, toggles the pause. There is no next level: the level
 /// number is a step of difficulty, which time raises.
 class GameLevel : public quorva::Entity,
-                  public quorva::MessageInterface<PlayerDead>,
-                  public quorva::MessageInterface<quorva::messages::PlayerInput> {
+                  public quorva::MessageReceiver<PlayerDead, quorva::messages::PlayerInput> {
 public:
     GameLevel();
 

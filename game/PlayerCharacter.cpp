@@ -74,9 +74,7 @@ void clampTo(double& x, double& z, double low, double high) {
 PlayerCharacter::PlayerCharacter(const math::Point& position)
     : invulnerableTicks(invulnerable_duration), blinkTicks(blink_interval),
       lineLength(first_line_length), cooldown(first_cooldown) {
-    subscribe<messages::PlayerInput>(this);
-    subscribe<messages::EndLevel>(this);
-    subscribe<PlayerDead>(this);
+    subscribeToAll();
     setupPhysics(position);
     setupGraphics();
     for (unsigned int i = 0; i < arrows.size(); ++i)

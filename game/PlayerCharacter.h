@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Framework/Entity.h"
-#include "Framework/MessageInterface.h"
+#include "Framework/MessageReceiver.h"
 #include "Framework/Messages.h"
 
 #include <boost/array.hpp>
@@ -17,9 +17,8 @@ class Colour;
 /// It holds the figures that power-ups improve, and runs the sequence of a death: a spell at the
 /// centre, deaf to input, then a spell of invulnerability.
 class PlayerCharacter : public quorva::Entity,
-                        public quorva::MessageInterface<quorva::messages::PlayerInput>,
-                        public quorva::MessageInterface<quorva::messages::EndLevel>,
-                        public quorva::MessageInterface<PlayerDead> {
+                        public quorva::MessageReceiver<quorva::messages::PlayerInput,
+                                                       quorva::messages::EndLevel, PlayerDead> {
 public:
     /// Directions of fire, in the order in which their timers run.
     enum Gun { gun_right, gun_left, gun_up, gun_down, gun_count };

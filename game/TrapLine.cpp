@@ -23,8 +23,7 @@ TrapLine::TrapLine(const math::Point& start_, Bullet* bullet_, unsigned short li
                    bool horizontal_)
     : start(start_), bullet(bullet_), lifeTicks(lifeTicks_), horizontal(horizontal_),
       blinkTicks(blink_start) {
-    subscribe<messages::EndLevel>(this);
-    subscribe<PlayerDead>(this);
+    subscribeToAll();
     physics = new physics::PhysicsObject(start, true, false, true, true);
 
     graphics::RenderableThing* const base = getGraphics()->getBaseLayer();

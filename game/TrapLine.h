@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Framework/Entity.h"
-#include "Framework/MessageInterface.h"
+#include "Framework/MessageReceiver.h"
 #include "Framework/Messages.h"
 
 class Bullet;
@@ -16,8 +16,7 @@ class GLine;
 /// 4. Time, a rectangle that pays out (fakeKill) or the fading after a death sets `fakeDone`.
 /// 5. The next sub-step takes it out of the physics and sets `dead`; the engine deletes it.
 class TrapLine : public quorva::Entity,
-                 public quorva::MessageInterface<quorva::messages::EndLevel>,
-                 public quorva::MessageInterface<PlayerDead> {
+                 public quorva::MessageReceiver<quorva::messages::EndLevel, PlayerDead> {
 public:
     /// @param lifeTicks ticks to stand once the bullet has gone
     TrapLine(const quorva::math::Point& start, Bullet* bullet, unsigned short lifeTicks,

@@ -54,9 +54,7 @@ Triangle::Triangle(const math::Point& position, double speed_, double size_)
     : speed(speed_), size(size_) {
     if (!seeded) Rand.seed(Timer::Instance().getTicks());
     seeded = true;
-    subscribe<messages::EndLevel>(this);
-    subscribe<KillAllTriangles>(this);
-    subscribe<PlayerDead>(this);
+    subscribeToAll();
     physics = new physics::PhysicsObject(position, true, false, true, true);
     physics->type = physics::shape_triangle;
     normalColour = &ColourManager::Instance().getV("Badguy Colour");

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Framework/Entity.h"
-#include "Framework/MessageInterface.h"
+#include "Framework/MessageReceiver.h"
 #include "Framework/Messages.h"
 
 class GTriangle;
@@ -13,10 +13,9 @@ class Colour;
 /// The enemy. It creeps after the player like an inchworm: the base closes up on the nose, it
 /// rests, the nose reaches forward, it rests; and it turns towards the player by a little each
 /// tick. Lines stop it, bullets hold it for a moment, a closed rectangle kills it.
-class Triangle : public quorva::Entity,
-                 public quorva::MessageInterface<quorva::messages::EndLevel>,
-                 public quorva::MessageInterface<PlayerDead>,
-                 public quorva::MessageInterface<KillAllTriangles> {
+class Triangle
+    : public quorva::Entity,
+      public quorva::MessageReceiver<quorva::messages::EndLevel, KillAllTriangles, PlayerDead> {
 public:
     enum State : std::uint32_t { expanding, contracting, restAfterContract, restAfterExpand };
 

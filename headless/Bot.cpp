@@ -28,19 +28,20 @@ constexpr double edge_margin = 1.0; // distance kept from the edges of the field
 constexpr double arrival = 0.3;     // closer than this counts as arrived, world units
 constexpr double walk_beside = 0.8; // distance from the fence on the way along it
 constexpr double smallest_half = 3.0, largest_half = 6.0; // of a rectangle
-constexpr double look_ahead = 1.5;    // a move is judged by the place this far ahead, world units
-constexpr double fear_distance = 5.0; // of a triangle
-constexpr double fear = 12.0;         // weight of flight against the planned way
+constexpr double look_ahead = 1.5; // a move is judged by where it leads this far ahead, world units
+constexpr double fear_distance = 5.0;        // of a triangle
+constexpr double fear = 12.0;                // weight of flight against the planned way
 constexpr unsigned int plan_patience = 200;  // ticks
 constexpr unsigned int defence_chance = 12;  // one tick in this many, while a triangle is near
 constexpr unsigned int pause_chance = 1000;  // one tick in this many
 constexpr unsigned int leave_chance = 10000; // likewise, for leaving a game
 constexpr unsigned int page_chance = 2;      // one visit to the menu in this many
 
-// Items of the main menu, from the top.
-constexpr unsigned int start_game = 0, first_page = 1, page_count = 3, undecided = 99;
+// Items of the main menu.
+constexpr unsigned int start_game = menus::MainMenu::item_start, first_page = start_game + 1,
+                       page_count = menus::MainMenu::item_exit - first_page, undecided = 99;
 
-const Point& placeOf(const Entity* e) {
+const Point& positionOf(const Entity* e) {
     return e->physics->position;
 }
 
@@ -57,7 +58,7 @@ Point onField(Point p) {
 
 /// The middle of a triangle's outline; its position is that of the base.
 Point middleOf(const Entity* triangle) {
-    Point middle = placeOf(triangle);
+    Point middle = positionOf(triangle);
     for (const Point& corner : triangle->physics->vertices) {
         middle.x += corner.x / 3.0;
         middle.y += corner.y / 3.0;
@@ -69,7 +70,7 @@ Point middleOf(const Entity* triangle) {
 double distanceFrom(const Entity* triangle, const Point& p) {
     double least = std::numeric_limits<double>::infinity();
     for (const Point& corner : triangle->physics->vertices)
-        least = std::min(least, distance(placeOf(triangle) + corner, p));
+        least = std::min(least, distance(positionOf(triangle) + corner, p));
     return least;
 }
 
@@ -173,7 +174,7 @@ void Bot::playLevel() {
     defend();
     if (plan.active && !planStands()) plan.active = false;
     if (plan.active) return followPlan();
-    if (const Entity* const gift = nearestPowerUp()) return steerTo(placeOf(gift));
+    if (const Entity* const gift = nearestPowerUp()) return steerTo(positionOf(gift));
     planFence();
     if (plan.active)
         followPlan();
@@ -197,9 +198,9 @@ void Bot::unpause() {
 const Entity* Bot::nearestPowerUp() const {
     const Entity* nearest = nullptr;
     for (const Entity* gift : powerUps)
-        if (isOnField(placeOf(gift)) &&
-            (nearest == nullptr || distance(placeOf(player), placeOf(gift)) <
-                                       distance(placeOf(player), placeOf(nearest))))
+        if (isOnField(positionOf(gift)) &&
+            (nearest == nullptr || distance(positionOf(player), positionOf(gift)) <
+                                       distance(positionOf(player), positionOf(nearest))))
             nearest = gift;
     return nearest;
 }
@@ -210,7 +211,7 @@ void Bot::planFence() {
         if (isOnField(middleOf(triangle))) inReach.push_back(triangle);
     if (inReach.empty()) return;
     const Entity* const target = inReach[draw(static_cast<unsigned int>(inReach.size()))];
-    const Point centre = middleOf(target), here = placeOf(player);
+    const Point centre = middleOf(target), here = positionOf(player);
     const double half = between(smallest_half, largest_half);
     const Point first(centre.x + half * sign(here.x - centre.x),
                       centre.y + half * sign(here.y - centre.y), 0.0);
@@ -234,7 +235,7 @@ bool Bot::planStands() const {
 void Bot::followPlan() {
     ++plan.age;
     const Point next = plan.way.back();
-    if (distance(placeOf(player), next) > arrival) return steerTo(next);
+    if (distance(positionOf(player), next) > arrival) return steerTo(next);
     if (next == plan.first && !plan.firstFired) {
         if (!fireFrom(plan.first, plan.second)) return steerTo(next);
         plan.firstFired = true;
@@ -259,9 +260,9 @@ bool Bot::fireFrom(const Point& corner, const Point& other) {
 
 /// A line between itself and a triangle that comes near along an axis.
 bool Bot::defend() {
-    const Point here = placeOf(player);
+    const Point here = positionOf(player);
     for (const Entity* triangle : triangles) {
-        const double dx = placeOf(triangle).x - here.x, dy = placeOf(triangle).y - here.y;
+        const double dx = positionOf(triangle).x - here.x, dy = positionOf(triangle).y - here.y;
         if (distanceFrom(triangle, here) > fear_distance || draw(defence_chance) != 0) continue;
         if (std::fabs(dx) > std::fabs(dy))
             press(dx > 0.0 ? SDLK_d : SDLK_a);
@@ -272,17 +273,17 @@ bool Bot::defend() {
     return false;
 }
 
-double Bot::danger(const Point& place) const {
+double Bot::danger(const Point& point) const {
     double sum = 0.0;
     for (const Entity* triangle : triangles) {
-        const double d = distanceFrom(triangle, place);
+        const double d = distanceFrom(triangle, point);
         if (d < fear_distance) sum += fear * (1.0 / std::max(d, 0.1) - 1.0 / fear_distance);
     }
     return sum;
 }
 
 void Bot::steerTo(const Point& to) {
-    const Point here = placeOf(player);
+    const Point here = positionOf(player);
     double best = std::numeric_limits<double>::infinity();
     int bestX = 0, bestY = 0;
     for (int x = -1; x <= 1; ++x)

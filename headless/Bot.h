@@ -61,7 +61,7 @@ private:
     bool fireFrom(const math::Point& corner, const math::Point& other);
     bool defend();
     void steerTo(const math::Point& goal);
-    double danger(const math::Point& place) const;
+    double danger(const math::Point& point) const;
     const Entity* nearestPowerUp() const;
 
     void hold(int symbol, bool down); ///< no event if nothing changes

@@ -9,15 +9,21 @@
 #include "Framework/menus/MainMenu.h"
 #include "Framework/physics/PhysicsObject.h"
 #include "Framework/physics/PhysicsProcessor.h"
+#include "game/AboutMenu.h"
 #include "game/ArrowIndicator.h"
 #include "game/BombClear.h"
 #include "game/BombImmune.h"
 #include "game/BombIndicator.h"
+#include "game/Border.h"
 #include "game/Bullet.h"
 #include "game/GameLevel.h"
+#include "game/GameOverScreen.h"
+#include "game/HelpMenu.h"
 #include "game/Marvo.h"
 #include "game/PlayerCharacter.h"
 #include "game/PowerUpLines.h"
+#include "game/PupCooldown.h"
+#include "game/PupLine.h"
 #include "game/SquareIndicator.h"
 #include "game/TrapLine.h"
 #include "game/Triangle.h"
@@ -38,8 +44,8 @@ namespace quorva::headless {
 
 namespace {
 
-/// Mixes values, in their order, into 32 bits.
-class Mixer {
+/// Makes 32 bits of values in their order.
+class Hasher {
 public:
     template <class... Values>
     void add(const Values&... values) {
@@ -75,80 +81,86 @@ private:
     std::uint64_t state = 0xcbf29ce484222325ULL;
 };
 
-void addState(Mixer& m, const PlayerCharacter& p) {
-    m.add(p.moveUp, p.moveDown, p.moveLeft, p.moveRight, p.invulnerable, p.invulnerableTicks,
+void addState(Hasher& h, const PlayerCharacter& p) {
+    h.add(p.moveUp, p.moveDown, p.moveLeft, p.moveRight, p.invulnerable, p.invulnerableTicks,
           p.blinkTicks, p.lineLength, p.cooldown, p.pickupLock, p.deathTicks, p.linePups,
           p.cooldownPups);
     for (const std::uint16_t ticks : p.fireTimers)
-        m.add(ticks);
+        h.add(ticks);
 }
 
-void addState(Mixer& m, const GameLevel& l) {
-    m.add(l.spawnBonus, l.tickCount, l.levelNumber, l.trianglesSincePowerUp, l.ticksSinceBomb,
+void addState(Hasher& h, const GameLevel& l) {
+    h.add(l.spawnBonus, l.tickCount, l.levelNumber, l.trianglesSincePowerUp, l.ticksSinceBomb,
           l.deathSpawnPenalty, l.deathSizePenalty, l.ticksSinceSpawn);
 }
 
-void addState(Mixer& m, const Bullet& b) {
-    m.add(b.fakeKilled, b.hitTriangle, b.spinAngle, b.rotation, b.dying, b.colour.alpha());
+void addState(Hasher& h, const Bullet& b) {
+    h.add(b.fakeKilled, b.hitTriangle, b.spinAngle, b.rotation, b.dying, b.colour.alpha());
 }
 
-void addState(Mixer& m, const TrapLine& l) {
-    m.add(l.start, l.end, static_cast<const Entity*>(l.bullet), l.lifeTicks, l.horizontal,
+void addState(Hasher& h, const TrapLine& l) {
+    h.add(l.start, l.end, static_cast<const Entity*>(l.bullet), l.lifeTicks, l.horizontal,
           l.fakeDone, l.solid, l.blinkTicks, l.fading, l.finished);
-    if (l.fading) m.add(l.fadeScale, l.fadeStep);
+    if (l.fading) h.add(l.fadeScale, l.fadeStep);
 }
 
-void addState(Mixer& m, const Triangle& t) {
-    m.add(t.speed, t.size, t.angle, t.explodes, t.modelB, t.modelC, t.state, t.step, t.baseOffset,
+void addState(Hasher& h, const Triangle& t) {
+    h.add(t.speed, t.size, t.angle, t.explodes, t.modelB, t.modelC, t.state, t.step, t.baseOffset,
           t.noseStep, t.noseOffset, t.pauseTicks, t.noseTarget, t.contractTicks, t.noseTicks,
           t.stuckTicks);
 }
 
-void addState(Mixer& m, const TriangleExplodeLine& l) {
-    m.add(l.start, l.end, l.drift, l.spinAngle, l.rotation);
+void addState(Hasher& h, const TriangleExplodeLine& l) {
+    h.add(l.start, l.end, l.drift, l.spinAngle, l.rotation);
 }
 
-void addState(Mixer& m, const PowerUpLines& burst) {
-    m.add(burst.colour.alpha(), burst.cleaningUp, burst.spinAngle, burst.spinSpeed, burst.rotation);
+void addState(Hasher& h, const PowerUpLines& burst) {
+    h.add(burst.colour.alpha(), burst.cleaningUp, burst.spinAngle, burst.spinSpeed, burst.rotation);
     for (const ParticleLine& ray : burst.rays)
-        m.add(ray.angle, ray.length, ray.growth);
+        h.add(ray.angle, ray.length, ray.growth);
 }
 
-void addState(Mixer& m, const Bomb& b) {
-    m.add(b.ticks, b.pulses);
+void addState(Hasher& h, const Bomb& b) {
+    h.add(b.ticks, b.pulses);
 }
 
-void addState(Mixer& m, const ConvergingLines& lines) {
-    m.add(lines.colour.alpha());
+void addState(Hasher& h, const ConvergingLines& lines) {
+    h.add(lines.colour.alpha());
     for (const math::Point& position : lines.positions)
-        m.add(position);
+        h.add(position);
 }
 
-void addState(Mixer& m, const ArrowIndicator& a) {
-    m.add(a.firing, a.restoring, a.restoreTicks);
+void addState(Hasher& h, const ArrowIndicator& a) {
+    h.add(a.firing, a.restoring, a.restoreTicks);
     for (unsigned int i = 0; i < ArrowIndicator::chevron_count; ++i)
-        m.add(a.outward[i], a.inward[i]);
+        h.add(a.outward[i], a.inward[i]);
 }
 
-void addState(Mixer& m, const menus::MainMenu& menu) {
-    m.add(menu.shown, menu.selection);
+void addState(Hasher& h, const menus::MainMenu& menu) {
+    h.add(menu.shown, menu.selection);
 }
 
-void addState(Mixer& m, const menus::ConfigMenu& menu) {
-    m.add(menu.selection, menu.width, menu.height, menu.fullScreen, menu.fxVolume, menu.musicVolume,
+void addState(Hasher& h, const menus::ConfigMenu& menu) {
+    h.add(menu.selection, menu.width, menu.height, menu.fullScreen, menu.fxVolume, menu.musicVolume,
           menu.collisionAccuracy, menu.saveCPU);
 }
 
-using AddState = void (*)(Mixer&, const Entity&);
+using AddState = void (*)(Hasher&, const Entity&);
 
 /// As which class an entity of class T gives its state.
 template <class T, class As = T>
 std::pair<const std::type_index, AddState> row() {
-    return {typeid(T), [](Mixer& m, const Entity& e) { addState(m, static_cast<const As&>(e)); }};
+    return {typeid(T), [](Hasher& h, const Entity& e) { addState(h, static_cast<const As&>(e)); }};
 }
 
-/// The state beside the body; classes that are missing here have none.
-void addOwnState(Mixer& m, const Entity& entity) {
+/// The row of a class whose state is its body and its look alone, or that play doesn't depend on.
+template <class T>
+std::pair<const std::type_index, AddState> bodyAlone() {
+    return {typeid(T), [](Hasher&, const Entity&) {}};
+}
+
+/// The state beside the body. Every class that the game makes entities of has its row.
+void addOwnState(Hasher& h, const Entity& entity) {
     static const std::unordered_map<std::type_index, AddState> rows = {
         row<PlayerCharacter>(),
         row<GameLevel>(),
@@ -164,45 +176,51 @@ void addOwnState(Mixer& m, const Entity& entity) {
         row<ArrowIndicator>(),
         row<menus::MainMenu>(),
         row<menus::ConfigMenu>(),
+        bodyAlone<PupLine>(),
+        bodyAlone<PupCooldown>(),
+        bodyAlone<Border>(),
+        bodyAlone<HelpMenu>(),
+        bodyAlone<AboutMenu>(),
+        bodyAlone<GameOverScreen>(),
     };
     const auto found = rows.find(typeid(entity));
-    if (found != rows.end()) found->second(m, entity);
+    if (found != rows.end()) found->second(h, entity);
 }
 
-void addBody(Mixer& m, const physics::PhysicsObject& body) {
-    m.add(body.position, body.velocity, body.rotation, body.collided, body.isActive, body.type,
+void addBody(Hasher& h, const physics::PhysicsObject& body) {
+    h.add(body.position, body.velocity, body.rotation, body.collided, body.isActive, body.type,
           body.hitLine, body.hitBox, static_cast<const Entity*>(body.collidedWith));
     for (const math::Point& vertex : body.vertices)
-        m.add(vertex);
+        h.add(vertex);
 }
 
 StatePart part(const Entity& entity) {
-    Mixer m;
-    m.add(entity.id, entity.dead);
-    if (entity.graphics != nullptr) m.add(entity.graphics->enabled);
-    if (entity.physics != nullptr) addBody(m, *entity.physics);
-    addOwnState(m, entity);
-    return {typeid(entity).name(), entity.id, m.result()};
+    Hasher h;
+    h.add(entity.id, entity.dead);
+    if (entity.graphics != nullptr) h.add(entity.graphics->enabled);
+    if (entity.physics != nullptr) addBody(h, *entity.physics);
+    addOwnState(h, entity);
+    return {typeid(entity).name(), entity.id, h.result()};
 }
 
 StatePart score() {
-    Mixer m;
-    m.add(Marvo::Instance().score, Marvo::Instance().lives, Marvo::Instance().nextLife);
-    return {"score and lives", 0, m.result()};
+    Hasher h;
+    h.add(Marvo::Instance().score, Marvo::Instance().lives, Marvo::Instance().nextLife);
+    return {"score and lives", 0, h.result()};
 }
 
 StatePart randomStream() {
-    Mixer m;
-    m.add(math::MTRand_int32::p);
+    Hasher h;
+    h.add(math::MTRand_int32::p);
     for (const unsigned long word : math::MTRand_int32::state)
-        m.add(word);
-    return {"random stream", 0, m.result()};
+        h.add(word);
+    return {"random stream", 0, h.result()};
 }
 
 StatePart clock() {
-    Mixer m;
-    m.add(Timer::Instance().paused, Timer::Instance().getTicks());
-    return {"clock", 0, m.result()};
+    Hasher h;
+    h.add(Timer::Instance().paused, Timer::Instance().getTicks());
+    return {"clock", 0, h.result()};
 }
 
 /// Null in the menus, where it has nothing to do.
@@ -214,14 +232,14 @@ const physics::PhysicsProcessor* activePhysics() {
 }
 
 StatePart linesAndAim() {
-    Mixer m;
+    Hasher h;
     const physics::PhysicsProcessor* const physics = activePhysics();
-    m.add(PointManager::Instance().getV("Player Location").value,
+    h.add(PointManager::Instance().getV("Player Location").value,
           physics != nullptr && physics->gameOverPending);
     if (physics != nullptr)
         for (const TrapLine* line : physics->lines)
-            m.add(static_cast<const Entity*>(line));
-    return {"list of lines", 0, m.result()};
+            h.add(static_cast<const Entity*>(line));
+    return {"list of lines", 0, h.result()};
 }
 
 } // namespace
@@ -234,10 +252,10 @@ std::vector<StatePart> stateParts() {
 }
 
 std::uint32_t combined(const std::vector<StatePart>& parts) {
-    Mixer m;
+    Hasher h;
     for (const StatePart& part : parts)
-        m.add(part.hash);
-    return m.result();
+        h.add(part.hash);
+    return h.result();
 }
 
 std::string className(const char* kind) {

@@ -20,7 +20,7 @@ std::vector<StatePart> stateParts();
 /// One hash of all parts.
 std::uint32_t combined(const std::vector<StatePart>& parts);
 
-/// The part's name for a reader, such as "Triangle 57", with its place if it has one.
+/// The part's name for a reader, such as "Triangle 57", with its position if it has one.
 std::string describe(const StatePart& part);
 
 /// The readable name of a class, from the implementation's.

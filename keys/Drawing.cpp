@@ -1,7 +1,7 @@
 #include "keys/Drawing.h"
 
 #include "Framework/Graphics/Draw.h"
-#include "Framework/math/LineWidth.h"
+#include "Framework/Graphics/LineWidth.h"
 
 namespace quorva::keys {
 

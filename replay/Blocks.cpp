@@ -26,7 +26,7 @@ std::uint32_t checksumBehind(std::uint32_t checksum, const std::string& bytes) {
         crc32(checksum, reinterpret_cast<const Bytef*>(bytes.data()), bytes.size()));
 }
 
-void give(z_stream& stream, const char* input, std::size_t inputSize, std::string& output) {
+void setBuffers(z_stream& stream, const char* input, std::size_t inputSize, std::string& output) {
     // zlib only reads it, but takes no pointer to const.
     stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(input));
     stream.avail_in = static_cast<uInt>(inputSize);
@@ -52,7 +52,7 @@ BlockWriter::~BlockWriter() {
 bool BlockWriter::write(const std::string& bytes) {
     if (failed) return false;
     std::string output(deflateBound(&stream, bytes.size()) + free_growth, '\0');
-    give(stream, bytes.data(), bytes.size(), output);
+    setBuffers(stream, bytes.data(), bytes.size(), output);
     deflate(&stream, Z_SYNC_FLUSH); // has room, so it can't fail
     output.resize(output.size() - stream.avail_out);
     checksum = checksumBehind(checksum, bytes);
@@ -85,8 +85,8 @@ BlockReader::~BlockReader() {
     inflateEnd(&stream);
 }
 
-std::uint32_t BlockReader::number(std::size_t place) const {
-    return ByteReader(bytes.substr(at + place, sizeof(std::uint32_t))).fixed32();
+std::uint32_t BlockReader::number(std::size_t offset) const {
+    return ByteReader(bytes.substr(at + offset, sizeof(std::uint32_t))).fixed32();
 }
 
 std::string BlockReader::read() {
@@ -110,7 +110,7 @@ std::string BlockReader::read() {
 
 std::string BlockReader::inflated(std::size_t compressedSize, std::size_t rawSize) {
     std::string block(rawSize + 1, '\0'); // one more shows a block that is too long
-    give(stream, bytes.data() + at, compressedSize, block);
+    setBuffers(stream, bytes.data() + at, compressedSize, block);
     const int result = inflate(&stream, Z_SYNC_FLUSH);
     if (result != Z_OK || stream.avail_in != 0 || stream.avail_out != 1) damaged();
     block.pop_back();

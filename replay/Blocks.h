@@ -21,7 +21,7 @@ constexpr std::uint8_t rule_set = 2;
 
 class BlockWriter {
 public:
-    /// Makes the file; never over one that is there. Throws std::runtime_error if it can't.
+    /// Makes the file, and never overwrites one. Throws std::runtime_error if it can't.
     explicit BlockWriter(const std::string& path);
     ~BlockWriter();
     BlockWriter(const BlockWriter&) = delete;
@@ -55,10 +55,10 @@ public:
 
     bool isCutOff() const { return cutOff; }          ///< the file ends within a block
     std::size_t size() const { return bytes.size(); } ///< of the file, bytes
-    std::size_t place() const { return at; }          ///< bytes that have been read
+    std::size_t offset() const { return at; }         ///< bytes that have been read
 
 private:
-    std::uint32_t number(std::size_t place) const;
+    std::uint32_t number(std::size_t offset) const;
     std::string inflated(std::size_t compressedSize, std::size_t rawSize);
 
     std::string bytes; ///< the whole file

@@ -109,19 +109,19 @@ bool Film::draws() {
 
 void Film::show() {
     look();
-    if (place() < format.from) return;
-    if (!hasBegun) lastPlace = place();
+    if (sessionTime() < format.from) return;
+    if (!hasBegun) lastTime = sessionTime();
     hasBegun = true;
     catchUp();
-    if (place() >= format.to) return stop();
+    if (sessionTime() >= format.to) return stop();
     if (somethingGoesOn()) time.enliven();
     takePicture();
 }
 
 /// The last frame, up to now, and what is heard meanwhile.
 void Film::catchUp() {
-    if (hasBegun) fill(std::min(place(), format.to) - lastPlace);
-    lastPlace = std::min(place(), format.to);
+    if (hasBegun) fill(std::min(sessionTime(), format.to) - lastTime);
+    lastTime = std::min(sessionTime(), format.to);
 }
 
 /// In a game that isn't paused, or in the menus by a key.
@@ -167,7 +167,7 @@ void Film::takePicture() {
     glReadPixels(0, 0, format.width, format.height, GL_BGRA, GL_UNSIGNED_BYTE, picture.data());
 }
 
-/// At what the user wants, now and then. Shows a picture, too: each would wait for the monitor.
+/// Now and then, as each picture shown waits for the monitor: looks whether the user wants to stop.
 void Film::look() {
     const std::uint32_t clock_ = Tape::clock();
     if (begun == 0) begun = clock_;
@@ -184,7 +184,7 @@ void Film::look() {
 void Film::sayProgress() const {
     if (!hasBegun) return;
     const double length = std::max<std::uint32_t>(format.to - format.from, 1);
-    const double done = std::clamp((lastPlace - format.from) / length, 0.001, 1.0);
+    const double done = std::clamp((lastTime - format.from) / length, 0.001, 1.0);
     const double left = (looked - begun) * (1.0 / done - 1.0);
     std::cout << "\r" << static_cast<int>(100.0 * done) << " %, time left "
               << minutes(static_cast<std::uint64_t>(left)) << "   " << std::flush;

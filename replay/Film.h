@@ -44,8 +44,8 @@ protected:
     void passIdly() override { look(); }
 
 private:
-    std::uint32_t place() const { return now() - format.start; } ///< ms after the start
-    bool isFilmed() const { return place() >= format.from && place() <= format.to; }
+    std::uint32_t sessionTime() const { return now() - format.start; } ///< ms after the start
+    bool isFilmed() const { return sessionTime() >= format.from && sessionTime() <= format.to; }
     bool somethingGoesOn() const;
     void catchUp();
     void fill(std::uint32_t ms);
@@ -59,7 +59,7 @@ private:
     Pipe pictures, sound;
     std::vector<std::uint32_t> picture; ///< pixels of the last frame, from the bottom
     bool hasBegun = false;
-    std::uint32_t lastPlace = 0;         ///< ms after the start, of the last frame
+    std::uint32_t lastTime = 0;          ///< ms after the start, of the last frame
     std::uint64_t filmed = 0;            ///< ms of the film
     std::uint64_t pictureCount = 0;      ///< written
     std::uint64_t heard = 0;             ///< samples

@@ -5,7 +5,7 @@
 namespace quorva::replay {
 
 /// Where in a film a moment of a session is. Stretches in which nothing goes on, such as a pause
-/// of a night, are shortened, and the sound fades out towards the place of the cut.
+/// of a night, are shortened, and the sound fades out towards the cut.
 class FilmTime {
 public:
     /// @param full_ nothing is shortened

@@ -23,7 +23,7 @@ using standins::GLCall;
 constexpr const char* background = "#1b1b1b"; // as the game clears its window
 constexpr unsigned int digits_of_colour = 255;
 
-struct Place {
+struct Position {
     double x, y; ///< pixels, from the top left
 };
 
@@ -101,7 +101,7 @@ private:
     std::array<double, 4> colour = {1, 1, 1, 1};
     double lineWidth = 1.0;
     unsigned int mode = 0;
-    std::vector<Place> vertices; ///< of the shape that is being made, pixels
+    std::vector<Position> vertices; ///< of the shape that is being made, pixels
 };
 
 void Painter::draw(const GLCall& call) {
@@ -175,7 +175,7 @@ void Painter::endShape() {
     }
 }
 
-std::string point(char command, const Place& p) {
+std::string point(char command, const Position& p) {
     char text[64];
     std::snprintf(text, sizeof text, "%c%.1f %.1f", command, p.x, p.y);
     return text;
@@ -189,15 +189,15 @@ void Painter::outline(std::size_t step, bool closed) {
 }
 
 /// All turn one way round: areas of opposite turns would take each other out where they overlap.
-std::string polygon(std::vector<Place> corners) {
+std::string polygon(std::vector<Position> corners) {
     double area = 0.0;
     for (std::size_t i = 0; i < corners.size(); ++i) {
-        const Place &p = corners[i], &q = corners[(i + 1) % corners.size()];
+        const Position &p = corners[i], &q = corners[(i + 1) % corners.size()];
         area += p.x * q.y - q.x * p.y;
     }
     if (area < 0.0) std::reverse(corners.begin(), corners.end());
     std::string way;
-    for (const Place& corner : corners)
+    for (const Position& corner : corners)
         way += point(way.empty() ? 'M' : 'L', corner);
     return way + 'Z';
 }

@@ -30,7 +30,7 @@ int start(const std::vector<std::string>& words, int input, pid_t& process) {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
-    sigset_t mask; // what this program holds back is none of its business
+    sigset_t mask; // empty: signals that this program holds back reach the other one
     sigemptyset(&mask);
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);

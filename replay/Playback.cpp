@@ -26,8 +26,8 @@ Playback::Playback(Script& script_) : script(script_) {
 }
 
 std::uint32_t Playback::clock() {
-    if (observing || isIdle() || clockPlace == pass_.clock.size()) return now_;
-    const std::uint32_t before = std::exchange(now_, pass_.clock[clockPlace++]);
+    if (observing || isIdle() || nextClock == pass_.clock.size()) return now_;
+    const std::uint32_t before = std::exchange(now_, pass_.clock[nextClock++]);
     if (now_ != before) moveOn();
     return now_;
 }
@@ -46,9 +46,9 @@ int Playback::poll(SDL_Event* event) {
 }
 
 bool Playback::giveEvent(SDL_Event* event) {
-    if (eventPlace == pass_.events.size() || pass_.events[eventPlace].emptyPolls > emptyPolls)
+    if (nextEvent == pass_.events.size() || pass_.events[nextEvent].emptyPolls > emptyPolls)
         return false;
-    const Event& kept = pass_.events[eventPlace++];
+    const Event& kept = pass_.events[nextEvent++];
     const Uint8 types[] = {SDL_KEYDOWN, SDL_KEYUP, SDL_JOYBUTTONDOWN, SDL_JOYAXISMOTION, SDL_QUIT};
     *event = {};
     event->type = types[kept.kind];
@@ -92,12 +92,12 @@ SDL_Joystick* Playback::openJoystick(int index) {
 }
 
 std::int16_t Playback::axis(SDL_Joystick*, int) {
-    return axisPlace < pass_.axes.size() ? pass_.axes[axisPlace++] : std::int16_t{0};
+    return nextAxis < pass_.axes.size() ? pass_.axes[nextAxis++] : std::int16_t{0};
 }
 
 FMOD_RESULT Playback::openSong(FMOD_SYSTEM* system, const char*, FMOD_SOUND** song) {
-    if (songPlace == pass_.songs.size()) return FMOD_ERR_FILE_NOTFOUND;
-    const Pass::Song& kept = pass_.songs[songPlace++];
+    if (nextSong == pass_.songs.size()) return FMOD_ERR_FILE_NOTFOUND;
+    const Pass::Song& kept = pass_.songs[nextSong++];
     if (kept.result != FMOD_OK) return static_cast<FMOD_RESULT>(kept.result);
     return openSongOf(kept.length, system, song);
 }
@@ -107,8 +107,8 @@ FMOD_RESULT Playback::openSongOf(std::uint32_t, FMOD_SYSTEM* system, FMOD_SOUND*
 }
 
 FMOD_RESULT Playback::songLength(FMOD_SOUND* song, unsigned int* ms) {
-    if (song == nullptr || songPlace == 0) return FMOD_ERR_INVALID_PARAM;
-    *ms = pass_.songs[songPlace - 1].length;
+    if (song == nullptr || nextSong == 0) return FMOD_ERR_INVALID_PARAM;
+    *ms = pass_.songs[nextSong - 1].length;
     return FMOD_OK;
 }
 
@@ -176,7 +176,7 @@ void Playback::differs(const std::string& what) {
 
 void Playback::nextPass() {
     pass_ = {};
-    clockPlace = eventPlace = axisPlace = songPlace = 0;
+    nextClock = nextEvent = nextAxis = nextSong = 0;
     whileReadable([this] {
         std::optional<Pass> next = script.take<Pass>();
         while (!next && !script.atEnd()) {

@@ -77,7 +77,7 @@ private:
     std::uint32_t lastEqual = 0; ///< tick
 
     Pass pass_; // and what of it has been taken
-    std::size_t clockPlace = 0, eventPlace = 0, axisPlace = 0, songPlace = 0;
+    std::size_t nextClock = 0, nextEvent = 0, nextAxis = 0, nextSong = 0;
     std::uint64_t idle = 0; ///< passes before it, still to be played
     std::uint32_t emptyPolls = 0;
     std::uint32_t now_ = 0;

@@ -12,7 +12,7 @@ namespace quorva::replay {
 
 constexpr std::uint32_t check_interval = 100; ///< ticks
 
-/// What the running program is at, seen from outside at the end of each frame.
+/// How far the running program has come, read from outside at the end of each frame.
 class Progress {
 public:
     void look();

@@ -107,11 +107,11 @@ void Recorder::endFrame() {
         progress.look();
         if (!isIdle())
             endPass();
-        else if (randomPlace != math::MTRand_int32::p)
+        else if (randomIndex != math::MTRand_int32::p)
             couldRepeat() ? static_cast<void>(++idle) : endPass();
         pass = {};
         emptyPolls = 0;
-        randomPlace = math::MTRand_int32::p;
+        randomIndex = math::MTRand_int32::p;
     }
     Tape::endFrame();
 }

@@ -10,7 +10,7 @@
 
 namespace quorva::replay {
 
-/// Keeps what comes from outside in a file while the game is played as ever. It writes at least
+/// Keeps what comes from outside in a file while the game is played. It writes at least
 /// every nine seconds of play, so a crash leaves all but the last of them.
 class Recorder : public Tape {
 public:
@@ -60,7 +60,7 @@ private:
     std::uint32_t lastClock = 0; ///< ms; that of the last kept pass after `endPass`
     std::uint32_t now = 0;       ///< ms, as the game knows it
     bool clockStarted = false;
-    int randomPlace = 0;    ///< in the random stream, when the pass began
+    int randomIndex = 0;    ///< in the random stream, when the pass began
     std::uint64_t idle = 0; ///< passes since the last kept one that have to be repeated
 };
 

@@ -9,15 +9,15 @@ namespace {
 constexpr std::uint64_t most_idle = 1U << 24U; ///< passes before one that is kept
 
 constexpr std::uint8_t has_idle = 1, has_events = 2, has_axes = 4, has_songs = 8, pass_flags = 15;
-/// The kinds of record that aren't passes, by their place among the alternatives.
+/// The kinds of record that aren't passes, by their index among the alternatives.
 constexpr std::uint8_t first_other = 0x80;
 
-template <class Kind, std::size_t Place = 0>
+template <class Kind, std::size_t Index = 0>
 constexpr std::uint8_t codeOf() {
-    if constexpr (std::is_same_v<std::variant_alternative_t<Place, Record>, Kind>)
-        return first_other + Place;
+    if constexpr (std::is_same_v<std::variant_alternative_t<Index, Record>, Kind>)
+        return first_other + Index;
     else
-        return codeOf<Kind, Place + 1>();
+        return codeOf<Kind, Index + 1>();
 }
 
 void writeBody(const Check& check, ByteWriter& out) {

@@ -37,7 +37,7 @@ void Script::fetch() {
     if (block.left() != 0 || !file.read().empty() || file.isCutOff()) damaged(); // more follows
 }
 
-/// That it is one which can have been recorded.
+/// Throws BadFile for a pass that no recorder can have written.
 void Script::require(const Pass& pass) {
     if (!pass.clock.empty() && !start) start = pass.clock.front();
     const std::uint32_t ms = pass.clock.empty() ? 0 : pass.clock.back() - *start;

@@ -8,12 +8,10 @@
 
 namespace quorva::replay {
 
-const std::string kept_settings = "wlzsmghjyufao";
-
 namespace {
 
 constexpr std::size_t most_names = 256, longest_name = 64, most_songs = 10000, most_joysticks = 32;
-constexpr double largest_colour = 8.0, largest_place = 1e9;
+constexpr double largest_colour = 8.0, largest_coordinate = 1e9;
 
 bool isValid(const config::Setting& setting, int value) {
     const auto& list = setting.validValues;
@@ -79,8 +77,9 @@ SettingValues readSettings(ByteReader& in) {
         letter = static_cast<char>(in.byte());
         const std::int64_t kept = in.signedNumber();
         value = static_cast<int>(kept);
-        if (kept_settings.find(letter) == std::string::npos || !letters.insert(letter).second ||
-            value != kept || !isValid(config::settingWith(letter), value))
+        const config::Setting* const setting = config::findSetting(config::allSettings(), letter);
+        if (setting == nullptr || setting->has(config::not_in_replays) ||
+            !letters.insert(letter).second || value != kept || !isValid(*setting, value))
             damaged();
     }
     return settings;
@@ -103,7 +102,7 @@ void Setup::write(ByteWriter& out) const {
     for (const bool opened : joysticks)
         out.byte(opened ? 1 : 0);
     writeNamed(out, colours, &NamedColour::parts);
-    writeNamed(out, points, &NamedPoint::place);
+    writeNamed(out, points, &NamedPoint::coordinates);
 }
 
 Setup Setup::read(ByteReader& in) {
@@ -120,7 +119,7 @@ Setup Setup::read(ByteReader& in) {
     for (std::size_t i = 0; i < setup.joysticks.size(); ++i)
         setup.joysticks[i] = in.byte() != 0;
     setup.colours = readNamed<NamedColour>(in, &NamedColour::parts, largest_colour);
-    setup.points = readNamed<NamedPoint>(in, &NamedPoint::place, largest_place);
+    setup.points = readNamed<NamedPoint>(in, &NamedPoint::coordinates, largest_coordinate);
     return setup;
 }
 

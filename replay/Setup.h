@@ -13,9 +13,6 @@ namespace quorva::replay {
 /// Letter and value; a flag is 0 or 1.
 using SettingValues = std::vector<std::pair<char, int>>;
 
-/// Of the settings those that play, its pages or its pictures depend on, by letter.
-extern const std::string kept_settings;
-
 /// A name that can stand in a resource file, and in a replay.
 bool isPlainName(const std::string& name);
 
@@ -28,7 +25,7 @@ struct Setup {
     };
     struct NamedPoint {
         std::string name;
-        std::array<double, 3> place; ///< world units
+        std::array<double, 3> coordinates; ///< world units
     };
 
     std::int64_t date = 0;                     ///< seconds since 1970, UTC

@@ -95,8 +95,8 @@ Shipped::Shipped(const fs::path& folder) : files(palettesIn(folder)) {
         palettes.push_back(readFile<graphics::Colour, Setup::NamedColour>(file));
     files.push_back(folder / "data/Point.kov");
     points = readFile<PointProperty, Setup::NamedPoint>(files.back());
-    for (const char* place : {"bind1.conf", "packaging/bind1.conf"})
-        if (bindings.empty() && fs::exists(folder / place)) bindings = folder / place;
+    for (const char* name : {"bind1.conf", "packaging/bind1.conf"})
+        if (bindings.empty() && fs::exists(folder / name)) bindings = folder / name;
     if (!bindings.empty()) files.push_back(bindings);
 }
 
@@ -108,7 +108,7 @@ Changes changesFrom(const Shipped& shipped, const Setup& setup) {
         changes.colours =
             std::min(changes.colours,
                      countChanged(palette, setup.colours, &Setup::NamedColour::parts, unnamed));
-    changes.points = countChanged(shipped.points, setup.points, &Setup::NamedPoint::place,
+    changes.points = countChanged(shipped.points, setup.points, &Setup::NamedPoint::coordinates,
                                   numbersOf(PointProperty()));
     compareKeys(setup, changes);
     return changes;

@@ -56,10 +56,13 @@ Setup setupOfGame() {
 SettingValues settingsOfGame() {
     const config::ConfigValuesT& values = *config::Config::Instance().activatedValues;
     SettingValues settings;
-    for (const char letter : kept_settings)
-        settings.emplace_back(letter, config::settingWith(letter).isFlag
-                                          ? static_cast<int>(values.getBoolVal(letter))
-                                          : values.getIntVal(letter));
+    for (const config::Setting& setting : config::allSettings()) {
+        const char letter = setting.shortName;
+        if (!setting.has(config::not_in_replays))
+            settings.emplace_back(letter, setting.isFlag
+                                              ? static_cast<int>(values.getBoolVal(letter))
+                                              : values.getIntVal(letter));
+    }
     return settings;
 }
 

@@ -17,7 +17,7 @@ SettingValues settingsOfGame(); ///< as they are in force now
 
 Check checkOfGame();
 
-/// @param played what the game is at now
+/// @param played the game's state now
 /// @return empty if it is as it was kept, else what differs first, in words
 std::string firstDifference(const Check& kept, const Check& played);
 

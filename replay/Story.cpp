@@ -72,30 +72,26 @@ std::string inWords(const GameStory& game) {
 }
 
 Story::Story() {
-    subscribe<SoundBullet>(this);
-    subscribe<SoundSquare>(this);
-    subscribe<SoundPup>(this);
-    subscribe<SoundClearBomb>(this);
-    subscribe<SoundImmuneBomb>(this);
+    subscribeToAll();
 }
 
-void Story::look(const Progress& progress, const Pass& pass, std::uint32_t place) {
+void Story::look(const Progress& progress, const Pass& pass, std::uint32_t time) {
     if (progress.ended && !games.empty()) games.back().end = progress.end;
-    if (progress.began) begin(place);
+    if (progress.began) begin(time);
     if (!progress.inGame && !progress.ended) return;
     GameStory& game = games.back();
-    game.last = place;
+    game.last = time;
     const auto presses = std::count_if(pass.events.begin(), pass.events.end(),
                                        [](const Event& event) { return event.isPress(); });
     game.presses = std::max(game.presses, static_cast<std::size_t>(presses));
     for (; datedCatches < game.catches.size(); ++datedCatches)
-        game.catches[datedCatches].time = place - game.begin;
-    lookAtClock(progress, place);
+        game.catches[datedCatches].time = time - game.begin;
+    lookAtClock(progress, time);
 }
 
-void Story::begin(std::uint32_t place) {
+void Story::begin(std::uint32_t time) {
     games.emplace_back();
-    games.back().begin = lastTick = place;
+    games.back().begin = lastTick = time;
     games.back().settings = settingsOfGame();
     score = 0;
     datedCatches = 0;
@@ -104,19 +100,19 @@ void Story::begin(std::uint32_t place) {
 }
 
 /// A pause and the tick that follows it, or that went before, may be in one pass.
-void Story::lookAtClock(const Progress& progress, std::uint32_t place) {
+void Story::lookAtClock(const Progress& progress, std::uint32_t time) {
     GameStory& game = games.back();
     const TimerClass& timer = Timer::Instance();
     if (progress.ended) {
-        if (isPaused) endPause(place - pauseBegin);
+        if (isPaused) endPause(time - pauseBegin);
         return;
     }
     const std::uint32_t ended = timer.correction - std::exchange(pauses, timer.correction);
     if (ended != 0) endPause(ended);
-    if (!isPaused && timer.paused) pauseBegin = place;
+    if (!isPaused && timer.paused) pauseBegin = time;
     isPaused = timer.paused;
     if (!progress.ticked || progress.began) return;
-    const std::uint32_t length = place - std::exchange(lastTick, place);
+    const std::uint32_t length = time - std::exchange(lastTick, time);
     ++game.ticks;
     if (length > GameStory::slow_tick) ++game.slowTicks;
     game.longestTick = std::max(game.longestTick, length);

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Framework/MessageInterface.h"
+#include "Framework/MessageReceiver.h"
 #include "Framework/Messages.h"
 #include "replay/Progress.h"
 #include "replay/Records.h"
@@ -48,17 +48,13 @@ struct GameStory {
 std::string inWords(const GameStory& game);
 
 /// Watches the games of a session while they are played again.
-class Story : MessageInterface<SoundBullet>,
-              MessageInterface<SoundSquare>,
-              MessageInterface<SoundPup>,
-              MessageInterface<SoundClearBomb>,
-              MessageInterface<SoundImmuneBomb> {
+class Story : MessageReceiver<SoundBullet, SoundSquare, SoundPup, SoundClearBomb, SoundImmuneBomb> {
 public:
     Story();
 
     /// At the end of each pass.
-    /// @param place ms after the start of the session
-    void look(const Progress& progress, const Pass& pass, std::uint32_t place);
+    /// @param time ms after the start of the session
+    void look(const Progress& progress, const Pass& pass, std::uint32_t time);
 
     std::vector<GameStory> games;
     std::function<void()> onBestCatch; ///< so far in its game; within the tick
@@ -70,8 +66,8 @@ private:
     void receiveMessage(const SoundClearBomb*) override { ++games.back().powerUps; }
     void receiveMessage(const SoundImmuneBomb*) override { ++games.back().powerUps; }
 
-    void begin(std::uint32_t place);
-    void lookAtClock(const Progress& progress, std::uint32_t place);
+    void begin(std::uint32_t time);
+    void lookAtClock(const Progress& progress, std::uint32_t time);
     void endPause(std::uint32_t length);
 
     std::uint32_t score = 0;      ///< after the last catch

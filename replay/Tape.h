@@ -11,7 +11,7 @@
 
 namespace quorva::replay {
 
-/// The layer as it is: everything goes through to the libraries.
+/// What the layer does by itself: everything goes through to the libraries.
 class Tape {
 public:
     Tape() = default;
@@ -38,7 +38,7 @@ protected:
     static void placeViewport(int x, int y, int width, int height); ///< in the window
 };
 
-/// Puts a tape in, which the caller owns; null: everything goes through again.
+/// From now on the calls go to this tape, which the caller owns; null: to the libraries again.
 void insert(Tape* tape);
 
 } // namespace quorva::replay

@@ -46,6 +46,7 @@ for group in "$@"; do
         header_is gtest/gtest.h "GoogleTest" gtest-devel gtest
         header_is mpfr.h "MPFR" mpfr-devel mpfr
         command_is clang-format clang-tools-extra clang
+        command_is python3 python3 python
         command_is Xvfb xorg-x11-server-Xvfb xorg-server-xvfb
         ;;
     check)

@@ -21,7 +21,7 @@ for group in "$@"; do
         libsdl1.2-dev|libsdl1.2-compat-dev libglew-dev libgl-dev libx11-dev libglu1-mesa-dev
         libftgl-dev libfreetype-dev libloki-dev| libboost-dev libboost-filesystem-dev zlib1g-dev
         libopenal-dev libsndfile1-dev libmpg123-dev libgl1-mesa-dri" ;;
-    test) packages="$packages libgtest-dev libmpfr-dev clang-format xvfb xdotool" ;;
+    test) packages="$packages libgtest-dev libmpfr-dev clang-format xvfb xdotool python3" ;;
     web) packages="$packages emscripten node-pako g++ cmake ninja-build pkgconf|pkg-config
         libsdl1.2-dev|libsdl1.2-compat-dev libglew-dev libftgl-dev libfreetype-dev libboost-dev
         zlib1g-dev libsndfile1-dev libmpg123-dev sndfile-programs python3" ;;

@@ -4,7 +4,17 @@
 #   tools/record_games.sh [build folder]    build/release if not given
 set -eu
 cd "$(dirname "$0")/.."
-record=${1:-build/release}/tools/kov_record
+build=${1:-build/release}
+record=$build/tools/kov_record
+
+# Two ways of play under one number would take each other's files.
+code=0
+"$build/replay/kov-replay-verify" tests/recordings/one-game.kovreplay . >/dev/null 2>&1 || code=$?
+case $code in
+0 | 2) ;; # it holds, or is of other rules
+1) echo "Play isn't what it was: raise rule_set in replay/Blocks.h, and build." >&2 && exit 1 ;;
+*) echo "$build lacks kov-replay-verify and kov_record: build them." >&2 && exit 1 ;;
+esac
 
 play() { # file without ending, options...
     file=$1.kovreplay

@@ -4,7 +4,7 @@
 
 namespace quorva::graphics {
 
-void MoveRotatePolicy::applyPlace() const {
+void MoveRotatePolicy::applyTransform() const {
     // GL applies the last one first: scaled, then turned, then moved.
     draw::translate(position);
     draw::rotate(rotation);

@@ -23,7 +23,7 @@ public:
 protected:
     ~MoveRotatePolicy() = default;
 
-    void applyPlace() const; ///< translates, rotates and scales the current matrix
+    void applyTransform() const; ///< translates, rotates and scales the current matrix
 };
 
 } // namespace quorva::graphics

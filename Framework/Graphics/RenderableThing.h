@@ -14,7 +14,7 @@ enum LayerOrder : int {
     layer_bullets = 5,
     layer_menu_backdrop = 7,
     layer_menu_middle = 8, ///< not used yet
-    layer_menu_text = 9,   ///< also the words that a level shows
+    layer_menu_text = 9,   ///< also the pause of a level
     layer_default = 10,    ///< of a layer that nobody has ordered
 };
 

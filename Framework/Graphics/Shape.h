@@ -6,14 +6,14 @@
 
 namespace quorva::graphics {
 
-/// What every shape begins with: its colour, its place, its turn, its scale. A shape neither
+/// What every shape begins with: colour, position, rotation and scale. A shape neither
 /// pushes nor pops the matrix: its layer does that.
 class Shape : public RenderInterface, public ColourPolicy, public MoveRotatePolicy {
 protected:
     /// The first line of every render().
     void begin() const {
         applyColour1();
-        applyPlace();
+        applyTransform();
     }
 };
 

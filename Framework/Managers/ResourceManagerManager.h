@@ -21,7 +21,7 @@ public:
 
     std::vector<ResourceManagerInterface*> managers; ///< not owned, sorted by address
     std::string type = "resources";
-    std::string name = "ResourceManagerManger"; ///< spelt so since its first day
+    std::string name = "ResourceManagerManger"; ///< deliberately spelt so
     graphics::Colour colour = graphics::colours::white;
     std::vector<std::string> scopes;
 };

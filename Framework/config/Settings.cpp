@@ -11,9 +11,10 @@ Setting number(const char* name, char letter, int fileLine, int defaultValue, CV
 
 /// An integer that only takes the values of a list, which ascends.
 Setting choice(const char* name, char letter, int fileLine, int defaultValue,
-               const std::vector<int>& valid, config_variable_section_e section, const char* help) {
-    Setting setting =
-        number(name, letter, fileLine, defaultValue, {valid.front(), valid.back()}, section, help);
+               const std::vector<int>& valid, config_variable_section_e section, const char* help,
+               unsigned flags) {
+    Setting setting = number(name, letter, fileLine, defaultValue, {valid.front(), valid.back()},
+                             section, help, flags);
     setting.validValues = valid;
     return setting;
 }
@@ -34,23 +35,24 @@ Setting flag(const char* name, char letter, int fileLine, bool defaultValue,
 } // namespace
 
 const std::vector<Setting>& allSettings() {
-    // Name, letter, line in the file, default, range or list, section, help.
+    // Name, letter, line in the file, default, range or list, section, help, flags.
     static const std::vector<Setting> settings = {
         // Deliberate: each of the first two names the other's dimension.
         number("ScreenWidth", 'w', 1, 800, {480, 1920}, section_video,
                "=[NUM] Set Height at the same time", spaced_tail),
         number("ScreenHeight", 'l', 2, 600, {480, 1920}, section_video,
                "=[NUM] Set Width at the same time", spaced_tail),
-        choice("ColourDepth", 'c', 3, 32, {16, 32}, section_video, "=[16|32] bit colour"),
+        choice("ColourDepth", 'c', 3, 32, {16, 32}, section_video, "=[16|32] bit colour",
+               not_in_replays),
         choice("Rate", 'r', 11, 41000, {10250, 20500, 41000}, section_sound,
-               "=[10250|20500|41000] Set Audio Rate."),
+               "=[10250|20500|41000] Set Audio Rate.", not_in_replays),
         number("Channels", 'n', 12, 40, {10, 255}, section_sound,
-               "=[NUM] (10-255) Software Audio Channels."),
+               "=[NUM] (10-255) Software Audio Channels.", not_in_replays),
         number("EffectsVolume", 'g', 16, 100, {0, 100}, section_sound, "=[NUM] (0-100)",
                spaced_tail),
         number("MusicVolume", 'h', 15, 100, {0, 100}, section_sound, "=[NUM] (0-100)", spaced_tail),
         number("ActiveJoystick", 'k', 8, 0, {0, 16}, section_input,
-               "=[NUM] Sets which Joystick to use (default=0)"),
+               "=[NUM] Sets which Joystick to use (default=0)", not_in_replays),
         number("JoystickSensitivity", 'y', 9, 3200, {0, 32768}, section_input,
                "=[0-32768] Sets Joystick Sens (default=3200)"),
         number("CollisionAccuracy", 'z', 18, 10, {1, 1000}, section_misc,
@@ -70,9 +72,10 @@ const std::vector<Setting>& allSettings() {
              "Disables Joystick Support", stored_by_letter),
         // Deliberate: the two texts stand the wrong way round.
         flag("InvertJoystickAxis", 'e', 10, false, section_input, "Don't Invert joystick Y axis",
-             "Invert joystick Y axis", never_restored),
+             "Invert joystick Y axis", never_restored | not_in_replays),
         flag("IgnoreTime", 'x', 17, false, section_misc,
-             "Causes the game to run as fast as possible", "Causes the game to run normally"),
+             "Causes the game to run as fast as possible", "Causes the game to run normally",
+             not_in_replays),
         flag("SaveCPU", 'u', 19, false, section_misc,
              "Makes the game sleep while not processing (experimental)",
              "Makes the game process as fast as it can (using 100% CPU)"),

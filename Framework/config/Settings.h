@@ -17,6 +17,7 @@ enum SettingFlags : unsigned {
     no_negative_entry = 1U << 1U, ///< the help doesn't list "No" and its name, which still works
     stored_by_letter = 1U << 2U,  ///< its setter stores by letter, which means true: never false
     never_restored = 1U << 3U,    ///< written to the file, but not taken from it
+    not_in_replays = 1U << 4U,    ///< play, its pages and its pictures don't depend on it
 };
 
 /// All that the program knows of one setting.
@@ -26,7 +27,7 @@ struct Setting : ConfigValueAnon {
     CVRange<int> range;              ///< of an integer
     std::vector<int> validValues;    ///< of an integer with a list, which then decides; else empty
     std::string negativeDescription; ///< of a flag, the help of its negative entry
-    int fileLine;                    ///< place in the configuration file, from 1
+    int fileLine;                    ///< line in the configuration file, from 1
     unsigned flags;                  ///< SettingFlags
 
     bool has(SettingFlags flag) const { return (flags & flag) != 0U; }

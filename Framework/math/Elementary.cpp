@@ -77,8 +77,8 @@ inline Reduced reduce(double x) {
 
 /// sin(i pi / 128).
 inline DoubleDouble sineOfSteps(unsigned long i) {
-    const unsigned long place = i % sine_steps;
-    const DoubleDouble& sine = i / sine_steps % 2 == 0 ? sines[place] : sines[sine_steps - place];
+    const unsigned long index = i % sine_steps;
+    const DoubleDouble& sine = i / sine_steps % 2 == 0 ? sines[index] : sines[sine_steps - index];
     return i / sine_steps % 4 < 2 ? sine : -sine;
 }
 

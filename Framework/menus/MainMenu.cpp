@@ -19,8 +19,6 @@ namespace {
 
 constexpr double item_x = -10.0, logo_y = 7.0, tagline_scale = 1.25;
 
-enum Item { item_start, item_config, item_help, item_about, item_exit };
-
 std::string highScoreText() {
     return "HighScore    " + std::to_string(Marvo::Instance().highScore);
 }
@@ -44,7 +42,7 @@ MainMenu::MainMenu() : Menu(nullptr) {
     highScoreWord = addWord(highScoreText().c_str(), wordOffColour, 9.0, -12.0);
 }
 
-boost::array<graphics::GWord*, 5> MainMenu::items() const {
+boost::array<graphics::GWord*, MainMenu::item_count> MainMenu::items() const {
     return {{startWord, configWord, helpWord, aboutWord, exitWord}};
 }
 
@@ -85,9 +83,9 @@ void MainMenu::moveSelectorDown() {
     selection = neighbour(selection, itemCount, true);
 }
 
-bool MainMenu::isPageOpen() const {
-    return subMenu != nullptr || gameOverScreen != nullptr || helpMenu != nullptr ||
-           aboutMenu != nullptr;
+bool MainMenu::isPageOpen() {
+    const auto isAnyOpen = [](const auto*... page) { return ((page != nullptr) || ...); };
+    return subMenu != nullptr || std::apply(isAnyOpen, pages());
 }
 
 void MainMenu::receiveMessage(const messages::MenuMove* m) {
@@ -98,21 +96,17 @@ void MainMenu::receiveMessage(const messages::MenuMove* m) {
 }
 
 void MainMenu::select() {
-    if (gameOverScreen != nullptr)
-        closePage(gameOverScreen);
-    else if (helpMenu != nullptr)
-        closePage(helpMenu);
-    else if (aboutMenu != nullptr)
-        closePage(aboutMenu);
-    else
-        checkMenuSelection();
+    const auto closeOne = [this](auto*&... page) { return (closePage(page) || ...); };
+    if (!std::apply(closeOne, pages())) checkMenuSelection();
 }
 
 template <class Page>
-void MainMenu::closePage(Page*& page) {
+bool MainMenu::closePage(Page*& page) {
+    if (page == nullptr) return false;
     page->dead = true;
     page = nullptr;
     show(loadMode);
+    return true;
 }
 
 void MainMenu::checkMenuSelection() {
@@ -140,9 +134,7 @@ void MainMenu::checkMenuSelection() {
 }
 
 void MainMenu::killSubMenu() {
-    if (subMenu == nullptr) return;
-    closePage(subMenu);
-    fitBackground(); // the shape of the screen may have changed
+    if (closePage(subMenu)) fitBackground(); // the shape of the screen may have changed
 }
 
 void MainMenu::showGOScreen() {

@@ -6,6 +6,8 @@
 
 #include <boost/array.hpp>
 
+#include <tuple>
+
 class AboutMenu;
 class GameOverScreen;
 class HelpMenu;
@@ -17,6 +19,9 @@ namespace quorva::menus {
 /// the program.
 class MainMenu : public Menu, public MessageInterface<messages::MenuMove> {
 public:
+    /// In the order of selection. What stands between the first and the last opens a page.
+    enum Item { item_start, item_config, item_help, item_about, item_exit, item_count };
+
     MainMenu();
 
     void process() override {}
@@ -31,9 +36,10 @@ public:
     void checkMenuSelection();
     void showGOScreen();                  ///< opens the result of the game that has just ended
     bool isDone() const { return false; } ///< nothing asks
+    boost::array<graphics::GWord*, item_count> items() const; ///< in the order of selection
 
     std::uint16_t selection = 0;
-    std::uint16_t itemCount = 5;
+    std::uint16_t itemCount = item_count;
     // The graphics own the shapes.
     graphics::GWord *startWord, *configWord, *helpWord, *aboutWord, *exitWord;
     // Pages, null while closed. The engine owns them; closing a page sets its `dead`.
@@ -45,12 +51,13 @@ public:
     graphics::GWord* highScoreWord;
 
 private:
-    boost::array<graphics::GWord*, 5> items() const; ///< in the order of selection
+    /// Those that "Menu Select" closes.
+    auto pages() { return std::tie(gameOverScreen, helpMenu, aboutMenu); }
     void setShapesActive(bool active);
-    bool isPageOpen() const;
+    bool isPageOpen();
     void select();
     template <class Page>
-    void closePage(Page*& page);
+    bool closePage(Page*& page); ///< @return false if it isn't open
 };
 
 } // namespace quorva::menus

@@ -69,10 +69,7 @@ bool hasCornerOnRightEdge(const PhysicsObject& box, const Corners& corners) {
 } // namespace
 
 PhysicsProcessor::PhysicsProcessor(const math::Vector& gravity_) : gravity(gravity_) {
-    subscribe<messages::PhysicsController>(this);
-    subscribe<PhysicsLineMessage>(this);
-    subscribe<messages::EndLevel>(this);
-    subscribe<PlayerDead>(this);
+    subscribeToAll();
 
     const double rate = Timer::Instance().getProcessRate();
     gravity = math::Vector(gravity.x / rate, gravity.y / rate, gravity.z / rate);

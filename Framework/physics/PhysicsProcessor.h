@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Framework/Component.h"
-#include "Framework/MessageInterface.h"
+#include "Framework/MessageReceiver.h"
 #include "Framework/Messages.h"
 #include "Framework/math/Vector.h"
 #include "Framework/physics/PairList.h"
@@ -33,10 +33,8 @@ constexpr std::uint16_t max_sub_steps = 1000;
 /// addSquaresBetween, linesDifferFromLastSearch, findOuterBounds, testBoxes, holdsAnyTriangle,
 /// holds, catchTriangles, payOut), all others in PhysicsProcessor.cpp.
 class PhysicsProcessor : public Component,
-                         public MessageInterface<messages::PhysicsController>,
-                         public MessageInterface<PhysicsLineMessage>,
-                         public MessageInterface<messages::EndLevel>,
-                         public MessageInterface<PlayerDead> {
+                         public MessageReceiver<messages::PhysicsController, PhysicsLineMessage,
+                                                messages::EndLevel, PlayerDead> {
 public:
     /// @param gravity kept divided by the length of a tick in ms; as it stands, nothing falls
     explicit PhysicsProcessor(const math::Vector& gravity);

@@ -19,7 +19,7 @@ constexpr std::uint16_t line_life = 60000;              // ticks
 constexpr unsigned int burst_growth = 1500;             // ticks until a burst is full
 
 /// The coordinate of the i-th of `count` lines, centred on the origin.
-double placeOf(int i, int count) {
+double coordinateOf(int i, int count) {
     return (i - (count - 1) / 2.0) * line_gap;
 }
 
@@ -39,9 +39,9 @@ void exposePlayer(Field& field) {
 
 void crossLines(Field& field, int across, int upright) {
     for (int i = 0; i < across; ++i)
-        field.across(placeOf(i, across), -half_width, half_width)->lifeTicks = line_life;
+        field.across(coordinateOf(i, across), -half_width, half_width)->lifeTicks = line_life;
     for (int i = 0; i < upright; ++i)
-        field.upright(placeOf(i, upright), -half_height, half_height)->lifeTicks = line_life;
+        field.upright(coordinateOf(i, upright), -half_height, half_height)->lifeTicks = line_life;
     Engine::Instance().cleanupDeadEntities();
 }
 
@@ -63,9 +63,9 @@ Crowd::Crowd(int count) {
     for (int i = 0; i < count; ++i) {
         const double x = crowd_from + 0.7 + share() * (half_width - crowd_from - 2.0);
         const double y = (share() * 2.0 - 1.0) * (half_height - 1.0);
-        const math::Point place(i % 2 == 0 ? x : -x, y, 0);
+        const math::Point point(i % 2 == 0 ? x : -x, y, 0);
         auto* const triangle =
-            Engine::Instance().createEntity<Triangle>("Triangle", place, 0.0, 1.0);
+            Engine::Instance().createEntity<Triangle>("Triangle", point, 0.0, 1.0);
         Field::body(triangle).velocity = math::Vector(0.0, crowd_speed, 0.0);
         triangles.push_back(triangle);
     }
@@ -83,9 +83,9 @@ void furnishFrame(Field& field, const Furniture& furniture) {
     addBursts(field, furniture.bursts);
     for (int i = 0; i < 60; ++i) { // beyond each edge in turn
         const double along = i - 30.0;
-        const math::Point places[] = {
+        const math::Point points[] = {
             {along, 17, 0}, {along, -17, 0}, {22, along, 0}, {-22, along, 0}};
-        Engine::Instance().createEntity<Triangle>("Triangle", places[i % 4], 0.0, 1.0);
+        Engine::Instance().createEntity<Triangle>("Triangle", points[i % 4], 0.0, 1.0);
     }
     field.run.tick();
 }

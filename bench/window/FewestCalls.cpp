@@ -9,15 +9,15 @@ namespace {
 constexpr GLenum capabilities[] = {GL_DEPTH_TEST, GL_BLEND, GL_ALPHA_TEST, GL_LINE_SMOOTH};
 constexpr GLenum matrices[] = {GL_PROJECTION, GL_MODELVIEW};
 
-using Place = std::array<double, 4>;
+using Position = std::array<double, 4>;
 
-/// A place by one of GL's matrices, whose columns follow one another.
-Place transformed(GLenum matrix, const Place& place) {
+/// A position by one of GL's matrices, whose columns follow one another.
+Position transformed(GLenum matrix, const Position& position) {
     float m[16];
     glGetFloatv(matrix, m);
-    Place result{};
+    Position result{};
     for (std::size_t i = 0; i < 16; ++i)
-        result[i % 4] += m[i] * place[i / 4];
+        result[i % 4] += m[i] * position[i / 4];
     return result;
 }
 
@@ -90,9 +90,9 @@ void FewestCalls::add(const Shape& added) {
     glGetFloatv(GL_CURRENT_COLOR, vertex.colour);
     for (const std::size_t i : takenApart(added.mode, added.vertices.size())) {
         const auto& [x, y, z] = added.vertices[i];
-        const Place place =
+        const Position position =
             transformed(GL_PROJECTION_MATRIX, transformed(GL_MODELVIEW_MATRIX, {x, y, z, 1.0}));
-        std::copy(place.begin(), place.end(), vertex.place);
+        std::copy(position.begin(), position.end(), vertex.position);
         vertices.push_back(vertex);
     }
 }
@@ -118,7 +118,7 @@ void FewestCalls::play() const {
     glClear(GL_COLOR_BUFFER_BIT | GL_DEPTH_BUFFER_BIT);
     for (const auto& [state, vertices] : batches) {
         state.set();
-        glVertexPointer(4, GL_FLOAT, sizeof(Vertex), vertices.front().place);
+        glVertexPointer(4, GL_FLOAT, sizeof(Vertex), vertices.front().position);
         glColorPointer(4, GL_FLOAT, sizeof(Vertex), vertices.front().colour);
         glDrawArrays(state.mode, 0, static_cast<GLsizei>(vertices.size()));
     }

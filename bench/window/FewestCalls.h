@@ -30,8 +30,8 @@ public:
 
 private:
     struct Vertex {
-        float place[4];  ///< as GL clips it
-        float colour[4]; ///< red, green, blue, alpha
+        float position[4]; ///< as GL clips it
+        float colour[4];   ///< red, green, blue, alpha
     };
     struct Shape {
         GLenum mode;

@@ -101,8 +101,8 @@ void SoundFile::mendOpenSizes() {
     }
 }
 
-std::uint32_t SoundFile::sizeBehind(off_t place) const {
-    return static_cast<std::uint32_t>(std::max<off_t>(0, size() - place));
+std::uint32_t SoundFile::sizeBehind(off_t offset) const {
+    return static_cast<std::uint32_t>(std::max<off_t>(0, size() - offset));
 }
 
 std::size_t SoundFile::readAt(off_t at, void* bytes, std::size_t count) {
@@ -129,9 +129,9 @@ std::size_t SoundFile::read(void* bytes, std::size_t count) {
     if (allowance != unlimited) allowance -= got;
     for (const Mend& mend : mends)
         for (off_t i = 0; i < 4; ++i) {
-            const off_t place = mend.at + i - position;
-            if (place >= 0 && place < static_cast<off_t>(got))
-                static_cast<Byte*>(bytes)[place] = static_cast<Byte>(mend.value >> (8 * i));
+            const off_t offset = mend.at + i - position;
+            if (offset >= 0 && offset < static_cast<off_t>(got))
+                static_cast<Byte*>(bytes)[offset] = static_cast<Byte>(mend.value >> (8 * i));
         }
     position += static_cast<off_t>(got);
     return got;

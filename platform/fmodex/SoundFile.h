@@ -29,7 +29,7 @@ public:
     std::size_t read(void* bytes, std::size_t count);
     /// From now on `read` gives so many bytes in all, however often they are the same.
     void allow(std::uint64_t bytes) { allowance = bytes; }
-    /// @param whence SEEK_SET, SEEK_CUR or SEEK_END; @return the new place, -1 before the start
+    /// @param whence SEEK_SET, SEEK_CUR or SEEK_END; @return the new offset, -1 before the start
     off_t seek(off_t offset, int whence);
     off_t size() const { return end - start; }
 
@@ -44,7 +44,7 @@ private:
 
     void skipTags();
     void mendOpenSizes();
-    std::uint32_t sizeBehind(off_t place) const;
+    std::uint32_t sizeBehind(off_t offset) const;
     std::size_t readAt(off_t at, void* bytes, std::size_t count);
     std::size_t readFile(off_t from, void* bytes, std::size_t count) const;
 

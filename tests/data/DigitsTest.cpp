@@ -15,7 +15,7 @@ namespace {
 constexpr unsigned int em = 20; // pixels
 // In 64ths of a pixel. Digits stand seven and a half pixels apart, so each falls on them in two
 // ways.
-constexpr FT_Pos places[] = {0, 32};
+constexpr FT_Pos shifts[] = {0, 32};
 constexpr std::size_t told_apart = 12; // pixels in which two digits differ, of about 40 each
 
 using Pixels = std::set<std::pair<int, int>>;
@@ -33,10 +33,10 @@ protected:
         FT_Done_FreeType(library);
     }
 
-    Pixels draw(char digit, FT_Pos place) const {
+    Pixels draw(char digit, FT_Pos shift) const {
         EXPECT_EQ(FT_Load_Char(face, static_cast<FT_ULong>(digit), FT_LOAD_NO_HINTING), 0);
         FT_GlyphSlot glyph = face->glyph;
-        FT_Outline_Translate(&glyph->outline, place, 0);
+        FT_Outline_Translate(&glyph->outline, shift, 0);
         EXPECT_EQ(FT_Render_Glyph(glyph, FT_RENDER_MODE_MONO), 0);
         const FT_Bitmap& bitmap = glyph->bitmap;
         Pixels pixels;
@@ -65,13 +65,13 @@ int width(const Pixels& pixels) {
 } // namespace
 
 TEST_F(DigitsTest, AreToldApartAtAGlance) {
-    for (const FT_Pos place : places)
+    for (const FT_Pos shift : shifts)
         for (char a = '0'; a <= '9'; ++a)
             for (char b = '0'; b < a; ++b)
-                EXPECT_GE(difference(draw(a, place), draw(b, place)), told_apart)
+                EXPECT_GE(difference(draw(a, shift), draw(b, shift)), told_apart)
                     << a << " and " << b;
 }
 
 TEST_F(DigitsTest, ZerosAreEquallyWide) {
-    EXPECT_EQ(width(draw('0', places[0])), width(draw('0', places[1])));
+    EXPECT_EQ(width(draw('0', shifts[0])), width(draw('0', shifts[1])));
 }

@@ -1,4 +1,4 @@
-#include "Framework/MessageHandler.h"
+#include "Framework/MessageReceiver.h"
 #include "Framework/input/InputHandler.h"
 #include "Framework/input/Joystick.h"
 #include "Framework/input/KeyMapper.h"
@@ -22,14 +22,11 @@ using standins::sdl;
 
 namespace {
 
-template <class... Messages>
-struct Listening : MessageInterface<Messages>... {
-    Listening() { (subscribe<Messages>(this), ...); }
-};
-
 /// Writes down what the handlers publish.
-struct Recorder : Listening<messages::PlayerInput, messages::MenuMove, messages::EndGame,
-                            messages::EndLevel, messages::LiteralCharacter> {
+struct Recorder : MessageReceiver<messages::PlayerInput, messages::MenuMove, messages::EndGame,
+                                  messages::EndLevel, messages::LiteralCharacter> {
+    Recorder() { subscribeToAll(); }
+
     void receiveMessage(const messages::PlayerInput* m) override {
         out << m->move.x << ',' << m->move.y;
         if (m->fire.x != 0 || m->fire.y != 0) out << " fire " << m->fire.x << ',' << m->fire.y;

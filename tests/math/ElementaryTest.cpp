@@ -1,6 +1,6 @@
 #include "Framework/math/Elementary.h"
 #include "Framework/math/ElementaryTables.h"
-#include "tests/support/Reference.h"
+#include "tools/math/Reference.h"
 
 #include <gtest/gtest.h>
 
@@ -53,9 +53,9 @@ struct Long {
     }
 };
 
-void expectPair(const DoubleDouble& pair, Long& expected, const char* what, int place = 0) {
-    EXPECT_EQ(pair.high, expected.takeDouble()) << what << ' ' << place;
-    EXPECT_EQ(pair.low, expected.takeDouble()) << what << ' ' << place;
+void expectPair(const DoubleDouble& pair, Long& expected, const char* what, int number = 0) {
+    EXPECT_EQ(pair.high, expected.takeDouble()) << what << ' ' << number;
+    EXPECT_EQ(pair.low, expected.takeDouble()) << what << ' ' << number;
 }
 
 } // namespace

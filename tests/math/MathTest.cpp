@@ -1,5 +1,5 @@
+#include "Framework/Graphics/LineWidth.h"
 #include "Framework/Primitives/Box.h"
-#include "Framework/math/LineWidth.h"
 #include "Framework/math/MTRand.h"
 #include "Framework/math/Matrix.h"
 #include "tests/support/Settings.h"

@@ -2,8 +2,8 @@
 
 #include "tests/pictures/Pictures.h"
 
-#include "Framework/DebugBar.h"
 #include "Framework/Graphics/Camera.h"
+#include "Framework/Graphics/DebugBar.h"
 #include "Framework/Graphics/Draw.h"
 #include "Framework/Graphics/DrawPrimitives.h"
 #include "Framework/Graphics/Material.h"

@@ -53,7 +53,7 @@ TEST_F(Blocks, AreAtMostSoLarge) {
     EXPECT_THROW(readBack(noise + 'x'), BadFile);
     EXPECT_THROW(BlockWriter writer(path), std::runtime_error) << "there already";
     BlockReader reader(path);
-    EXPECT_EQ(reader.place(), BlockWriter::empty_size);
+    EXPECT_EQ(reader.offset(), BlockWriter::empty_size);
     EXPECT_EQ(reader.size(), contentsOf(path).size());
 }
 
@@ -62,18 +62,18 @@ TEST_F(Blocks, NoNewerVersionAndNoOtherRulesAreRead) {
     BlockWriter(path).write("x");
     const std::string file = contentsOf(path);
     const struct {
-        std::size_t place;
+        std::size_t offset;
         int change;
         bool isRead;
     } cases[] = {{11, 0, true}, {11, -1, true}, {11, 1, false}, {12, 1, false}, {12, -1, false}};
     for (const auto& c : cases) {
         std::string other = file;
-        other[c.place] = static_cast<char>(other[c.place] + c.change);
+        other[c.offset] = static_cast<char>(other[c.offset] + c.change);
         fill(path, other);
         if (c.isRead)
             EXPECT_EQ(BlockReader(path).read(), "x");
         else
-            EXPECT_THROW(BlockReader reader(path), BadFile) << c.place << ' ' << c.change;
+            EXPECT_THROW(BlockReader reader(path), BadFile) << c.offset << ' ' << c.change;
     }
 }
 

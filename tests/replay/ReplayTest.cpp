@@ -192,11 +192,11 @@ TEST_F(Replay, ACutOffFileHoldsUpToThere) {
 
 TEST_F(Replay, ADamagedFileIsToldInALine) {
     const std::string whole = contentsOf(kept);
-    const auto with = [&](std::size_t place, char byte) {
-        return std::string(whole).replace(place, 1, 1, byte);
+    const auto with = [&](std::size_t offset, char byte) {
+        return std::string(whole).replace(offset, 1, 1, byte);
     };
-    const auto flipped = [&](std::size_t place) {
-        return with(place, static_cast<char>(whole[place] ^ 1));
+    const auto flipped = [&](std::size_t offset) {
+        return with(offset, static_cast<char>(whole[offset] ^ 1));
     };
     const std::size_t secondBlock = 13 + 12 + static_cast<unsigned char>(whole[13]) +
                                     256U * static_cast<unsigned char>(whole[14]);

@@ -1,4 +1,4 @@
-// What a game is said to have been, and what could have helped in it.
+// The story of a game, and the remarks on what could have helped in it.
 
 #include "replay/Story.h"
 #include "headless/Sandbox.h"
@@ -214,7 +214,7 @@ TEST_F(StoryTest, ComparesWithWhatIsShipped) {
          [](replay::Setup& s) {
              s.colours = Shipped(KOV_SOURCE_DIR).palettes[0];
          }}, // for bright light
-        {0, 1, 0, 1, [](replay::Setup& s) { s.points[0].place[1] = 2.0; }},
+        {0, 1, 0, 1, [](replay::Setup& s) { s.points[0].coordinates[1] = 2.0; }},
         {0, 0, 2, 1,
          [](replay::Setup& s) {
              s.bindings[7] = {'z', 3};

@@ -1,6 +1,6 @@
 #!/bin/bash
-# The program as a player uses it, in a window on a display of its own (Xvfb), by keys: a game is
-# kept, told, proved, watched and filmed. Usage:
+# The program as a player uses it, in a window on a display of its own (Xvfb), by keys: it
+# keeps a game, then shows, verifies, watches and films it. Usage:
 #   player_test.sh KOV_REPLAY SOURCES CLOSE_WINDOW KOV_RECORD
 set -u
 replay=$1 sources=$2 close=$3 record=$4

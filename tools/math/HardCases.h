@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/support/Reference.h"
+#include "tools/math/Reference.h"
 
 namespace quorva::tools {
 

@@ -26,6 +26,9 @@ const char* const way_names[way_count] = {"window", "escape and window", "window
 
 namespace {
 
+static_assert(in_about - in_main_menu + 1 == menus::MainMenu::item_exit,
+              "each page of the menu is a moment, in the order of the menu");
+
 constexpr unsigned int longest_play = 400, longest_stay = 30; // passes
 constexpr unsigned int patience = 60000;                      // passes
 constexpr unsigned int key_interval = 3;                      // passes between keys in a menu

@@ -1,4 +1,4 @@
-#include "tests/support/Reference.h"
+#include "tools/math/Reference.h"
 
 #include "Framework/math/Elementary.h"
 #include "Framework/math/ElementaryExact.h"

@@ -1,4 +1,4 @@
-#include "Framework/math/LineWidth.h"
+#include "Framework/Graphics/LineWidth.h"
 
 #include "Framework/Config.h"
 

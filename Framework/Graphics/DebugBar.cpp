@@ -1,6 +1,6 @@
 #include <GL/glew.h>
 
-#include "Framework/DebugBar.h"
+#include "Framework/Graphics/DebugBar.h"
 
 #include "Framework/Managers/ColourManager.h"
 
