@@ -168,9 +168,9 @@ int watch(const Places& places, const Words& words) {
     const std::string path =
         fs::absolute(line.files.empty() ? demonstration(places) : fs::path(line.files[0])).string();
     const Summary summary(path);
-    const Watcher::Times times = {
-        summary.start, summary.length, from.empty() ? 0 : toTime(from),
-        speed.empty() ? 1.0 : toSpeed(speed, Watcher::slowest, Watcher::fastest)};
+    const Watcher::Times times = {summary.start, summary.length, from.empty() ? 0 : toTime(from),
+                                  speed.empty() ? 1.0
+                                                : toSpeed(speed, Pace::slowest, Pace::fastest)};
     requireDisplay();
     const fs::path songs = fs::absolute(places.data) / "Songs";
     Script script(path);

@@ -9,7 +9,7 @@ export const root = fileURLToPath(new URL('../..', import.meta.url));
 export const site = join(root, 'build/web');
 
 // Where a path is looked for, the first that has it counting.
-const folders = [site, join(root, 'build/wasm/tests/web'), join(root, 'tests/web'),
+const folders = [site, join(root, 'tests/recordings'), join(root, 'build/wasm/tests/web'), join(root, 'tests/web'),
                  join(root, 'bench/web'), root];
 
 const kinds = {
