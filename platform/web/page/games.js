@@ -65,9 +65,10 @@ export class Games {
     const game = { name: fileName, bytes };
     const row = document.createElement('tr');
     row.dataset.name = name;
-    for (const text of [hours ? `${day} ${hours}:${minutes}` : day, score ?? '–', ''])
+    for (const text of [hours ? `${day} ${hours}:${minutes}` : day, score ?? '–', '…'])
       row.insertCell().textContent = text;
-    row.insertCell().append(
+    const actions = row.insertCell().appendChild(document.createElement('div'));
+    actions.append(
       buttonOf('Watch', () => this.onWatch(game)), buttonOf('Prove', () => this.onProve(game)),
       linkTo(bytes, fileName), buttonOf('Delete', () => this.files.remove(name)));
     return row;

@@ -5,12 +5,12 @@ const ending = '.kovreplay';
 const largest = 64 << 20; // bytes, as everywhere
 const unreadable = 'no such file, or none that can be read';
 
-/** @param name of a file beside the page; with a folder or a host in it there is none of that name */
+/** @param name of a file beside the page's: with a folder or a host in it there is none */
 export async function fetchGame(name) {
   const refusal = new Error(`${name}: ${unreadable}`);
   if (!name.endsWith(ending) || /[/\\]/.test(name)) throw refusal;
   try {
-    const answer = await fetch(`./${encodeURIComponent(name)}`);
+    const answer = await fetch(new URL(encodeURIComponent(name), import.meta.url));
     if (!answer.ok) throw refusal;
     return { name, bytes: new Uint8Array(await answer.arrayBuffer()) };
   } catch {

@@ -283,7 +283,9 @@ const player = { follow() {} };
 let watching = null;
 let program = null; // its code, for every start anew
 
+/** @param on while a proof takes the picture's place */
 function hold(on) {
+  scrollTo(0, 0);
   isHeld = on || watching !== null;
   player.follow();
   watching?.hold(on);

@@ -12,7 +12,7 @@ export class Proof {
   constructor(root, { onOpen, onClose, onWatch }) {
     const part = name => root.querySelector(name);
     Object.assign(this, { root, onOpen, onClose });
-    [this.title, this.bar, this.verdict] = ['h2', 'progress', '#verdict'].map(part);
+    [this.bar, this.verdict] = ['progress', '#verdict'].map(part);
     [this.watch, this.leave] = ['.watch', '.close'].map(part);
     this.leave.addEventListener('click', () => this.close());
     this.watch.addEventListener('click', () => {
@@ -27,12 +27,11 @@ export class Proof {
     this.game = game;
     this.onOpen();
     this.root.hidden = false;
-    this.title.textContent = game.name;
     this.bar.hidden = false;
     this.bar.value = 0;
     this.watch.hidden = true;
     this.verdict.className = '';
-    this.verdict.textContent = 'is being played again, unseen';
+    this.verdict.textContent = `${game.name} is being played again, unseen.`;
     this.leave.focus();
     const { code, text } = await prove(game.name, game.bytes, {
       signal: this.stop.signal,
