@@ -50,7 +50,7 @@ untouched game has a (!) behind it. <code>kov-replay watch</code> shows a file.<
 
 // With the game for browsers. Without scripts its buttons stay hidden.
 const char* const web_head =
-    R"(<meta http-equiv="Content-Security-Policy" content="default-src 'none'; script-src 'self'; style-src 'unsafe-inline'; img-src 'self'; connect-src 'self'; worker-src 'self'; base-uri 'none'; form-action 'none'">
+    R"(<meta http-equiv="Content-Security-Policy" content="default-src 'none'; script-src 'self' 'wasm-unsafe-eval'; style-src 'unsafe-inline'; img-src 'self'; connect-src 'self'; worker-src 'self'; base-uri 'none'; form-action 'none'">
 <link rel="icon" href="play/icons/kov.svg" type="image/svg+xml">
 <script type="module" src="play/table.js"></script>
 )";

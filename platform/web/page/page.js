@@ -6,6 +6,7 @@ import { followKeys } from './keys.js';
 import { note, say, unsay } from './message.js';
 import { fetchGame, followFiles } from './opened.js';
 import { followPads } from './pad.js';
+import { codeOf, startFrom } from './program.js';
 import { Proof } from './proof.js';
 import { Screen } from './screen.js';
 import { Sound } from './sound.js';
@@ -281,7 +282,6 @@ function run(kov, files) {
 let isHeld = false;
 const player = { follow() {} };
 let watching = null;
-let program = null; // its code, for every start anew
 
 /** @param on while a proof takes the picture's place */
 function hold(on) {
@@ -304,12 +304,7 @@ const leave = () => location.replace(location.pathname);
 
 async function createWatched(options) {
   const { default: createKov } = await import('./kov.js');
-  program ??= await WebAssembly.compile(await (await fetch('kov.wasm')).arrayBuffer());
-  const instantiateWasm = (imports, receive) => {
-    WebAssembly.instantiate(program, imports).then(receive);
-    return {};
-  };
-  return createKov({ ...own, instantiateWasm, ...options });
+  return createKov({ ...own, ...startFrom(await codeOf('kov.wasm')), ...options });
 }
 
 function watch(game) {
@@ -322,8 +317,8 @@ function watch(game) {
     page,
     createProgram: createWatched,
     onRefusal: refuse,
-    onFault: error => {
-      refuse(program === null ? failures.fetch : failures.stopped);
+    onFault: (error, isThere) => {
+      refuse(isThere ? failures.stopped : failures.fetch);
       throw error;
     },
   });

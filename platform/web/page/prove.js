@@ -1,10 +1,16 @@
 // Proves kept games, each in a worker of its own, so that the page stays alive.
 
-const shortest = 10000; // ms, for any game
-const slowest = 1 / 10; // of the time that was played: a machine that can play proves far faster
+import { codeOf } from './program.js';
+
+// ms that a proof may take: some for any game, and a share of the time that was played, as a machine
+// that can play proves far faster. A file may claim to be of any length.
+const shortest = 10000, longest = 600000;
+const share = 1 / 10;
 
 /** What `kov-replay verify` ends with. */
 const unusable = 2;
+
+const program = 'kov-prove.wasm';
 
 /**
  * @param onProgress called with the percentage that is done
@@ -34,13 +40,13 @@ export function prove(name, bytes, { onProgress = () => {}, signal } = {}) {
     signal?.addEventListener('abort', end);
     worker.onerror = isMissing;
     worker.onmessage = ({ data }) => {
-      if (data.isMissing) isMissing();
       if (data.isReady) limit(shortest);
-      if ('length' in data) limit(shortest + data.length * slowest);
+      if ('length' in data) limit(Math.min(shortest + data.length * share, longest));
       if ('percent' in data) onProgress(data.percent);
       if (data.hasFailed) complain('the game has failed');
-      if ('code' in data) say(data.code, data.text);
+      if ('result' in data) say(data.result, data.text);
     };
-    worker.postMessage({ name, bytes });
+    limit(longest);
+    codeOf(program).then(code => worker.postMessage({ name, bytes, code }), isMissing);
   });
 }

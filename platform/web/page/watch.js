@@ -15,7 +15,7 @@ export class Watching {
    * @param page what the program asks of the page, but for the sound
    * @param createProgram from Emscripten's options
    * @param onRefusal called with what is wrong with the file
-   * @param onFault called with an error of the program's own
+   * @param onFault called with an error, and whether the program was there at all
    */
   constructor(game, bar, { page, createProgram, onRefusal, onFault }) {
     Object.assign(this, { game, bar, page, createProgram, onRefusal, onFault });
@@ -34,12 +34,14 @@ export class Watching {
       afterFirstPicture: action => action(),
       lacks: this.page.lacks,
     }, this.sound?.context);
+    let isThere = false;
     try {
       const program = await this.createProgram({
         noInitialRun: true,
         printErr: line => lines.push(line),
         page: { ...this.page, sound, showPlace: state => this.show(state) },
       });
+      isThere = true;
       if (start !== this.start) return; // another one has begun
       program.FS.writeFile(path, this.game.bytes);
       if (program.callMain(['--watch', path]) !== 0)
@@ -49,7 +51,7 @@ export class Watching {
       this.last = performance.now();
       this.turn();
     } catch (error) {
-      this.onFault(error);
+      this.onFault(error, isThere);
     }
   }
 
@@ -82,8 +84,7 @@ export class Watching {
     try {
       this.program._kovWatch(passed);
     } catch (error) {
-      this.end();
-      this.onFault(error);
+      this.onFault(error, true);
     }
   }
 
