@@ -21,9 +21,9 @@ async function start(server) {
   const browser = await launch('chromium', { width: 800, height: 644 });
   try {
     const page = await browser.newPage();
-    const game = new Game(page);
+    const game = new Game(page, server);
     server.asked.length = 0;
-    await game.open(server.address);
+    await game.open();
     const first = await page.evaluate(
       () => performance.getEntriesByName('kov-first-picture')[0].startTime);
     await pause(2000); // effects, and what is kept for later

@@ -2,8 +2,8 @@
 // would: none may hang, or end in anything but a verdict. Prints a line for what does, and how many
 // verdicts of each kind there were. Wants what prepare.sh builds.
 //   node tests/web/mutants.js [COUNT [SEED]]
-// Half of them are whole files with a few bytes changed, which their checksums give away. The others
-// are packed anew, so that what is wrong comes to the records' reader or to the game.
+// Half of them are whole files with a few bytes changed, which their checksums give away. The
+// others are packed anew, so that what is wrong comes to the records' reader or to the game.
 
 import { readFileSync, readdirSync } from 'node:fs';
 import { join } from 'node:path';
@@ -76,9 +76,9 @@ const head = games[0].subarray(0, headSize);
 const unpacked = await Promise.all(games.map(recordsOf));
 // An input of the fuzz target says by its first byte whether it is a file or what is in one.
 const kept = filesIn('fuzz/corpus/replay_file').filter(input => input.length > 1);
-const wholes = [...games, ...kept.filter(input => input[0] % 4 === 0).map(input => input.subarray(1))];
-const records = [...unpacked,
-                 ...kept.filter(input => input[0] % 4 !== 0).map(input => input.subarray(1))];
+const contentsOf = inputs => inputs.map(input => input.subarray(1));
+const wholes = [...games, ...contentsOf(kept.filter(input => input[0] % 4 === 0))];
+const records = [...unpacked, ...contentsOf(kept.filter(input => input[0] % 4 !== 0))];
 
 function nextMutant(i) {
   if (i % 2 === 0) return mutate(wholes[random(wholes.length)]);
