@@ -99,7 +99,7 @@ suite('the page', ({ test, shot }) => {
     assert.match(await game.verdict(), /: holds$/m);
   }
 
-  test('a kept game holds', async (game, page) => {
+  test('a kept game is listed with its score, and holds', async (game, page) => {
     await game.open();
     await game.press('ArrowDown', 'Enter', 'ArrowUp', 'ArrowUp', 'ArrowUp', 'ArrowRight');
     await game.press('ArrowDown', 'Enter'); // Save CPU, Save
@@ -108,6 +108,9 @@ suite('the page', ({ test, shot }) => {
     await pause(4000); // more than a hundred ticks, after which the state is kept, too
     await game.press('Escape');
     await game.untilShows('menu');
+    const cells = () => page.$$eval('#kept td', list => list.map(cell => cell.textContent).join());
+    await game.until(async () => /^[-\d]+ \d\d:\d\d,0,0:0\d,/.test(await cells()),
+                     'its date, score and length while the program goes on');
     await proveKeptGame(game, page);
   });
 

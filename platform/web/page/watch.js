@@ -99,9 +99,9 @@ export class Watching {
     toggle.textContent = state.stands || isOver ? '▶' : '❚❚';
     step.disabled = !state.stands || isOver;
     speed.textContent = `×${state.speed}`;
-    time.textContent = `${timeText(state.place)} / ${timeText(state.length)}`;
     end.textContent = state.seeks ? 'seeking' : isOver ? state.end || 'the end' : '';
     if (this.isDragged) return;
+    time.textContent = `${timeText(state.place)} / ${timeText(state.length)}`;
     seek.max = state.length;
     seek.value = this.target ?? state.place;
     if (!state.seeks) this.target = null;
@@ -119,6 +119,7 @@ export class Watching {
     if (!this.state) return;
     const { place: reached, speed, stands, end } = this.state;
     this.target = place;
+    this.parts.end.textContent = 'seeking';
     if (place < reached || end !== null) this.begin(place, speed, stands);
     else this.program._kovSeek(place, speed, stands);
   }
