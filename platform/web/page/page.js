@@ -308,6 +308,7 @@ async function createWatched(options) {
 }
 
 function watch(game) {
+  if (!page.screen.gl) return say(failures.webGL, true);
   watching?.end();
   const refuse = text => {
     watching.end();
@@ -335,7 +336,7 @@ function watch(game) {
 async function open(opened) {
   try {
     const game = await opened;
-    proof.close();
+    proof.hide();
     watch(game);
   } catch (error) {
     note(error.message);

@@ -16,7 +16,7 @@ export class Proof {
     [this.watch, this.leave] = ['.watch', '.close'].map(part);
     this.leave.addEventListener('click', () => this.close());
     this.watch.addEventListener('click', () => {
-      this.close();
+      this.hide();
       onWatch(this.game);
     });
   }
@@ -52,9 +52,13 @@ export class Proof {
     this.verdict.textContent = text;
   }
 
-  close() {
+  hide() {
     this.stop?.abort();
     this.root.hidden = true;
+  }
+
+  close() {
+    this.hide();
     this.onClose();
   }
 }
