@@ -33,6 +33,8 @@ OTHER_PROGRAMS = ["tests/kov_fault_tests", "kov", "replay/kov-replay", "replay/k
                   "tests/kov_replay_tests", "tools/kov_record"]
 SLOW_SECONDS = 1  # a test that takes longer waits until the others have passed
 MEMORY_LIMIT = 4 << 30  # bytes a test process may map: a fault may ask for all there is
+OUTPUT = "mutants.log"  # of the last command
+FAILED_TEST = re.compile(r"^\[  FAILED  \] ([\w./]+)|^\s+\d+ - (\S+) \(", re.M)
 SLACK_SECONDS = 30  # on top of three times what the same tests take without a fault
 
 NUMBER = re.compile(r"(?<![\w.])(\d+\.\d*|\.\d+|\d+)(?:[eE][+-]?\d+)?(?=[uUlLfF]*\b|[^\w.]|$)")
@@ -203,9 +205,10 @@ class Copy:
             os.setsid()
             if are_tests:
                 resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
-        process = subprocess.Popen(command, cwd=self.build if self.build.exists() else self.folder,
-                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                   stdin=subprocess.DEVNULL, preexec_fn=own_group)
+        with open(self.folder / OUTPUT, "wb") as output:
+            process = subprocess.Popen(command, cwd=self.build if self.build.exists() else self.folder,
+                                       stdout=output, stderr=output, stdin=subprocess.DEVNULL,
+                                       preexec_fn=own_group)
         try:
             return process.wait(limit)
         except subprocess.TimeoutExpired:
@@ -233,6 +236,12 @@ class Copy:
         self.limits.setdefault(command[0], 3 * (time.monotonic() - started) + SLACK_SECONDS)
         return passed
 
+    def killer(self):
+        """The first test that has failed, by what the last command has printed."""
+        output = (self.folder / OUTPUT).read_text(errors="replace")
+        found = FAILED_TEST.search(output)
+        return found.group(1) or found.group(2) if found else "a crash or the limit of time"
+
     def fails(self, program):
         return not self.test(self.build / program, "--gtest_fail_fast")
 
@@ -248,18 +257,18 @@ class Copy:
         return not all(self.test(*suite, choice, f"^({self.slow})$") for choice in ("-E", "-R"))
 
     def outcome(self):
-        """"survives", "dies", "does not build" or "changes nothing". The programs that run whole come
+        """"survives", "dies by …", "does not build" or "changes nothing". The programs that run whole come
         first: they are quick to build and run, and see most faults."""
         for program in WHOLE_PROGRAMS:
             if not self.compile("--target", Path(program).name):
                 return "does not build"
             if self.has_changed(program) and self.fails(program):
-                return "dies"
+                return f"dies by {self.killer()}"
         if not self.compile():
             return "does not build"
         if not any(self.has_changed(program) for program in self.digests):
             return "changes nothing"
-        return "dies" if self.rest_fails() else "survives"
+        return f"dies by {self.killer()}" if self.rest_fails() else "survives"
 
     def try_out(self, fault):
         path = self.folder / fault.path
@@ -277,7 +286,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n\n")[0])
     parser.add_argument("--seed", type=int, required=True)
     parser.add_argument("--count", type=int, required=True, metavar="N")
-    parser.add_argument("--verbose", action="store_true", help="also print the faults that are found")
+    parser.add_argument("--verbose", action="store_true", help="also print the faults that are found, and by which test")
     parser.add_argument("folders", nargs="*", default=DEFAULT_FOLDERS, metavar="FOLDER")
     arguments = parser.parse_args()
     draw = Draw(ROOT, arguments.folders, arguments.seed)
@@ -286,8 +295,9 @@ def main():
     while sum(ends.values()) < arguments.count:
         fault = draw.next()
         end = copy.try_out(fault)
-        if end in ends:
-            ends[end] += 1
+        kind = "dies" if end.startswith("dies") else end
+        if kind in ends:
+            ends[kind] += 1
         if end == "survives" or arguments.verbose:
             print(f"{end}: {fault}", flush=True)
     print(f"{sum(ends.values())} mutants, {ends['survives']} survive, "

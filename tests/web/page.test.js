@@ -13,6 +13,11 @@ import { suite } from './suite.js';
 const hasMoved = game => async () => (await game.colourAt(0.5, 0.5))[0] < 200;
 
 // Scripts in front of the page's own.
+const watchSound = `globalThis.sounding = [];
+  for (const name of ['AudioContext', 'Audio'])
+    globalThis[name] = class extends globalThis[name] {
+      constructor(...of) { super(...of); globalThis.sounding.push(this); }
+    };`;
 const without = {
   storage: `Object.defineProperty(globalThis, "indexedDB", {
     get() { throw new Error("refused"); } });`,
@@ -22,9 +27,9 @@ const without = {
 
 // Of the first game in the recording that kov_watch plays.
 const record = 7115;
-const wholeGame = 90000; // ms that it may take
+const wholeGame = 240000; // ms that it may take
 
-suite('the page', ({ test, shot }) => {
+suite('the page', ({ name, test, shot }) => {
   test('loads, and shows the menu', async (game, page) => {
     await game.open();
     await game.untilShows('menu');
@@ -114,22 +119,31 @@ suite('the page', ({ test, shot }) => {
     await proveKeptGame(game, page);
   });
 
-  test('a hidden tab stands still and goes on', async (game, page) => {
+  test('a hidden tab stands still in silence, and goes on', async (game, page) => {
     const hide = hidden => page.evaluate(now => {
       Object.defineProperty(document, 'hidden', { value: now, configurable: true });
       document.dispatchEvent(new Event('visibilitychange'));
     }, hidden);
+    /** The output of effects, and the song. */
+    const sounds = () => page.evaluate(() => globalThis.sounding.map(
+      each => (each.state ? each.state === 'running' : !each.paused)));
+    // Firefox plays no effects where there is no device for them.
+    const areHeard = async () => (await sounds())[name === 'firefox' ? 'some' : 'every'](on => on);
+    const areSilent = async () => !(await sounds()).some(on => on);
     await game.open();
     await game.startLevel();
-    await pause(2000);
+    await game.until(async () => (await sounds()).length > 1, 'a song');
+    await game.until(areHeard, 'effects and song to be heard');
     await hide(true);
+    await game.until(areSilent, 'silence');
     const left = await page.evaluate(() => document.getElementById('screen').toDataURL());
     await pause(1000);
     assert.equal(await page.evaluate(() => document.getElementById('screen').toDataURL()), left);
     await hide(false);
+    await game.until(areHeard, 'effects and song to go on');
     const first = await game.picture();
     await game.until(async () => !areEqual(first, await game.picture()), 'the game going on');
-  });
+  }, { prelude: watchSound });
 
   test('a pad', async (game, page) => {
     await game.open();
@@ -268,6 +282,19 @@ suite('the page', ({ test, shot }) => {
     await game.firstPicture();
     await game.startLevel();
   });
+
+  if (name === 'chromium') // the only one that tells
+    test('can be installed', async (game, page) => {
+      await game.open();
+      await page.evaluate(() => navigator.serviceWorker.ready);
+      const devTools = await page.createCDPSession();
+      const { url, errors } = await devTools.send('Page.getAppManifest');
+      assert.match(url, /kov\.webmanifest$/);
+      assert.deepEqual(errors, []);
+      const { installabilityErrors } = await devTools.send('Page.getInstallabilityErrors');
+      assert.deepEqual(installabilityErrors.filter(
+        ({ errorId }) => errorId !== 'in-incognito'), []); // as every test is
+    });
 
   test('"Exit" offers to start again', async (game, page) => {
     await game.open();

@@ -81,6 +81,13 @@ describe('pictures in a page and by the machine', () => {
     for (const tick of words) check(`tick-${tick}`, ours[tick], pages[tick]);
   });
 
+  it('figures that play seldom shows', async () => {
+    const words = size.map(String);
+    const ours = byMachine('kov_figures', folder => [folder, ...words]);
+    const pages = await inPage('kov_figures', ['/pictures', ...words]);
+    check('figures', ours.figures, pages.figures);
+  });
+
   const scenes = { pages: ['menu', 'help', 'about', 'config'], verdicts: ['game-over'] };
   for (const [scene, names] of Object.entries(scenes))
     it(`scene "${scene}"`, async () => {

@@ -14,7 +14,7 @@ export const results = join(root, 'build/web-tests'); // for people to look at
 /** @param define called for each browser: its name, what adds a test, what takes a picture */
 export function suite(what, define) {
   for (const name of browserNames)
-    describe(`${what} in ${name}`, { timeout: 300000 }, () => {
+    describe(`${what} in ${name}`, { timeout: 900000 }, () => {
       let browser;
 
       before(async () => {
