@@ -268,6 +268,9 @@ def page_rows():
            "fastest of seven " + ms(figures["fastestFirstPicture"]), None, by)
     yield ("page: a frame of its thread, busiest half minute of a game", ms(figures["median"]),
            "99 of 100 within " + ms(figures["p99"]), None, by)
+    yield ("page: a proof", "%.0f ticks a second" % figures["proof"], "played: 33", None, by)
+    yield ("page: seeking six to seven minutes ahead", ms(figures["ahead"]),
+           "back to the start " + ms(figures["back"]), None, by)
 
 
 # The document

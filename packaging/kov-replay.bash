@@ -5,7 +5,7 @@ _kov_replay_files() {
     local i files=0
     for ((i = 2; i < COMP_CWORD; i++)); do
         case ${COMP_WORDS[i]} in
-        --speed | --size | --from | --to | --page | :) ((i++)) ;; # a time is three words to bash, 2 : 30
+        --speed | --size | --from | --to | --page | --with-web | :) ((i++)) ;; # a time is three words to bash, 2 : 30
         -*) ;;
         *) ((files++)) ;;
         esac
@@ -25,7 +25,7 @@ _kov_replay() {
     fi
     case $before:$word in
     --speed:* | --from:* | --to:* | --size:* | ::* | *::) return ;; # numbers and times
-    --page:*)
+    --page:* | --with-web:*)
         compopt -o filenames
         mapfile -t COMPREPLY < <(compgen -d -- "$word")
         return
@@ -35,7 +35,7 @@ _kov_replay() {
     watch) options="--speed --from" ;;
     film) options="--size --from --to --full" ;;
     verify) options="--fair" ;;
-    best) options="--page" ;;
+    best) options="--page --with-web" ;;
     esac
     case $command:$(_kov_replay_files):$word in
     *:*:-*) mapfile -t COMPREPLY < <(compgen -W "$options" -- "$word") ;;

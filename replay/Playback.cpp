@@ -191,6 +191,16 @@ void Playback::nextPass() {
     });
 }
 
+std::optional<std::uint32_t> Playback::timeAhead() {
+    std::optional<std::uint32_t> time;
+    whileReadable([&] {
+        const Record* const next = script.ahead();
+        const auto* const ahead = next == nullptr ? nullptr : std::get_if<Pass>(next);
+        if (ahead != nullptr && !ahead->clock.empty()) time = ahead->clock.back();
+    });
+    return time;
+}
+
 void Playback::finish() {
     progress_.look();
     whileReadable([this] {

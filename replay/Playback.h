@@ -50,6 +50,9 @@ protected:
     /// Plays, in place of the song that was played, one of that length.
     virtual FMOD_RESULT openSongOf(std::uint32_t ms, FMOD_SYSTEM* system, FMOD_SOUND** song);
 
+    /// ms, the clock at the end of the pass behind this one; empty if that isn't what comes next.
+    std::optional<std::uint32_t> timeAhead();
+
     void stop() { ending = true; } ///< the game is to end now
     bool isEnding() const { return ending; }
     bool isIdle() const { return idle != 0; }

@@ -18,21 +18,21 @@ Script::Script(const std::string& path) : file(path), block(file.read()) {
 }
 
 bool Script::atEnd() {
-    if (!ahead && !ended) fetch();
-    return !ahead;
+    if (!next && !ended) fetch();
+    return !next;
 }
 
 std::optional<Record> Script::take() {
     if (atEnd()) return {};
-    return std::exchange(ahead, std::nullopt);
+    return std::exchange(next, std::nullopt);
 }
 
 void Script::fetch() {
     if (block.left() == 0) block = ByteReader(file.read());
     if (block.left() == 0) return;
-    ahead = reader.read(block);
-    if (const auto* const pass = std::get_if<Pass>(&*ahead)) require(*pass);
-    if (!std::holds_alternative<End>(*ahead)) return;
+    next = reader.read(block);
+    if (const auto* const pass = std::get_if<Pass>(&*next)) require(*pass);
+    if (!std::holds_alternative<End>(*next)) return;
     ended = true;
     if (block.left() != 0 || !file.read().empty() || file.isCutOff()) damaged(); // more follows
 }

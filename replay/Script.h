@@ -18,7 +18,9 @@ public:
     /// Whether the last record that is there has been taken.
     bool atEnd();
 
-    /// The next record, if it is one of these; else it stays the next.
+    /// The next record, which stays the next; null at the end.
+    const Record* ahead() { return atEnd() ? nullptr : &*next; }
+    /// The same, taken, if it is one of these; else it stays the next.
     template <class Kind>
     std::optional<Kind> take();
     /// Whatever it is; empty at the end.
@@ -37,7 +39,7 @@ private:
     BlockReader file;
     RecordReader reader;
     ByteReader block;
-    std::optional<Record> ahead;
+    std::optional<Record> next;
     bool ended = false; ///< by its end record
     std::uint64_t idle = 0;
     std::optional<std::uint32_t> start; ///< ms, the clock at the first pass
@@ -46,10 +48,10 @@ private:
 template <class Kind>
 std::optional<Kind> Script::take() {
     if (atEnd()) return {};
-    auto* const found = std::get_if<Kind>(&*ahead);
+    auto* const found = std::get_if<Kind>(&*next);
     if (found == nullptr) return {};
     std::optional<Kind> taken = std::move(*found);
-    ahead.reset();
+    next.reset();
     return taken;
 }
 

@@ -57,11 +57,15 @@ Stage::Stage(const fs::path& source, const Setup& setup)
         fs::copy_file(shipped.bindings, "bind1.conf");
 }
 
-int runGame(const Setup& setup) {
+std::vector<std::string> optionsOf(const Setup& setup) {
     std::vector<std::string> options;
     for (const auto& [letter, value] : setup.settings)
         options.push_back(argument(letter, value));
-    return headless::runGameMain(options);
+    return options;
+}
+
+int runGame(const Setup& setup) {
+    return headless::runGameMain(optionsOf(setup));
 }
 
 } // namespace quorva::replay

@@ -24,6 +24,9 @@ private:
     headless::Sandbox sandbox;
 };
 
+/// The recorded settings, as the command line has them.
+std::vector<std::string> optionsOf(const Setup& setup);
+
 /// Runs the whole game with the recorded settings, from its main to its end.
 /// @return its exit code
 int runGame(const Setup& setup);

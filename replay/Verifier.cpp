@@ -3,37 +3,10 @@
 #include "replay/Interruption.h"
 #include "replay/Words.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <iostream>
 #include <utility>
 
 namespace quorva::replay {
-
-namespace {
-
-constexpr unsigned int calls_a_look = 256;
-constexpr std::chrono::milliseconds meter_interval(300);
-
-} // namespace
-
-bool Meter::isTerminal() {
-    return isatty(STDOUT_FILENO) != 0;
-}
-
-void Meter::show(double part) {
-    if (!isWanted || ++calls % calls_a_look != 0) return;
-    const auto time = std::chrono::steady_clock::now();
-    if (time - shown < meter_interval) return;
-    shown = time;
-    hasShown = true;
-    std::cout << '\r' << static_cast<int>(100.0 * part) << " % " << std::flush;
-}
-
-void Meter::clear() {
-    if (std::exchange(hasShown, false)) std::cout << "\r      \r" << std::flush;
-}
 
 Verifier::Verifier(Script& script_, const Shipped& shipped_, bool withPictures)
     : Playback(script_), shipped(shipped_) {
@@ -69,14 +42,14 @@ void Verifier::takePicture() {
 }
 
 void Verifier::passIdly() {
-    meter.show(static_cast<double>(script.place()) / static_cast<double>(script.size()));
+    if (onProgress)
+        onProgress(static_cast<double>(script.place()) / static_cast<double>(script.size()));
 }
 
 void Verifier::finish() {
     Playback::finish();
     pictureIsDue = false;
     look();
-    meter.clear();
 }
 
 std::string Verifier::verdict() {

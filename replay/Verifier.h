@@ -7,27 +7,11 @@
 #include "replay/Shipped.h"
 #include "replay/Story.h"
 
-#include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 
 namespace quorva::replay {
-
-/// Says on a terminal how much is done.
-class Meter {
-public:
-    /// @param part done, from 0 to 1. To be called often: it seldom looks at the clock.
-    void show(double part);
-    void clear();
-
-private:
-    const bool isWanted = isTerminal();
-    static bool isTerminal();
-
-    bool hasShown = false;
-    unsigned int calls = 0;
-    std::chrono::steady_clock::time_point shown = std::chrono::steady_clock::now();
-};
 
 /// Plays a file without a window, as fast as it goes, and tells what happens in its games.
 class Verifier : public Playback {
@@ -45,7 +29,7 @@ public:
     Report report();
 
     Story story;
-    Meter meter;
+    std::function<void(double part)> onProgress; ///< may be empty; part done, from 0 to 1
 
 private:
     void prepareGame() override;

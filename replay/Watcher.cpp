@@ -2,27 +2,20 @@
 
 #include "game/FModSystem.h"
 #include "replay/Interruption.h"
-#include "replay/Words.h"
-
-#include <algorithm>
-#include <sstream>
 
 namespace quorva::replay {
 
 namespace {
 
-constexpr Uint32 nap = 5;           // ms between two looks at the keys
-constexpr double late = 60.0;       // ms: frames that come later than that aren't drawn
-constexpr Uint32 longest_nap = 500; // ms: after a longer one time has stood still
+constexpr Uint32 nap = 5; // ms between two looks at the keys
 
 } // namespace
 
 Watcher::Watcher(Script& script_, const boost::filesystem::path& songs_, const Times& times_)
-    : WindowPlayback(script_, songs_), times(times_), position(times_.from) {}
+    : WindowPlayback(script_, songs_), times(times_), pace(times_.from, times_.speed) {}
 
 bool Watcher::draws() {
-    return !isIdle() && place() >= times.from &&
-           position - place() <= late * std::max(1.0, times.speed);
+    return !isIdle() && place() >= times.from && pace.isInTime(place());
 }
 
 /// Here, so that the music of a pause stands as long as the picture does.
@@ -49,13 +42,13 @@ void Watcher::waitFor(double ms) {
     for (;;) {
         takeKeys();
         const std::uint32_t time = Tape::clock();
-        if (!standing) position += times.speed * std::min(time - lastTime, longest_nap);
+        pace.goOn(time - lastTime);
         lastTime = time;
-        if (isEnding() || (!standing && position >= ms)) return;
-        if (std::exchange(stepping, false)) {
-            position = ms;
+        if (pace.takeStep()) {
+            pace.position = ms;
             return;
         }
+        if (isEnding() || (!pace.standing && pace.position >= ms)) return;
         FMOD_System_Update(FModSystem::Instance().system);
         SDL_Delay(nap);
     }
@@ -67,29 +60,18 @@ void Watcher::takeKeys() {
     SDL_Event event;
     while (Tape::poll(&event) != 0) {
         if (event.type == SDL_QUIT) stop();
-        if (event.type == SDL_KEYDOWN) press(event.key.keysym.sym);
+        if (event.type != SDL_KEYDOWN) continue;
+        pace.press(event.key.keysym.sym);
+        showState();
     }
-}
-
-void Watcher::press(int symbol) {
-    if (symbol == SDLK_ESCAPE) stop();
-    if (symbol == SDLK_SPACE) standing = !standing;
-    if (symbol == SDLK_RIGHT && standing)
-        stepping = true;
-    else if (symbol == SDLK_RIGHT || symbol == SDLK_UP)
-        times.speed = std::min(times.speed * 2.0, fastest);
-    else if (symbol == SDLK_LEFT || symbol == SDLK_DOWN)
-        times.speed = std::max(times.speed / 2.0, slowest);
-    showState();
+    if (pace.leaves) stop();
 }
 
 /// In the window's title.
 void Watcher::showState() {
-    std::ostringstream title;
-    title << "KOV  " << minutes(place()) << " / " << minutes(times.length) << "  x" << times.speed
-          << (standing ? "  stopped" : "");
-    if (title.str() == shownTitle) return;
-    shownTitle = title.str();
+    const std::string title = "KOV  " + pace.inWords(place(), times.length);
+    if (title == shownTitle) return;
+    shownTitle = title;
     SDL_WM_SetCaption(shownTitle.c_str(), shownTitle.c_str());
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "replay/Pace.h"
 #include "replay/WindowPlayback.h"
 
 #include <cstdint>
@@ -7,8 +8,7 @@
 
 namespace quorva::replay {
 
-/// Shows a game at the speed that it was played at, or another. Space stops it and lets it go on;
-/// up and down, or right and left, change the speed; right steps while it stands; Escape leaves.
+/// Shows a game in a window, at the speed that it was played at, or another.
 class Watcher : public WindowPlayback {
 public:
     struct Times {
@@ -23,8 +23,6 @@ public:
     bool draws() override;
     bool sounds() override { return draws(); }
 
-    static constexpr double slowest = 0.125, fastest = 64.0; ///< times
-
 protected:
     void moveOn() override;
     void show() override;
@@ -34,15 +32,13 @@ private:
     std::uint32_t place() const { return now() - times.start; }
     void waitFor(double ms);
     void takeKeys();
-    void press(int symbol);
     void showState();
 
-    Times times;
-    double position;            ///< ms after the start, where watching is
+    const Times times;
+    Pace pace;
     std::uint32_t lastTime = 0; ///< ms, the real clock; as the next
     std::uint32_t lastLook = 0; ///< at the keys
     bool hasBegun = false;      ///< the first frame is there
-    bool standing = false, stepping = false;
     std::string shownTitle;
 };
 

@@ -44,7 +44,8 @@ const char* const usage_text =
     "       kov-replay film FILE OUT.mp4 [--size WxH] [--from M:SS] [--to M:SS] [--full]\n"
     "                                                    make a film, by the program ffmpeg\n"
     "       kov-replay show FILE                         tell what is in it\n"
-    "       kov-replay best [FOLDER] [--page FOLDER]     the ten best games, proved\n"
+    "       kov-replay best [FOLDER] [--page FOLDER [--with-web BUILD]]\n"
+    "                                                    the ten best games, proved\n"
     "       kov-replay --help | --version\n"
     "In front of these: --data FOLDER, other game files than its own.\n";
 
@@ -168,9 +169,9 @@ int watch(const Places& places, const Words& words) {
     const std::string path =
         fs::absolute(line.files.empty() ? demonstration(places) : fs::path(line.files[0])).string();
     const Summary summary(path);
-    const Watcher::Times times = {
-        summary.start, summary.length, from.empty() ? 0 : toTime(from),
-        speed.empty() ? 1.0 : toSpeed(speed, Watcher::slowest, Watcher::fastest)};
+    const Watcher::Times times = {summary.start, summary.length, from.empty() ? 0 : toTime(from),
+                                  speed.empty() ? 1.0
+                                                : toSpeed(speed, Pace::slowest, Pace::fastest)};
     requireDisplay();
     const fs::path songs = fs::absolute(places.data) / "Songs";
     Script script(path);
@@ -292,8 +293,9 @@ std::vector<RankedGame> provenGames(const Places& places, const fs::path& folder
 }
 
 int best(const Places& places, const Words& words) {
-    const CommandLine line(words, {{"page", true}});
+    const CommandLine line(words, {{"page", true}, {"with-web", true}});
     requireFiles(line, 0, 1);
+    if (line.has("with-web") && !line.has("page")) throw BadUsage("--with-web wants --page");
     const fs::path folder =
         fs::absolute(line.files.empty() ? places.replays : fs::path(line.files[0]));
     if (!line.files.empty() && !fs::is_directory(folder))
@@ -304,7 +306,7 @@ int best(const Places& places, const Words& words) {
     else
         std::cout << inWords(games);
     if (!line.has("page")) return 0;
-    writePage(line.value("page"), games);
+    writePage(line.value("page"), games, line.value("with-web"));
     std::cout << "page in " << (fs::absolute(line.value("page")) / "index.html").string() << '\n';
     return 0;
 }

@@ -5,6 +5,7 @@
 
 #include "replay/CommandLine.h"
 #include "replay/Interruption.h"
+#include "replay/Meter.h"
 #include "replay/Stage.h"
 #include "replay/Summary.h"
 #include "replay/Verifier.h"
@@ -62,11 +63,14 @@ int verify(const CommandLine& line) {
     Script script(path);
     const Stage stage(line.files[1], script.setup);
     Verifier verifier(script, stage.shipped, line.has("report"));
+    Meter meter;
+    verifier.onProgress = [&meter](double part) { meter.show(part); };
     insert(&verifier);
     std::cerr.setstate(std::ios::failbit); // what the game had to say is of no interest
     runGame(script.setup);
     std::cerr.clear();
     verifier.finish();
+    meter.clear();
     insert(nullptr);
     if (!verifier.damage().empty()) throw BadFile(verifier.damage());
     if (line.has("report"))

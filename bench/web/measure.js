@@ -1,5 +1,6 @@
 // What the page costs, as JSON: bytes that it fetches before the first song, ms from the navigation
-// to the menu's first picture, ms of the page's thread a frame in a game's busiest half minute.
+// to the menu's first picture, ms of the page's thread a frame in a game's busiest half minute, ticks
+// a second of a proof, and ms to seek over most of the longest recorded game, forwards and back.
 // Wants what tests/web/run.sh builds and installs.
 
 import { gzipSync } from 'node:zlib';
@@ -11,6 +12,8 @@ import { Server, fileOf } from '../../tests/web/server.js';
 const starts = 7;
 const busyFrom = 140, busyFor = 30; // seconds of the recorded game
 const framesBefore = 100; // that the browser may take to make its code fast
+const keptGame = 'long-evening.kovreplay', keptLength = 420; // seconds
+const seekFrom = 10, seekTo = keptLength - 5; // seconds
 
 const at = (sorted, share) =>
   sorted[Math.min(sorted.length - 1, Math.floor(share * sorted.length))];
@@ -21,9 +24,9 @@ async function start(server) {
   const browser = await launch('chromium', { width: 800, height: 644 });
   try {
     const page = await browser.newPage();
-    const game = new Game(page);
+    const game = new Game(page, server);
     server.asked.length = 0;
-    await game.open(server.address);
+    await game.open();
     const first = await page.evaluate(
       () => performance.getEntriesByName('kov-first-picture')[0].startTime);
     await pause(2000); // effects, and what is kept for later
@@ -59,6 +62,53 @@ async function frames(server) {
   }
 }
 
+/** @returns ticks a second of the fastest of some proofs, as those after the first in a table are */
+async function proof(page, server) {
+  await page.goto(`${server.address}?prove=none`);
+  return page.evaluate(async (name, count) => {
+    const { prove } = await import('./prove.js');
+    const bytes = new Uint8Array(await (await fetch(name)).arrayBuffer());
+    let best = 0;
+    for (let i = 0; i < count; ++i) {
+      const begin = performance.now();
+      const { text } = await prove(name, bytes);
+      best = Math.max(best, parseInt(text.split(': ')[1], 10) / (performance.now() - begin));
+    }
+    return best * 1000;
+  }, keptGame, starts);
+}
+
+/** @returns ms, each way */
+async function seeks(page, server) {
+  await page.goto(`${server.address}?watch=${keptGame}`);
+  await page.waitForFunction(() => document.querySelector('[name=seek]').value > 500);
+  const times = [];
+  for (const place of [seekTo, seekFrom])
+    times.push(await page.evaluate(async ms => {
+      const [seek, end] = ['seek', 'end'].map(name => document.querySelector(`[name=${name}]`));
+      const begin = performance.now();
+      seek.value = ms;
+      seek.dispatchEvent(new Event('input'));
+      seek.dispatchEvent(new Event('change'));
+      do await new Promise(requestAnimationFrame);
+      while (end.textContent !== '' || Math.abs(seek.value - ms) > 1000);
+      return performance.now() - begin;
+    }, place * 1000));
+  return times;
+}
+
+async function ofKeptGames(server) {
+  const browser = await launch('chromium', { width: 800, height: 644 });
+  try {
+    const page = await browser.newPage();
+    const ticksASecond = await proof(page, server);
+    const [ahead, back] = await seeks(page, server);
+    return { proof: ticksASecond, ahead, back };
+  } finally {
+    await browser.close();
+  }
+}
+
 const server = await new Server().start();
 try {
   const runs = [];
@@ -74,6 +124,7 @@ try {
     median: at(sorted, 0.5),
     p99: at(sorted, 0.99),
     worst: sorted.at(-1),
+    ...await ofKeptGames(server),
   }));
 } finally {
   await server.stop();

@@ -15,7 +15,7 @@ std::string makeRoom(const std::string& file) {
     fs::create_directories(folder);
     replay::KeepLimits limits;
     --limits.latest;
-    replay::tidy(folder, limits); // now, as few players end the program before they leave the page
+    replay::tidy(folder, limits); // now, as there may be no end
     return folder + '/' + file;
 }
 
@@ -30,14 +30,24 @@ GameKeeper::~GameKeeper() {
     replay::insert(nullptr);
 }
 
+void GameKeeper::look() {
+    if (recorder.games != namedGames) nameByScore();
+}
+
 void GameKeeper::finish() {
     recorder.finish();
+    look();
+    boost::system::error_code ignored; // it stays, without a game
+    if (recorder.games == 0) fs::remove(path, ignored);
+}
+
+void GameKeeper::nameByScore() {
+    namedGames = recorder.games;
     name.score = recorder.bestScore;
-    boost::system::error_code ignored; // it keeps the name that it has
-    if (recorder.games == 0)
-        fs::remove(path, ignored);
-    else
-        fs::rename(path, folder + '/' + name.finished(), ignored);
+    const std::string named = folder + '/' + name.finished();
+    boost::system::error_code error; // it keeps the name that it has
+    if (named != path) fs::rename(path, named, error);
+    if (!error) path = named;
 }
 
 } // namespace quorva::web

@@ -16,13 +16,20 @@ public:
     GameKeeper(const GameKeeper&) = delete;
     GameKeeper& operator=(const GameKeeper&) = delete;
 
-    /// The program has ended: the file gets its score into the name, or goes if there is no game.
+    /// After each pass: once a game has ended, its score goes into the file's name. Few players
+    /// end the program before they leave the page.
+    void look();
+
+    /// The program has ended: the file goes if there is no game in it.
     void finish();
 
 private:
+    void nameByScore();
+
     replay::KeptName name;
     std::string path;
     replay::Recorder recorder;
+    unsigned int namedGames = 0; ///< that the file's name knows of
 };
 
 } // namespace quorva::web

@@ -1,4 +1,4 @@
-// The game in a page, which calls it for each of its passes.
+// The game in a page, which calls it for each of its passes; or a kept game, which is watched.
 
 #include "Framework/Config.h"
 #include "Framework/Graphics/Renderer.h"
@@ -7,7 +7,10 @@
 #include "game/GameIdentity.h"
 #include "platform/web/GameKeeper.h"
 #include "platform/web/MenuTouch.h"
+#include "platform/web/PageWatcher.h"
 #include "platform/web/gl/Frame.h"
+#include "replay/Stage.h"
+#include "replay/Words.h"
 
 #include <SDL.h>
 #include <emscripten.h>
@@ -18,19 +21,43 @@
 #include <iostream>
 #include <memory>
 #include <string>
+#include <vector>
 
 using namespace quorva;
 
-extern "C" double kovClock(); ///< ms, while the game does not stand still
+extern "C" {
+double kovClock(); ///< ms, while the game does not stand still
+/// Where watching is. @param place and length ms @param end what came out, null before the end
+void kovShowPlace(double place, double length, double speed, bool stands, bool seeks,
+                  const char* end);
+}
 
 namespace {
 
-const std::string keep_option = "--keep-games"; // the page's own
+using Words = std::vector<std::string>;
+
+const std::string keep_option = "--keep-games", watch_option = "--watch"; // the page's own
 
 std::unique_ptr<GameBase> game;          // null once it has ended
 std::unique_ptr<web::GameKeeper> keeper; // null if games aren't kept
 bool isSeen = true;                      // what the pass draws
 std::uint32_t tickSeen = 0;              // the last that has been drawn
+
+/// A kept game that is watched.
+struct Watched {
+    explicit Watched(const std::string& path)
+        : summary(path), script(path), stage("/kov", script.setup), watcher(script, summary) {
+        replay::insert(&watcher);
+    }
+
+    replay::Summary summary;
+    replay::Script script;
+    replay::Stage stage;
+    web::PageWatcher watcher;
+    bool hasEnded = false;
+    std::string verdict; ///< once it has ended; empty: as it was recorded
+};
+std::unique_ptr<Watched> watched; // null while the player plays
 
 /// ms, from 0 to a tick's period. The page's clock is asked itself: a kept game has what the game
 /// has asked for, and nothing else.
@@ -62,25 +89,51 @@ void end() {
     keeper.reset();
 }
 
+void startGame(const Words& options) {
+    introduceGame();
+    config::ConfigClass& config = config::Config::Instance();
+    config.setDefaults();
+    config.readFile();
+    for (const std::string& option : options) {
+        if (option == keep_option)
+            keepGames();
+        else
+            config.parseCmdLineArgs("kov", option.c_str());
+    }
+    config.activateConfig();
+    if (watched == nullptr) graphics::Renderer::drawsFrame = [] { return isSeen; };
+    game = std::make_unique<GameBase>();
+}
+
+/// @return an exit code
+int startWatching(const std::string& path) {
+    try {
+        watched = std::make_unique<Watched>(path);
+    } catch (const std::runtime_error& e) {
+        std::cerr << e.what() << '\n';
+        return replay::exit_unusable;
+    }
+    startGame(replay::optionsOf(watched->script.setup));
+    return 0;
+}
+
+void endWatching() {
+    game.reset();
+    web::PageWatcher& watcher = watched->watcher;
+    watcher.finish();
+    watched->hasEnded = true;
+    watched->verdict = watcher.damage().empty() ? watcher.difference() : watcher.damage();
+}
+
 } // namespace
 
 /// Starts the game, and returns while it goes on.
 // NOLINTNEXTLINE(bugprone-exception-escape): the page catches it, and says so
 int main(int argc, char* argv[]) {
     umask(S_IWGRP | S_IWOTH); // the page's own would leave new files without any permission
-    introduceGame();
-    config::ConfigClass& config = config::Config::Instance();
-    config.setDefaults();
-    config.readFile();
-    for (int i = 1; i < argc; ++i) {
-        if (argv[i] == keep_option)
-            keepGames();
-        else
-            config.parseCmdLineArgs(argv[0], argv[i]);
-    }
-    config.activateConfig();
-    graphics::Renderer::drawsFrame = [] { return isSeen; };
-    game = std::make_unique<GameBase>();
+    const Words words(argv + 1, argv + argc);
+    if (words.size() == 2 && words[0] == watch_option) return startWatching(words[1]);
+    startGame(words);
     return 0;
 }
 
@@ -96,6 +149,7 @@ EMSCRIPTEN_KEEPALIVE bool kovPass(bool seen) {
     web::seeFrames(seen);
     game->pass();
     if (seen) tickSeen = Timer::Instance().blips;
+    if (keeper != nullptr) keeper->look();
     if (game->dead) end();
     return game != nullptr;
 }
@@ -113,6 +167,23 @@ EMSCRIPTEN_KEEPALIVE bool kovIsPlaying() {
 /// See touchMenu.
 EMSCRIPTEN_KEEPALIVE void kovTouchMenu(double x, double y, bool down) {
     if (game != nullptr && game->level == nullptr) web::touchMenu(*game->mainMenu, x, y, down);
+}
+
+/// A turn of watching. @param ms since the last one
+EMSCRIPTEN_KEEPALIVE void kovWatch(double ms) {
+    web::PageWatcher& watcher = watched->watcher;
+    if (game != nullptr && !watcher.goOn(*game, ms)) endWatching();
+    kovShowPlace(watcher.place(), watched->summary.length, watcher.pace.speed,
+                 watcher.pace.standing, watcher.isSeeking(),
+                 watched->hasEnded ? watched->verdict.c_str() : nullptr);
+}
+
+/// @param place ms, not before the one that is reached
+EMSCRIPTEN_KEEPALIVE void kovSeek(double place, double speed, bool stands) {
+    replay::Pace& pace = watched->watcher.pace;
+    pace.speed = speed;
+    pace.standing = stands;
+    watched->watcher.seek(place);
 }
 
 } // extern "C"

@@ -14,9 +14,11 @@ import sys
 source, program, output = map(pathlib.Path, sys.argv[1:])
 page = source / "platform/web/page"
 
+# Fetched when a game is first proved.
+prover = ("kov-prove.js", "kov-prove.wasm")
 # What goes where, songs apart.
 files = {path.name: path for path in page.iterdir() if path.name != "worker.js"}
-files |= {name: program / name for name in ("kov.js", "kov.wasm")}
+files |= {name: program / name for name in ("kov.js", "kov.wasm", *prover)}
 files["manual.html"] = source / "manual.html"
 files["pad.svg"] = source / "docs/pad.svg"
 files["picture.png"] = source / "docs/gallery/fence.png"
@@ -47,7 +49,7 @@ if address := os.environ.get("KOV_ADDRESS"):
     index.write_text(index.read_text().replace('content="picture.png"',
                                                f'content="{address.rstrip("/")}/picture.png"'))
 
-kept = ["./", *sorted(set(files) - {"index.html", "picture.png"})]
+kept = ["./", *sorted(set(files) - {"index.html", "picture.png", *prover})]
 worker = (page / "worker.js").read_text()
 worker = worker.replace("@version@", version.hexdigest()[:16])
 worker = worker.replace("@files@", json.dumps(kept))

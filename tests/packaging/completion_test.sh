@@ -45,5 +45,6 @@ offers "--size --from --to --full" kov-replay film --
 offers "" kov-replay film --to ""
 offers "films" kov-replay best ""
 offers "films" kov-replay best films --page ""
+offers "films" kov-replay best films --page films --with-web ""
 offers "" kov-replay best films ""
 exit $failures

@@ -174,3 +174,26 @@ TEST_F(KeptGames, ThePageEscapesNames) {
     writePage(".", {game}); // where the file is already
     EXPECT_EQ(contentsOf(name), "a game");
 }
+
+TEST_F(KeptGames, ThePageTakesTheGameForBrowsersAlong) {
+    const std::string name = "<b>\"'&prove=#.kovreplay", encoded = "%3Cb%3E%22%27%26prove%3D%23";
+    fill(name, "a game");
+    const RankedGame game = {name, 0, {}};
+    const auto write = [&](const fs::path& to) { writePage(to, {game}, "build"); };
+    fs::create_directories("build/Songs");
+    EXPECT_THROW(write("page"), std::runtime_error) << "an empty build";
+    for (const char* part : {"index.html", "table.js", "kov.wasm", "kov-prove.wasm", "Songs/a.ogg"})
+        fill(std::string("build/") + part, part);
+    EXPECT_THROW(write("build/page"), std::runtime_error) << "a build would hold itself";
+    for (int times = 0; times < 2; ++times) // again, over itself
+        write("page");
+    EXPECT_EQ(contentsOf("page/play/Songs/a.ogg"), "Songs/a.ogg");
+    EXPECT_EQ(contentsOf("page/play/" + name), "a game") << "where the build looks for it";
+    const std::string page = contentsOf("page/index.html");
+    EXPECT_EQ(page.find("<b>"), std::string::npos);
+    for (const char* address : {"play/?watch=", "play/?prove=", "play/"})
+        EXPECT_NE(page.find("href=\"" + (address + encoded) + ".kovreplay\""), std::string::npos)
+            << address;
+    EXPECT_NE(page.find("data-file=\"&lt;b&gt;&quot;&#39;&amp;prove=#.kovreplay\""),
+              std::string::npos);
+}

@@ -1,5 +1,9 @@
 // The page as a player has it: looks at its picture, and presses its keys.
 
+import { readdirSync, rmSync, statSync } from 'node:fs';
+import { join } from 'node:path';
+
+import { downloads } from './browsers.js';
 import { fromPng } from './images.js';
 
 const patience = 20000; // ms
@@ -16,8 +20,10 @@ const returnKey = '\uE006';
 export const pause = ms => new Promise(resolve => { setTimeout(resolve, ms); });
 
 export class Game {
-  constructor(page) {
+  /** @param server of the page */
+  constructor(page, server) {
     this.page = page;
+    this.server = server;
     this.faults = [];
     this.isFirefox = page.browser().process().spawnfile.includes('firefox');
     page.on('pageerror', error => {
@@ -30,8 +36,8 @@ export class Game {
       /^(?:http:\/\/localhost:|data:|blob:)/.test(request.url()) ? [] : [request.url()])));
   }
 
-  async open(address) {
-    await this.page.goto(address);
+  async open() {
+    await this.page.goto(this.server.address);
     await this.firstPicture();
   }
 
@@ -105,6 +111,32 @@ export class Game {
 
   note() {
     return this.page.$eval('#note', element => element.innerText);
+  }
+
+  /** By what is written on it. */
+  async pressButton(within, text) {
+    const buttons = await this.page.$$(`${within} button`);
+    for (const button of buttons)
+      if (await button.evaluate(element => element.textContent) === text) return button.click();
+    throw new Error(`no button ${text}`);
+  }
+
+  /** What a proof has come to. */
+  async verdict() {
+    await this.page.waitForFunction(() => /^(?:holds|differs|unusable)$/.test(
+      document.getElementById('verdict').className), { timeout: patience });
+    return this.page.$eval('#verdict', element => element.textContent);
+  }
+
+  /** @returns the file's path */
+  async download(link) {
+    for (const name of readdirSync(downloads)) rmSync(join(downloads, name));
+    await link.click();
+    const name = await link.evaluate(a => a.download);
+    const isThere = () => readdirSync(downloads).join() === name &&
+      statSync(join(downloads, name)).size > 0;
+    await this.until(isThere, `the download of ${name}`);
+    return join(downloads, name);
   }
 
   /** A kept file's bytes, or null. */

@@ -63,3 +63,8 @@ export function missing(a, b, tolerance) {
   return lit(a, tolerance).filter((on, i) =>
     on && !hasNear(i % a.width, Math.floor(i / a.width))).length;
 }
+
+const unnoticed = 24; // of 255
+
+/** To the eye. */
+export const areEqual = (a, b) => compare(a, b, unnoticed).equal === 1;

@@ -9,4 +9,4 @@ for recording in tests/recordings/*.kovreplay; do
     node build/wasm/replay/kov-replay-verify.js "$recording" "$PWD"
 done
 cd tests/web
-xvfb-run -a -s "-screen 0 1280x1024x24" node --test "$@" pictures.test.js page.test.js
+xvfb-run -a -s "-screen 0 1280x1024x24" node --test "$@" pictures.test.js page.test.js kept.test.js

@@ -9,8 +9,8 @@ export const root = fileURLToPath(new URL('../..', import.meta.url));
 export const site = join(root, 'build/web');
 
 // Where a path is looked for, the first that has it counting.
-const folders = [site, join(root, 'build/wasm/tests/web'), join(root, 'tests/web'),
-                 join(root, 'bench/web'), root];
+const folders = [site, ...['tests/recordings', 'build/wasm/tests/web', 'tests/web', 'bench/web',
+                           '.'].map(name => join(root, name))];
 
 const kinds = {
   '.html': 'text/html', '.js': 'text/javascript', '.css': 'text/css', '.wasm': 'application/wasm',
@@ -19,8 +19,8 @@ const kinds = {
 };
 
 /** The contents, or null. */
-export async function fileOf(name) {
-  for (const folder of folders) {
+export async function fileOf(name, places = folders) {
+  for (const folder of places) {
     try {
       return await readFile(join(folder, name));
     } catch {
@@ -35,13 +35,22 @@ export class Server {
   missing = new Set(); // paths that are answered as if they weren't there
   preludes = new Map(); // by path: a text in front of the file's
   others = new Map(); // by path: the path that takes its place
+  changes = new Map(); // by path: a function that makes other contents of its own
+
+  /** @param folder where paths are looked for first */
+  constructor(folder = site) {
+    this.folder = folder;
+  }
 
   async start() {
     this.http = createServer(async (request, answer) => {
-      const path = new URL(request.url, this.address).pathname.slice(1) || 'index.html';
+      const asked = decodeURIComponent(new URL(request.url, this.address).pathname.slice(1));
+      const path = asked === '' || asked.endsWith('/') ? `${asked}index.html` : asked;
       this.asked.push(path);
-      const contents = this.missing.has(path) ? null : await fileOf(this.others.get(path) ?? path);
+      const other = this.others.get(path) ?? path;
+      let contents = this.missing.has(path) ? null : await fileOf(other, [this.folder, ...folders]);
       if (contents === null) return answer.writeHead(404).end();
+      contents = this.changes.get(path)?.(contents) ?? contents;
       answer.writeHead(200, { 'Content-Type': kinds[extname(path)] ?? 'application/octet-stream' });
       answer.end(Buffer.concat([Buffer.from(this.preludes.get(path) ?? ''), contents]));
     });

@@ -5,6 +5,7 @@ const store = 'files';
 const folder = '/kov';
 const gamesFolder = 'Replays';
 const keptFiles = /^(?:game\.conf(?:\.bak)?|bind1\.conf|s\.dat|Replays\/[^/]+\.kovreplay)$/;
+const isGame = name => name.startsWith(`${gamesFolder}/`);
 const interval = 250; // ms between two looks at what has changed
 
 function open() {
@@ -38,9 +39,12 @@ async function readAll(db) {
 
 /** Never fails: without a database nothing is kept, and `isRefused` says so. */
 export class Files {
-  /** @param hasPlayed whether there is a game that could be kept */
-  constructor(onRefusal, hasPlayed) {
-    Object.assign(this, { onRefusal, hasPlayed });
+  /**
+   * @param hasPlayed whether there is a game that could be kept
+   * @param onGames called when the kept games are others
+   */
+  constructor(onRefusal, hasPlayed, onGames) {
+    Object.assign(this, { onRefusal, hasPlayed, onGames });
     this.stored = new Map(); // contents by name
     this.times = new Map(); // of change, by name
   }
@@ -66,7 +70,7 @@ export class Files {
 
   /** Names of the kept games. */
   games() {
-    return [...this.stored.keys()].filter(name => name.startsWith(`${gamesFolder}/`)).sort();
+    return [...this.stored.keys()].filter(isGame).sort();
   }
 
   remove(name) {
@@ -95,7 +99,7 @@ export class Files {
   /** Whether the file is to be written: it has changed, and as a kept game has a game in it. */
   hasNews(name) {
     return this.times.get(name) !== this.timeOf(name) &&
-      (!name.startsWith(gamesFolder) || this.hasPlayed());
+      (!isGame(name) || this.hasPlayed());
   }
 
   /** Writes what has changed since the last time, and removes what has gone. */
@@ -120,5 +124,6 @@ export class Files {
     } catch (error) {
       this.refuse(error);
     }
+    if ([...changed, ...gone].some(isGame)) this.onGames();
   }
 }

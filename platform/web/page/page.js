@@ -1,12 +1,19 @@
 // The page around the game: fetches it, gives it its passes, and shows what it draws.
 
 import { Files } from './files.js';
-import { keepsGames, showGames } from './games.js';
+import { Games, keepsGames, offerKeeping } from './games.js';
 import { followKeys } from './keys.js';
+import { note, say, unsay } from './message.js';
+import { fetchGame, followFiles } from './opened.js';
 import { followPads } from './pad.js';
+import { codeOf, startFrom } from './program.js';
+import { Proof } from './proof.js';
 import { Screen } from './screen.js';
 import { Sound } from './sound.js';
 import { followTouch } from './touch.js';
+import { timeText, Watching } from './watch.js';
+
+const escape = 27; // SDL's symbol
 
 const element = id => document.getElementById(id);
 const stage = element('stage');
@@ -28,22 +35,6 @@ const failures = {
   stopped: 'KOV has stopped with a fault of its own. Please reload the page.',
   ended: 'The game has ended.',
 };
-
-// Messages.
-
-function say(text, again = false) {
-  element('text').textContent = text;
-  element('again').hidden = !again;
-  element('message').hidden = false;
-}
-
-function unsay() {
-  element('message').hidden = true;
-}
-
-function note(text) {
-  element('note').textContent = text;
-}
 
 // The clock stands still while the game does.
 
@@ -176,7 +167,13 @@ class Loop {
   }
 }
 
-// The start.
+// The player's own game.
+
+const own = { // what every program is given
+  canvas,
+  print: text => console.log(text),
+  printErr: text => console.warn(text),
+};
 
 /** @param onStart called before the program runs */
 async function fetchProgram(files, onStart) {
@@ -188,7 +185,7 @@ async function fetchProgram(files, onStart) {
     words.push(`--ScreenWidth=${width}`, `--ScreenHeight=${height}`);
   }
   return createKov({
-    canvas,
+    ...own,
     page,
     arguments: words,
     preRun: [program => {
@@ -197,22 +194,20 @@ async function fetchProgram(files, onStart) {
       clock.start();
       onStart();
     }],
-    print: text => console.log(text),
-    printErr: text => console.warn(text),
   });
 }
 
-async function start() {
-  if (typeof WebAssembly !== 'object') return say(failures.webAssembly);
-  if (!page.screen.gl) return say(failures.webGL);
+async function play() {
   let kov;
   let hasStarted = false;
   let hasPlayed = false;
+  let games = null; // until they can be measured
   const files = new Files(
     () => note('This browser keeps nothing here: settings and high score will be lost.'),
-    () => (hasPlayed ||= kov._kovIsPlaying()));
+    () => (hasPlayed ||= kov._kovIsPlaying()),
+    () => games?.show());
   await files.open();
-  showGames(files, element('kept'), element('keep'));
+  offerKeeping(element('keep'), files.db !== null);
   try {
     kov = await fetchProgram(files, () => { hasStarted = true; });
   } catch (error) {
@@ -220,15 +215,23 @@ async function start() {
     throw error;
   }
   run(kov, files);
+  games = new Games(files, element('kept'), {
+    lengthOf: name => timeText(kov.ccall('kovLengthOf', 'number', ['string'], [`/kov/${name}`])),
+    onWatch: watch,
+    onProve: game => proof.open(game),
+  });
+  page.afterFirstPicture(() => games.show());
 }
 
-function followPlayer(kov) {
+const hasKeys = () => [document.body, canvas].includes(document.activeElement);
+
+function followPlayer(kov, loop) {
   const wake = () => {
     page.sound.wake();
     if (wantsFullScreen) enterFullScreen();
   };
-  followKeys(kov._kovKey, () => [document.body, canvas].includes(document.activeElement), wake);
-  followTouch(stage, element('touch'), kov, wake);
+  followKeys(kov._kovKey, () => loop.isRunning && hasKeys(), wake);
+  followTouch(stage, element('touch'), kov, () => loop.isRunning, wake);
   element('full').addEventListener('click', () => {
     wake();
     if (document.fullscreenElement) leaveFullScreen();
@@ -240,7 +243,8 @@ function followPlayer(kov) {
 /** The loop runs while the page is seen and there is something to draw on. */
 function followPage(loop, files) {
   let isLost = false;
-  const follow = () => loop.run(!document.hidden && !isLost);
+  const follow = () => loop.run(!document.hidden && !isLost && !isHeld);
+  player.follow = follow;
   document.addEventListener('visibilitychange', () => {
     follow();
     files.save();
@@ -256,7 +260,6 @@ function followPage(loop, files) {
     unsay();
     follow();
   });
-  addEventListener('resize', fit);
   document.addEventListener('fullscreenchange', fit);
   follow();
 }
@@ -267,12 +270,114 @@ function run(kov, files) {
     say(text, true);
     element('again').focus();
   });
-  element('again').addEventListener('click', () => location.reload());
-  followPlayer(kov);
+  followPlayer(kov, loop);
   unsay();
   fit();
   canvas.focus();
   followPage(loop, files);
+}
+
+// Watching and proving. The player's own game stands still meanwhile.
+
+let isHeld = false;
+const player = { follow() {} };
+let watching = null;
+
+/** @param on while a proof takes the picture's place */
+function hold(on) {
+  scrollTo(0, 0);
+  isHeld = on || watching !== null;
+  player.follow();
+  watching?.hold(on);
+}
+
+const proof = new Proof(element('proof'), {
+  onOpen: () => hold(true),
+  onClose: () => (isAlone() ? leave() : hold(false)),
+  onWatch: watch,
+});
+
+/** Whether there is nothing on the page but the proof. */
+const isAlone = () => watching === null && asked.has('prove');
+
+const leave = () => location.replace(location.pathname);
+
+async function createWatched(options) {
+  const { default: createKov } = await import('./kov.js');
+  return createKov({ ...own, ...startFrom(await codeOf('kov.wasm')), ...options });
+}
+
+function watch(game) {
+  if (!page.screen.gl) return say(failures.webGL, true);
+  watching?.end();
+  const refuse = text => {
+    watching.end();
+    say(text, true);
+  };
+  watching = new Watching(game, element('watch'), {
+    page,
+    createProgram: createWatched,
+    onRefusal: refuse,
+    onFault: (error, isThere) => {
+      refuse(isThere ? failures.stopped : failures.fetch);
+      throw error;
+    },
+  });
+  hold(false);
+  unsay();
+  document.body.classList.add('watching');
+  element('touch').hidden = true;
+  fit();
+  canvas.focus();
+  watching.begin();
+}
+
+/** @param opened a promise of a game */
+async function open(opened) {
+  try {
+    const game = await opened;
+    proof.hide();
+    watch(game);
+  } catch (error) {
+    note(error.message);
+  }
+}
+
+function followWatcher() {
+  followKeys((symbol, down) => down && (symbol === escape ? leave() : watching.press(symbol)),
+             () => watching !== null && !watching.isHeld && hasKeys(), () => {});
+  element('watch').querySelector('[name=leave]').addEventListener('click', leave);
+  element('watch').querySelector('[name=prove]')
+    .addEventListener('click', () => proof.open(watching.game));
+  addEventListener('resize', fit);
+  followFiles(element('open'), element('file'), open);
+}
+
+async function openAsked(name, show, refuse) {
+  let game;
+  try {
+    game = await fetchGame(name);
+  } catch (error) {
+    return refuse(error.message);
+  }
+  show(game);
+}
+
+// The start.
+
+const asked = new URLSearchParams(location.search);
+
+function start() {
+  element('again').addEventListener('click', leave);
+  if (typeof WebAssembly !== 'object') return say(failures.webAssembly);
+  followWatcher();
+  if (asked.has('prove')) {
+    unsay();
+    return openAsked(asked.get('prove'), game => proof.open(game), text => proof.refuse(text));
+  }
+  if (!page.screen.gl) return say(failures.webGL);
+  if (asked.has('watch')) return openAsked(asked.get('watch'), watch, text => say(text, true));
+  return play();
 }
 
 navigator.serviceWorker?.register('worker.js').catch(error => console.warn('KOV:', error));

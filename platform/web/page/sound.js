@@ -4,16 +4,20 @@
 
 const ok = 0, noFreeChannel = 10, fileNotFound = 23, invalidHandle = 36, invalidParameter = 37;
 
+const folder = /^\/kov\//; // where the program has its files
+const silence = 'silence.wav'; // plays in place of a song that isn't here
+
 export class Sound {
   /**
    * @param page `isStopped()`, `afterFirstPicture(action)`, `lacks(path, reason)`
+   * @param context that is there already, of a program before this one
    */
-  constructor(page) {
+  constructor(page, context = null) {
     this.page = page;
     this.sounds = new Map(); // by handle
     this.channels = new Map(); // by handle, in the order of their starts
     this.lastHandle = 0;
-    this.context = null; // until the first key
+    this.context = context; // null until the first key
   }
 
   /** @param lengths ms by path, of every sound that there is */
@@ -40,8 +44,9 @@ export class Sound {
   }
 
   /** @returns a code, and the sound's handle */
-  create(path, isStream) {
-    if (!(path in this.lengths)) return [fileNotFound, 0];
+  create(name, isStream) {
+    const path = name.replace(folder, '');
+    if (path !== silence && !(path in this.lengths)) return [fileNotFound, 0];
     const sound = { path, isStream, length: this.lengths[path], bytes: null, samples: null };
     this.sounds.set(++this.lastHandle, sound);
     if (!isStream) this.page.afterFirstPicture(() => this.load(sound));
@@ -97,6 +102,7 @@ export class Sound {
   }
 
   startSong(channel) {
+    if (channel.sound.path === silence) return;
     channel.element = new Audio(channel.sound.path);
     channel.element.onended = () => this.drop(channel);
     channel.element.onerror = () => this.page.lacks(channel.sound.path, channel.element.error);
@@ -105,7 +111,7 @@ export class Sound {
   }
 
   connect(channel) {
-    if (!this.context) return;
+    if (!this.context || !(channel.source || channel.element)) return;
     channel.source ??= this.context.createMediaElementSource(channel.element);
     channel.gain = new GainNode(this.context, { gain: channel.level });
     channel.source.connect(channel.gain).connect(this.context.destination);
@@ -134,6 +140,11 @@ export class Sound {
       channel.source.onended = null;
       channel.source.stop();
     }
+  }
+
+  /** The program is there no more. */
+  end() {
+    for (const channel of this.channels.values()) this.drop(channel);
   }
 
   setVolume(handle, volume) {

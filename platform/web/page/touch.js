@@ -17,8 +17,11 @@ function directionOf(dx, dy) {
   return dy > 0 ? 'down' : 'up';
 }
 
-/** @param controls the element that shows them */
-export function followTouch(stage, controls, kov, onPress) {
+/**
+ * @param controls the element that shows them
+ * @param isOurs whether touches are the game's
+ */
+export function followTouch(stage, controls, kov, isOurs, onPress) {
   const [stick, swipe] = ['stick', 'swipe'].map(id => controls.querySelector(`#${id}`));
   const knob = controls.querySelector('#knob');
   const canvas = stage.querySelector('canvas');
@@ -80,14 +83,14 @@ export function followTouch(stage, controls, kov, onPress) {
 
   const isControl = event => event.target.closest('button, a');
   stage.addEventListener('pointerdown', event => {
-    if (event.pointerType === 'mouse' || isControl(event)) return;
+    if (event.pointerType === 'mouse' || isControl(event) || !isOurs()) return;
     controls.hidden = false;
     onPress();
     begin(event);
   });
   stage.addEventListener('pointermove', move);
   stage.addEventListener('pointerup', event => {
-    if (event.pointerType !== 'mouse') onPress(); // only now it counts as the user's wish
+    if (event.pointerType !== 'mouse' && isOurs()) onPress(); // only now it counts as the user's wish
     end(event);
   });
   stage.addEventListener('pointercancel', end);

@@ -1,8 +1,9 @@
-// Keeps the page's files, so that it works without a connection: all but the songs when the page is
-// first opened, each song when it is first played.
+// Keeps the page's files, so that it works without a connection: most when the page is first opened,
+// each song when it is first played, and what proves games when that is first done.
 
 const version = '@version@'; // of the files' contents
 const files = @files@;
+const provers = /\/kov-prove\.(?:js|wasm)$/;
 const songs = 'kov-songs'; // kept over versions, as they are large and change least
 const cacheName = `kov-${version}`;
 
@@ -48,7 +49,11 @@ async function songOf(request) {
 async function answer(request) {
   if (new URL(request.url).pathname.includes('/Songs/')) return songOf(request);
   const cache = await caches.open(cacheName);
-  return await cache.match(request, { ignoreSearch: true }) ?? fetch(request);
+  const kept = await cache.match(request, { ignoreSearch: true });
+  if (kept) return kept;
+  const found = await fetch(request);
+  if (provers.test(request.url) && found.ok) await cache.put(request.url, found.clone());
+  return found;
 }
 
 self.addEventListener('fetch', event => {

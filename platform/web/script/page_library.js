@@ -20,6 +20,12 @@ mergeInto(LibraryManager.library, {
   },
   kovShowTitle: function(title) { Module.page.showTitle(UTF8ToString(title)); },
 
+  kovShowPlace: function(place, length, speed, stands, seeks, end) {
+    Module.page.showPlace({ place, length, speed, stands: !!stands, seeks: !!seeks,
+                            end: end === 0 ? null : UTF8ToString(end) });
+  },
+  kovShowProgress: function(percent) { Module.page.showProgress(percent); },
+
   // The sound layer. Handles are numbers.
   FMOD_System_Create: function(system) {
     HEAPU32[system >> 2] = 1; // there is one
