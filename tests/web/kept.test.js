@@ -28,6 +28,8 @@ const spoilt = [
 
 const markup = '<img src=x onerror=document.title=1>'; // as a file's name
 
+const place = page => page.$eval('#watch [name=seek]', element => Number(element.value));
+
 suite('kept games', ({ test, shot }) => {
   const prove = async (game, name) => {
     await game.page.goto(`${game.server.address}?prove=${encodeURIComponent(name)}`);
@@ -38,6 +40,8 @@ suite('kept games', ({ test, shot }) => {
     for (const name of recorded)
       assert.match(await prove(game, name), /: holds\n {2}game 1: /, name);
     await shot(game.page, 'proof');
+    await game.pressButton('#proof', 'Watch');
+    await game.until(async () => await place(game.page) > 500, 'the last one going on');
   });
 
   test('what is wrong with a file is said in the same words as elsewhere', async game => {
@@ -63,7 +67,6 @@ suite('kept games', ({ test, shot }) => {
     assert.match(await game.verdict(), /: ended after 10 seconds/);
   });
 
-  const place = page => page.$eval('#watch [name=seek]', element => Number(element.value));
   const status = page => page.$eval('#watch [name=end]', element => element.textContent);
   const drag = (page, ms) => page.$eval('#watch [name=seek]', (element, value) => {
     element.value = value;

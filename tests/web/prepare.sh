@@ -8,8 +8,9 @@ tools/install_packages.sh build web webtest
 cmake --build --preset web --target kov-replay-verify kov_moments kov_figures gallery kov_watch \
     >build/web.log || { cat build/web.log; exit 1; }
 [ -f build/release/build.ninja ] || cmake --preset release -DKOV_TESTS=ON >/dev/null
-cmake --build --preset release --target kov_moments kov_figures gallery kov-replay kov-replay-verify \
-    >build/build.log || { cat build/build.log; exit 1; }
+cmake --build --preset release \
+    --target kov_moments kov_figures gallery kov-replay kov-replay-verify >build/build.log ||
+    { cat build/build.log; exit 1; }
 
 # The driver's modules, out of the sources' way.
 modules=build/web-modules
