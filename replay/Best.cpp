@@ -94,9 +94,9 @@ std::vector<RankedGame> best(std::vector<RankedGame> games, std::size_t count) {
 
 std::string inWords(const std::vector<RankedGame>& games) {
     std::ostringstream out;
-    std::size_t place = 0;
+    std::size_t rank = 0;
     for (const RankedGame& each : games)
-        out << std::setw(2) << ++place << ". " << std::setw(8) << each.game.score << "  "
+        out << std::setw(2) << ++rank << ". " << std::setw(8) << each.game.score << "  "
             << dateText(each.date) << "  " << std::setw(5) << minutes(each.game.length) << "  "
             << (each.game.marked ? "marked" : "fair  ") << "  "
             << utility::printable(each.file.filename().string()) << ", at "

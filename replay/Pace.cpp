@@ -36,13 +36,13 @@ bool Pace::takeStep() {
     return std::exchange(stepping, false);
 }
 
-bool Pace::isInTime(double place) const {
-    return position - place <= late * std::max(1.0, speed);
+bool Pace::isInTime(double time) const {
+    return position - time <= late * std::max(1.0, speed);
 }
 
-std::string Pace::inWords(std::uint32_t place, std::uint32_t length) const {
+std::string Pace::inWords(std::uint32_t time, std::uint32_t length) const {
     std::ostringstream text;
-    text << minutes(place) << " / " << minutes(length) << "  x" << speed
+    text << minutes(time) << " / " << minutes(length) << "  x" << speed
          << (standing ? "  stopped" : "");
     return text.str();
 }

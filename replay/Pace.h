@@ -14,11 +14,11 @@ public:
     void press(int symbol); ///< a key's of SDL
     void goOn(double ms);   ///< real time goes by
     bool takeStep();        ///< whether what comes next is to be shown, however long it stands
-    /// Whether a frame of that place is still worth drawing. One that comes too late isn't.
-    bool isInTime(double place) const;
+    /// Whether a frame of that time is still worth drawing. One that comes too late isn't.
+    bool isInTime(double time) const;
 
-    /// Such as "1:23 / 4:56  x2  stopped". @param place and length ms
-    std::string inWords(std::uint32_t place, std::uint32_t length) const;
+    /// Such as "1:23 / 4:56  x2  stopped". @param time and length ms
+    std::string inWords(std::uint32_t time, std::uint32_t length) const;
 
     double position; ///< ms after the game's first frame
     double speed;    ///< 1: as it was played

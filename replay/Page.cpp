@@ -107,7 +107,7 @@ std::string buttons(const std::string& name) {
     return text + "<span class=\"mark\" role=\"status\"></span></p>\n";
 }
 
-std::string article(std::size_t place, const RankedGame& each, const std::string& picture,
+std::string article(std::size_t rank, const RankedGame& each, const std::string& picture,
                     bool withWeb) {
     const Report::Game& game = each.game;
     const std::string name = each.file.filename().string();
@@ -115,7 +115,7 @@ std::string article(std::size_t place, const RankedGame& each, const std::string
     std::ostringstream out;
     out << "<article";
     if (withWeb) out << " data-file=\"" << escaped(name) << '"';
-    out << ">\n<h2>" << place << ". " << game.score << " points</h2>\n";
+    out << ">\n<h2>" << rank << ". " << game.score << " points</h2>\n";
     if (!picture.empty())
         out << "<div class=\"picture\"><img src=\"" << picture
             << "\" alt=\"the field at its best catch\"></div>\n";

@@ -26,9 +26,9 @@ public:
     /// Whatever it is; empty at the end.
     std::optional<Record> take();
 
-    bool isCutOff() const { return !ended; }            ///< asked at the end
-    std::size_t size() const { return file.size(); }    ///< of the file, bytes
-    std::size_t place() const { return file.offset(); } ///< bytes that have been read
+    bool isCutOff() const { return !ended; }             ///< asked at the end
+    std::size_t size() const { return file.size(); }     ///< of the file, bytes
+    std::size_t offset() const { return file.offset(); } ///< bytes that have been read
 
     Setup setup;
 

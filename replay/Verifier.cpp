@@ -43,7 +43,7 @@ void Verifier::takePicture() {
 
 void Verifier::passIdly() {
     if (onProgress)
-        onProgress(static_cast<double>(script.place()) / static_cast<double>(script.size()));
+        onProgress(static_cast<double>(script.offset()) / static_cast<double>(script.size()));
 }
 
 void Verifier::finish() {

@@ -15,18 +15,18 @@ Watcher::Watcher(Script& script_, const boost::filesystem::path& songs_, const T
     : WindowPlayback(script_, songs_), times(times_), pace(times_.from, times_.speed) {}
 
 bool Watcher::draws() {
-    return !isIdle() && place() >= times.from && pace.isInTime(place());
+    return !isIdle() && sessionTime() >= times.from && pace.isInTime(sessionTime());
 }
 
 /// Here, so that the music of a pause stands as long as the picture does.
 void Watcher::moveOn() {
-    if (hasBegun && draws()) waitFor(place());
+    if (hasBegun && draws()) waitFor(sessionTime());
 }
 
 void Watcher::show() {
     hasBegun = true;
     if (draws()) {
-        waitFor(place());
+        waitFor(sessionTime());
         Tape::endFrame();
         showState();
     }
@@ -69,7 +69,7 @@ void Watcher::takeKeys() {
 
 /// In the window's title.
 void Watcher::showState() {
-    const std::string title = "KOV  " + pace.inWords(place(), times.length);
+    const std::string title = "KOV  " + pace.inWords(sessionTime(), times.length);
     if (title == shownTitle) return;
     shownTitle = title;
     SDL_WM_SetCaption(shownTitle.c_str(), shownTitle.c_str());

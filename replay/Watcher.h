@@ -29,7 +29,7 @@ protected:
     void passIdly() override;
 
 private:
-    std::uint32_t place() const { return now() - times.start; }
+    std::uint32_t sessionTime() const { return now() - times.start; }
     void waitFor(double ms);
     void takeKeys();
     void showState();

@@ -53,7 +53,7 @@ constexpr std::size_t most_games = 10;                       // of the best
 constexpr int smallest_picture = 16, largest_picture = 8192; // pixels
 
 /// Folders that are given in front of the command.
-struct Places {
+struct Folders {
     fs::path data = ".";          ///< of the game
     fs::path replays = "Replays"; ///< where games are kept that have no other place
 };
@@ -120,7 +120,7 @@ int record(Recorder& recorder, const fs::path& path, KeptName* name, const Words
     return code;
 }
 
-int record(const Places& places, const Words& words) {
+int record(const Folders& folders, const Words& words) {
     const auto dashes = std::find(words.begin(), words.end(), "--");
     const CommandLine line(Words(words.begin(), dashes), {{"auto", false}});
     const Words gameOptions = dashes == words.end() ? Words() : Words(dashes + 1, words.end());
@@ -129,7 +129,7 @@ int record(const Places& places, const Words& words) {
     if (!isAutomatic) requireDisplay(); // else the game says so
     KeptName name = KeptName::now(isAutomatic);
     const fs::path path =
-        fs::absolute(isNamed ? fs::path(line.files[0]) : places.replays / name.unfinished());
+        fs::absolute(isNamed ? fs::path(line.files[0]) : folders.replays / name.unfinished());
     boost::system::error_code ignored; // the recorder says what is wrong
     if (!isNamed) fs::create_directories(path.parent_path(), ignored);
     std::optional<Recorder> recorder;
@@ -157,25 +157,26 @@ int judge(Playback& playback, std::uint32_t start) {
 }
 
 /// A game that comes with the game.
-fs::path demonstration(const Places& places) {
-    const fs::path installed = places.data / "demonstration.kovreplay";
-    return fs::exists(installed) ? installed : places.data / "packaging" / installed.filename();
+fs::path demonstration(const Folders& folders) {
+    const fs::path installed = folders.data / "demonstration.kovreplay";
+    return fs::exists(installed) ? installed : folders.data / "packaging" / installed.filename();
 }
 
-int watch(const Places& places, const Words& words) {
+int watch(const Folders& folders, const Words& words) {
     const CommandLine line(words, {{"speed", true}, {"from", true}});
     requireFiles(line, 0, 1);
     const std::string speed = line.value("speed"), from = line.value("from");
     const std::string path =
-        fs::absolute(line.files.empty() ? demonstration(places) : fs::path(line.files[0])).string();
+        fs::absolute(line.files.empty() ? demonstration(folders) : fs::path(line.files[0]))
+            .string();
     const Summary summary(path);
     const Watcher::Times times = {summary.start, summary.length, from.empty() ? 0 : toTime(from),
                                   speed.empty() ? 1.0
                                                 : toSpeed(speed, Pace::slowest, Pace::fastest)};
     requireDisplay();
-    const fs::path songs = fs::absolute(places.data) / "Songs";
+    const fs::path songs = fs::absolute(folders.data) / "Songs";
     Script script(path);
-    const Stage stage(places.data, script.setup);
+    const Stage stage(folders.data, script.setup);
     Watcher watcher(script, songs, times);
     insert(&watcher);
     runGame(script.setup);
@@ -197,10 +198,10 @@ fs::path verifyProgram() {
 }
 
 /// @return that program's exit code; exit_differs, with a line, if it has none. Throws Interrupted.
-int playUnseen(const Places& places, const std::string& file, const Words& options) {
+int playUnseen(const Folders& folders, const std::string& file, const Words& options) {
     Words words = {verifyProgram().string()};
     words.insert(words.end(), options.begin(), options.end());
-    words.insert(words.end(), {"--", file, places.data.string()});
+    words.insert(words.end(), {"--", file, folders.data.string()});
     const ProgramEnd end = runProgram(words);
     if (end.interrupted || end.code == exit_interrupted) throw Interrupted();
     if (end.code >= 0) return end.code;
@@ -208,13 +209,13 @@ int playUnseen(const Places& places, const std::string& file, const Words& optio
     return exit_differs;
 }
 
-int verify(const Places& places, const Words& words) {
+int verify(const Folders& folders, const Words& words) {
     const CommandLine line(words, {{"fair", false}});
     requireFiles(line, 1, line.files.size());
     const Words options = line.has("fair") ? Words{"--fair"} : Words{};
     int worst = 0;
     for (const std::string& file : line.files)
-        worst = worse(worst, playUnseen(places, file, options));
+        worst = worse(worst, playUnseen(folders, file, options));
     return worst;
 }
 
@@ -243,7 +244,7 @@ Film::Format toFormat(const CommandLine& line, const Summary& summary) {
     return format;
 }
 
-int film(const Places& places, const Words& words) {
+int film(const Folders& folders, const Words& words) {
     const CommandLine line(words, {{"size", true}, {"from", true}, {"to", true}, {"full", false}});
     requireFiles(line, 2, 2);
     const std::string path = fs::absolute(line.files[0]).string();
@@ -252,9 +253,9 @@ int film(const Places& places, const Words& words) {
     const Film::Format format = toFormat(line, summary);
     Film::requireTarget(out);
     requireDisplay();
-    const fs::path songs = fs::absolute(places.data) / "Songs";
+    const fs::path songs = fs::absolute(folders.data) / "Songs";
     Script script(path);
-    const Stage stage(places.data, script.setup);
+    const Stage stage(folders.data, script.setup);
     Film film(script, songs, format);
     insert(&film);
     runGame(script.setup);
@@ -263,18 +264,18 @@ int film(const Places& places, const Words& words) {
     return code;
 }
 
-int show(const Places& places, const Words& words) {
+int show(const Folders& folders, const Words& words) {
     const CommandLine line(words, {});
     requireFiles(line, 1, 1);
-    return playUnseen(places, line.files[0], {"--show"});
+    return playUnseen(folders, line.files[0], {"--show"});
 }
 
-std::vector<RankedGame> provenGames(const Places& places, const fs::path& folder) {
-    const Shipped shipped(fs::absolute(places.data));
+std::vector<RankedGame> provenGames(const Folders& folders, const fs::path& folder) {
+    const Shipped shipped(fs::absolute(folders.data));
     std::vector<fs::path> basis = shipped.files;
     basis.push_back(verifyProgram());
     Proofs proofs(folder, basis, [&](const fs::path& file, const fs::path& report) {
-        const int code = playUnseen(places, file.string(), {"--report", report.string()});
+        const int code = playUnseen(folders, file.string(), {"--report", report.string()});
         return code == 0 || code == exit_differs;
     });
     std::vector<RankedGame> games;
@@ -292,15 +293,15 @@ std::vector<RankedGame> provenGames(const Places& places, const fs::path& folder
     return games;
 }
 
-int best(const Places& places, const Words& words) {
+int best(const Folders& folders, const Words& words) {
     const CommandLine line(words, {{"page", true}, {"with-web", true}});
     requireFiles(line, 0, 1);
     if (line.has("with-web") && !line.has("page")) throw BadUsage("--with-web wants --page");
     const fs::path folder =
-        fs::absolute(line.files.empty() ? places.replays : fs::path(line.files[0]));
+        fs::absolute(line.files.empty() ? folders.replays : fs::path(line.files[0]));
     if (!line.files.empty() && !fs::is_directory(folder))
         throw std::runtime_error("no such folder: " + folder.string());
-    const std::vector<RankedGame> games = best(provenGames(places, folder), most_games);
+    const std::vector<RankedGame> games = best(provenGames(folders, folder), most_games);
     if (games.empty())
         std::cout << "no games are kept in " << folder.string() << '\n';
     else
@@ -313,7 +314,7 @@ int best(const Places& places, const Words& words) {
 
 const struct {
     const char* name;
-    int (*run)(const Places& places, const Words& words);
+    int (*run)(const Folders& folders, const Words& words);
 } commands[] = {
     {"record", record}, {"watch", watch}, {"verify", verify},
     {"film", film},     {"show", show},   {"best", best},
@@ -336,12 +337,12 @@ int run(const Words& words) {
     if (line.has("version")) return sayVersion();
     if (line.files.empty()) throw BadUsage("");
     // The launcher says where the game is installed; what the user says comes behind it.
-    Places places;
-    if (line.has("data")) places.data = line.value("data");
-    if (line.has("replays")) places.replays = line.value("replays");
+    Folders folders;
+    if (line.has("data")) folders.data = line.value("data");
+    if (line.has("replays")) folders.replays = line.value("replays");
     for (const auto& command : commands)
         if (line.files[0] == command.name)
-            return command.run(places, Words(line.files.begin() + 1, line.files.end()));
+            return command.run(folders, Words(line.files.begin() + 1, line.files.end()));
     throw BadUsage("no such command: " + line.files[0]);
 }
 

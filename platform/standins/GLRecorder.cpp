@@ -152,7 +152,7 @@ GLuint nextNames(GLsizei count) {
 
 extern "C" {
 
-GLenum GLEWAPIENTRY glewInit() {
+GLenum GLAPIENTRY glewInit() {
     return GLEW_OK;
 }
 

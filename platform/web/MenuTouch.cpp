@@ -59,17 +59,17 @@ void select(int selection, int item) {
         press("Up");
 }
 
-void touchConfiguration(const ConfigMenu& menu, const math::Point& place, bool down) {
+void touchConfiguration(const ConfigMenu& menu, const math::Point& point, bool down) {
     std::vector<GWord*> rows = menu.names;
     rows.push_back(menu.saveWord);
     rows.push_back(menu.cancelWord);
-    const int row = itemAt(rows, place.y);
+    const int row = itemAt(rows, point.y);
     if (row == nothing) return;
     const bool isSetting = row < ConfigMenu::setting_count;
     if (down == isSetting) select(menu.selection, row);
     if (isSetting) {
         const GWord& value = *menu.values[static_cast<std::size_t>(row)];
-        send(place.x < value.position.x ? "Left" : "Right", down);
+        send(point.x < value.position.x ? "Left" : "Right", down);
     } else if (!down) {
         press("Menu Select");
     }
@@ -78,14 +78,13 @@ void touchConfiguration(const ConfigMenu& menu, const math::Point& place, bool d
 } // namespace
 
 void touchMenu(menus::MainMenu& menu, double x, double y, bool down) {
-    const math::Point place = toWorld(x, y);
+    const math::Point point = toWorld(x, y);
     if (const auto* const page = dynamic_cast<ConfigMenu*>(menu.subMenu))
-        return touchConfiguration(*page, place, down);
+        return touchConfiguration(*page, point, down);
     if (down) return;
     if (menu.shown) {
-        const int item =
-            itemAt({menu.startWord, menu.configWord, menu.helpWord, menu.aboutWord, menu.exitWord},
-                   place.y);
+        const auto items = menu.items();
+        const int item = itemAt({items.begin(), items.end()}, point.y);
         if (item == nothing) return;
         select(menu.selection, item);
     }

@@ -33,8 +33,8 @@ bool PageWatcher::goOn(GameBase& game, double ms) {
     return !game.dead;
 }
 
-void PageWatcher::seek(double place) {
-    pace.position = place;
+void PageWatcher::seek(double time) {
+    pace.position = time;
     seeking = true;
 }
 
@@ -46,7 +46,7 @@ void PageWatcher::takeKeys() {
 
 /// Where the pass ends that is to be played next.
 std::uint32_t PageWatcher::nextPlace() const {
-    return pass().clock.empty() ? place() : pass().clock.back() - start;
+    return pass().clock.empty() ? sessionTime() : pass().clock.back() - start;
 }
 
 /// Of all that are due now the last alone needs to be seen.

@@ -16,16 +16,16 @@ public:
     PageWatcher(replay::Script& script_, const replay::Summary& summary);
 
     bool draws() override { return isSeen; }
-    bool sounds() override { return !seeking && pace.isInTime(place()); }
+    bool sounds() override { return !seeking && pace.isInTime(sessionTime()); }
 
     /// Plays what is due after that much time, though no longer than the page can wait.
     /// @return whether the game goes on
     bool goOn(GameBase& game, double ms);
 
-    /// @param place ms, not before the one that is reached. What lies between is played unseen.
-    void seek(double place);
+    /// @param time ms, not before the one that is reached. What lies between is played unseen.
+    void seek(double time);
 
-    std::uint32_t place() const { return now() - start; } ///< ms after the first frame
+    std::uint32_t sessionTime() const { return now() - start; } ///< ms after the first frame
     bool isSeeking() const { return seeking; }
 
     replay::Pace pace{0.0, 1.0};

@@ -27,9 +27,9 @@ using namespace quorva;
 
 extern "C" {
 double kovClock(); ///< ms, while the game does not stand still
-/// Where watching is. @param place and length ms @param end what came out, null before the end
-void kovShowPlace(double place, double length, double speed, bool stands, bool seeks,
-                  const char* end);
+/// Where watching is. @param time and length ms @param end what came out, null before the end
+void kovShowTime(double time, double length, double speed, bool stands, bool seeks,
+                 const char* end);
 }
 
 namespace {
@@ -173,17 +173,17 @@ EMSCRIPTEN_KEEPALIVE void kovTouchMenu(double x, double y, bool down) {
 EMSCRIPTEN_KEEPALIVE void kovWatch(double ms) {
     web::PageWatcher& watcher = watched->watcher;
     if (game != nullptr && !watcher.goOn(*game, ms)) endWatching();
-    kovShowPlace(watcher.place(), watched->summary.length, watcher.pace.speed,
-                 watcher.pace.standing, watcher.isSeeking(),
-                 watched->hasEnded ? watched->verdict.c_str() : nullptr);
+    kovShowTime(watcher.sessionTime(), watched->summary.length, watcher.pace.speed,
+                watcher.pace.standing, watcher.isSeeking(),
+                watched->hasEnded ? watched->verdict.c_str() : nullptr);
 }
 
-/// @param place ms, not before the one that is reached
-EMSCRIPTEN_KEEPALIVE void kovSeek(double place, double speed, bool stands) {
+/// @param time ms, not before the one that is reached
+EMSCRIPTEN_KEEPALIVE void kovSeek(double time, double speed, bool stands) {
     replay::Pace& pace = watched->watcher.pace;
     pace.speed = speed;
     pace.standing = stands;
-    watched->watcher.seek(place);
+    watched->watcher.seek(time);
 }
 
 } // extern "C"

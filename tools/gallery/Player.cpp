@@ -38,7 +38,7 @@ double distance(const math::Point& a, const math::Point& b) {
     return std::hypot(a.x - b.x, a.y - b.y);
 }
 
-/// The place nearest to this one where the player can stand.
+/// The point nearest to this one where the player can stand.
 math::Point onField(math::Point p) {
     const auto& camera = graphics::Camera::Instance();
     p.x = std::fmin(std::fmax(p.x, camera.left + edge_margin), camera.right - edge_margin);
@@ -84,8 +84,8 @@ const Triangle* Player::nearestTriangle() const {
     return nearest;
 }
 
-void Player::goTo(const math::Point& place) {
-    stops = {{place, {0, 0}}};
+void Player::goTo(const math::Point& point) {
+    stops = {{point, {0, 0}}};
     patience = patience_per_stop;
     directed = true;
 }
@@ -130,16 +130,16 @@ void Player::planWalk() {
 
 /// A key of now moves the cube only from the tick after the next.
 math::Point Player::placeAfterTick() const {
-    math::Point place = cube->physics->position;
-    place.x += stride * (held[0] - held[1]);
-    place.y += stride * (held[2] - held[3]);
-    return place;
+    math::Point ahead = cube->physics->position;
+    ahead.x += stride * (held[0] - held[1]);
+    ahead.y += stride * (held[2] - held[3]);
+    return ahead;
 }
 
 void Player::follow() {
     const Stop& next = stops.front();
     const math::Point here = placeAfterTick();
-    const double dx = next.place.x - here.x, dy = next.place.y - here.y;
+    const double dx = next.point.x - here.x, dy = next.point.y - here.y;
     if (std::fabs(dx) <= arrived && std::fabs(dy) <= arrived) return arrive(next);
     steer(dx, dy);
     if (patience-- == 0) stops.clear();

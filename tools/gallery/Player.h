@@ -22,7 +22,7 @@ public:
     void rest(); ///< lets go of all keys
 
     // Direction: until it is released, it does this and nothing else, whatever comes near.
-    void goTo(const quorva::math::Point& place);
+    void goTo(const quorva::math::Point& point);
     /// Two shots from the first corner, two from the opposite one, walking outside. No corner may
     /// lie at the edge of the field.
     void fence(const quorva::math::Point& corner, const quorva::math::Point& opposite);
@@ -31,7 +31,7 @@ public:
 private:
     /// Go there, then fire these guns.
     struct Stop {
-        quorva::math::Point place;
+        quorva::math::Point point;
         int guns[2]; ///< key symbols, 0 for none
     };
 

@@ -56,8 +56,8 @@ void searchHard(const ElementaryFunction& function, long searches, std::mt19937_
         std::printf("%s %a %a %.3g\n", function.name, hard.x, hard.y, hard.distance);
 }
 
-long argument(int argc, char* argv[], int place, long otherwise) {
-    return argc > place ? std::atol(argv[place]) : otherwise;
+long argument(int argc, char* argv[], int index, long otherwise) {
+    return argc > index ? std::atol(argv[index]) : otherwise;
 }
 
 } // namespace

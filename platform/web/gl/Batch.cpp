@@ -46,10 +46,10 @@ void Batch::addLine(const Vertex& from, const Vertex& to, const Colour& fromColo
     const auto colourA = toBytes(fromColour), colourB = toBytes(toColour);
     const auto corner = [&](bool atEnd, float side) {
         const float along = atEnd ? fading : -fading, across = side * halfWidth;
-        Vertex place = atEnd ? b : a;
-        place.x += (ux * along - uy * across) * 2 / width;
-        place.y += (uy * along + ux * across) * 2 / height;
-        return Corner{place,     atEnd ? colourB : colourA,        across,
+        Vertex position = atEnd ? b : a;
+        position.x += (ux * along - uy * across) * 2 / width;
+        position.y += (uy * along + ux * across) * 2 / height;
+        return Corner{position,  atEnd ? colourB : colourA,        across,
                       halfWidth, atEnd ? halfLength : -halfLength, halfLength};
     };
     const Corner quad[] = {corner(false, -1), corner(true, -1), corner(true, 1), corner(false, 1)};

@@ -12,7 +12,7 @@ using Colour = std::array<float, 4>; ///< red, green, blue, alpha
 
 /// As the page's vertex shader takes it.
 struct Corner {
-    Vertex place;
+    Vertex position;
     std::array<std::uint8_t, 4> colour;
     // Of a line, in pixels: where it is from the line's middle, and up to where the line covers
     // whole pixels. A pixel further out it has faded away.

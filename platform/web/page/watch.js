@@ -24,8 +24,8 @@ export class Watching {
     this.followControls();
   }
 
-  /** Starts the program, and has it play up to the place, unseen. */
-  async begin(place = 0, speed = 1, stands = false) {
+  /** Starts the program, and has it play up to that time (ms), unseen. */
+  async begin(from = 0, speed = 1, stands = false) {
     const start = this.stopProgram();
     const lines = [];
     const sound = new Sound({
@@ -39,14 +39,14 @@ export class Watching {
       const program = await this.createProgram({
         noInitialRun: true,
         printErr: line => lines.push(line),
-        page: { ...this.page, sound, showPlace: state => this.show(state) },
+        page: { ...this.page, sound, showTime: state => this.show(state) },
       });
       isThere = true;
       if (start !== this.start) return; // another one has begun
       program.FS.writeFile(path, this.game.bytes);
       if (program.callMain(['--watch', path]) !== 0)
         return this.onRefusal(`${this.game.name}: ${lines[0]}`);
-      program._kovSeek(place, speed, stands);
+      program._kovSeek(from, speed, stands);
       Object.assign(this, { program, sound });
       this.last = performance.now();
       this.turn();
@@ -101,9 +101,9 @@ export class Watching {
     speed.textContent = `×${state.speed}`;
     end.textContent = state.seeks ? 'seeking' : isOver ? state.end || 'the end' : '';
     if (this.isDragged) return;
-    time.textContent = `${timeText(state.place)} / ${timeText(state.length)}`;
+    time.textContent = `${timeText(state.time)} / ${timeText(state.length)}`;
     seek.max = state.length;
-    seek.value = this.target ?? state.place;
+    seek.value = this.target ?? state.time;
     if (!state.seeks) this.target = null;
   }
 
@@ -115,13 +115,13 @@ export class Watching {
     else if (symbol === space) this.begin(0, this.state.speed);
   }
 
-  seek(place) {
+  seek(wanted) {
     if (!this.state) return;
-    const { place: reached, speed, stands, end } = this.state;
-    this.target = place;
+    const { time: reached, speed, stands, end } = this.state;
+    this.target = wanted;
     this.parts.end.textContent = 'seeking';
-    if (place < reached || end !== null) this.begin(place, speed, stands);
-    else this.program._kovSeek(place, speed, stands);
+    if (wanted < reached || end !== null) this.begin(wanted, speed, stands);
+    else this.program._kovSeek(wanted, speed, stands);
   }
 
   followControls() {

@@ -20,9 +20,9 @@ mergeInto(LibraryManager.library, {
   },
   kovShowTitle: function(title) { Module.page.showTitle(UTF8ToString(title)); },
 
-  kovShowPlace: function(place, length, speed, stands, seeks, end) {
-    Module.page.showPlace({ place, length, speed, stands: !!stands, seeks: !!seeks,
-                            end: end === 0 ? null : UTF8ToString(end) });
+  kovShowTime: function(time, length, speed, stands, seeks, end) {
+    Module.page.showTime({ time, length, speed, stands: !!stands, seeks: !!seeks,
+                           end: end === 0 ? null : UTF8ToString(end) });
   },
   kovShowProgress: function(percent) { Module.page.showProgress(percent); },
 
