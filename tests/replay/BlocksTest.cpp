@@ -57,26 +57,6 @@ TEST_F(Blocks, AreAtMostSoLarge) {
     EXPECT_EQ(reader.size(), contentsOf(path).size());
 }
 
-TEST_F(Blocks, NoNewerVersionAndNoOtherRulesAreRead) {
-    fs::remove(path);
-    BlockWriter(path).write("x");
-    const std::string file = contentsOf(path);
-    const struct {
-        std::size_t offset;
-        int change;
-        bool isRead;
-    } cases[] = {{11, 0, true}, {11, -1, true}, {11, 1, false}, {12, 1, false}, {12, -1, false}};
-    for (const auto& c : cases) {
-        std::string other = file;
-        other[c.offset] = static_cast<char>(other[c.offset] + c.change);
-        fill(path, other);
-        if (c.isRead)
-            EXPECT_EQ(BlockReader(path).read(), "x");
-        else
-            EXPECT_THROW(BlockReader reader(path), BadFile) << c.offset << ' ' << c.change;
-    }
-}
-
 TEST(BytesTest, ComeBackAsTheyWere) {
     ByteWriter out;
     const std::uint64_t numbers[] = {0, 1, 127, 128, 16383, 16384, UINT32_MAX, UINT64_MAX};

@@ -5,19 +5,11 @@
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <stdexcept>
 
 using namespace quorva::replay;
 namespace fs = boost::filesystem;
-
-namespace {
-
-const std::string missing = "no-such-program";
-
-} // namespace
 
 TEST(PipeTest, GivesAllToTheProgramAndKnowsHowItEnded) {
     const fs::path file = fs::temp_directory_path() / fs::unique_path();
@@ -32,25 +24,22 @@ TEST(PipeTest, GivesAllToTheProgramAndKnowsHowItEnded) {
     EXPECT_FALSE(deaf.write(much.data(), much.size()));
     EXPECT_FALSE(deaf.write(much.data(), 1)) << "nor later";
     EXPECT_FALSE(deaf.finish());
-    EXPECT_THROW(Pipe({missing}), std::runtime_error);
+    EXPECT_THROW(Pipe({"no-such-program"}), std::runtime_error);
 }
 
 TEST(PipeTest, RunsProgramsToTheirEnd) {
     EXPECT_EQ(runProgram({"sh", "-c", "read line; exit 7"}).code, 7) << "there is nothing to read";
     EXPECT_EQ(runProgram({"true"}).code, 0);
-    EXPECT_EQ(runProgram({missing}).code, -1);
+    EXPECT_EQ(runProgram({"no-such-program"}).code, -1);
     EXPECT_EQ(runProgram({"sh", "-c", "kill -KILL $$"}).code, -1);
     EXPECT_FALSE(runProgram({"true"}).interrupted);
 }
 
 TEST(PipeTest, PassesASignalOn) {
-    const pid_t child = fork();
-    if (child == 0) {
+    const auto pass = [] {
         const ProgramEnd end = runProgram(
             {"sh", "-c", "trap 'exit 5' TERM; kill -HUP $PPID; while :; do sleep 0.01; done"});
         std::_Exit(end.interrupted ? end.code : 1);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(WEXITSTATUS(status), 5);
+    };
+    EXPECT_EXIT(pass(), testing::ExitedWithCode(5), "");
 }

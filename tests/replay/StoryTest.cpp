@@ -43,15 +43,7 @@ protected:
 } // namespace
 
 TEST_F(StoryTest, CountsWhatAGameBrings) {
-    const Progress unseen;
-    EXPECT_FALSE(unseen.ticked || unseen.began || unseen.ended || unseen.inGame);
-    EXPECT_EQ(unseen.ticks, 0U);
     Watched watched;
-    const GameStory& fresh = watched.game();
-    EXPECT_EQ(fresh.longestTick + fresh.ticks + fresh.slowTicks + fresh.pauses + fresh.paused, 0U);
-    EXPECT_EQ(fresh.shots + fresh.powerUps + fresh.presses + fresh.sides(), 0U);
-    EXPECT_EQ(fresh.best(), nullptr);
-    EXPECT_EQ(fresh.length(), 0U);
     unsigned int bests = 0;
     watched.story.onBestCatch = [&bests] { ++bests; };
     const auto fence = [&](double half) {
