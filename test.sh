@@ -77,7 +77,7 @@ step "build, sanitizers" build sanitize
 step "tests, sanitizers" run_tests sanitize
 if [ "${1:-}" = all ]; then
     step "link-time optimisation" verify_optimised_whole
-    # Only Debian 12's Emscripten has been tried so far.
+    # KOV_PAGE=no leaves out what takes two browsers.
     [ "${KOV_PAGE:-yes}" = no ] ||
         step "page, Chromium and Firefox" quietly build/tests-web.log 9 tests/web/run.sh
     step "packages of the static checks" tools/install_packages.sh check
