@@ -1,6 +1,7 @@
 // What the page costs, as JSON: bytes that it fetches before the first song, ms from the navigation
-// to the menu's first picture, ms of the page's thread a frame in a game's busiest half minute, ticks
-// a second of a proof, and ms to seek over most of the longest recorded game, forwards and back.
+// to the menu's first picture, ms of the page's thread a frame in a game's busiest half minute,
+// ticks a second of a proof, and ms to seek over most of the longest recorded game, forwards and
+// back.
 // Wants what tests/web/run.sh builds and installs.
 
 import { gzipSync } from 'node:zlib';
@@ -62,7 +63,7 @@ async function frames(server) {
   }
 }
 
-/** @returns ticks a second of the fastest of some proofs, as those after the first in a table are */
+/** @returns ticks a second of the fastest of some proofs, as those behind the first of a table */
 async function proof(page, server) {
   await page.goto(`${server.address}?prove=none`);
   return page.evaluate(async (name, count) => {

@@ -96,8 +96,8 @@ TEST_F(Layer, LeadsTheGamesCallsToTheTape) {
     SDL_GL_SwapBuffers();
     unsigned int length = 0;
     FMOD_SOUND* song = nullptr;
-    FMOD_System_CreateStream(nullptr, "a.ogg", 64, nullptr, &song);
-    FMOD_Sound_GetLength(song, &length, 1);
+    FMOD_System_CreateStream(nullptr, "a.ogg", FMOD_MODE_STREAM, nullptr, &song);
+    FMOD_Sound_GetLength(song, &length, FMOD_LENGTH_MS);
     EXPECT_EQ(length, 9U);
     EXPECT_EQ(tape.said,
               "clock, poll, joysticks, open 1, axis 4, window 640x480, viewport 320x200, "
@@ -132,13 +132,13 @@ TEST_F(Layer, SilencesEffectsButNoSong) {
     FMOD_CHANNEL* channel = nullptr;
     FMOD_System_CreateSound(nullptr, "Sounds/hit.wav", 0, nullptr, &effect);
     tape.Tape::openSong(nullptr, "Songs/a.ogg", &tape.aSong);
-    FMOD_System_CreateStream(nullptr, "a", 64, nullptr, &song);
+    FMOD_System_CreateStream(nullptr, "a", FMOD_MODE_STREAM, nullptr, &song);
     standins::sound().recording = true;
-    FMOD_System_PlaySound(nullptr, -1, effect, 0, &channel);
-    FMOD_System_PlaySound(nullptr, -1, song, 0, &channel);
+    FMOD_System_PlaySound(nullptr, FMOD_CHANNEL_ANY, effect, 0, &channel);
+    FMOD_System_PlaySound(nullptr, FMOD_CHANNEL_ANY, song, 0, &channel);
     EXPECT_EQ(standins::sound().take(), "play Songs/a.ogg; ");
     tape.audible = true;
-    FMOD_System_PlaySound(nullptr, -1, effect, 0, &channel);
+    FMOD_System_PlaySound(nullptr, FMOD_CHANNEL_ANY, effect, 0, &channel);
     EXPECT_EQ(standins::sound().take(), "play Sounds/hit.wav; ");
 }
 

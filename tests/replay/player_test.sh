@@ -84,16 +84,19 @@ expect "several files, one cut off" 0 "holds, but is cut off" verify cut.kovrepl
 "$record" pauses.kovreplay --seed 6 --ticks 4200 --pages 1 >/dev/null # six of them
 expect "not fair" 4 "6 pauses of 0:03 (!)" verify --fair pauses.kovreplay
 expect "not fair, but well" 0 "6 pauses of 0:03 (!)" verify pauses.kovreplay
-expect "not fair, and worse" 2 "none that can be read" verify --fair nothing.kovreplay pauses.kovreplay
+expect "not fair, and worse" 2 "none that can be read" \
+    verify --fair nothing.kovreplay pauses.kovreplay
 expect "an option twice" 2 "--speed stands there twice" watch one.kovreplay --speed=2 --speed 4
 expect "one that is there" 2 "File exists" record one.kovreplay
 
 # What takes a while says how far it is, on a terminal; a signal that is ignored doesn't end it; and
 # a game that is killed is kept up to nine seconds before.
 "$record" long.kovreplay --seed 8 --ticks 1200 --songs 4 --music 0 --idle 900 >/dev/null
-SHELL=/bin/bash script -qec "'$replay' --data '$sources' verify long.kovreplay" /dev/null >said </dev/null
+SHELL=/bin/bash script -qec "'$replay' --data '$sources' verify long.kovreplay" /dev/null \
+    >said </dev/null
 grep -q "[0-9] % " said && grep -q ": holds" said || fail "verify on a terminal: $(cat said)"
-timeout -s TERM 0.3 sh -c 'trap "" TERM; exec "$@"' sh "$replay" --data "$sources" verify long.kovreplay >said
+timeout -s TERM 0.3 sh -c 'trap "" TERM; exec "$@"' sh \
+    "$replay" --data "$sources" verify long.kovreplay >said
 grep -q ": holds" said || fail "verify, TERM ignored: $(cat said)"
 timeout -s KILL 1 "$record" killed.kovreplay --seed 3 --ticks 10000000 >/dev/null 2>&1
 expect "a game that was killed" 0 "holds, but is cut off" verify killed.kovreplay
@@ -162,7 +165,8 @@ expect "film, wide" 0 "" film one.kovreplay wide.mp4 --size=400x240
 beside=$(tr -dc '\033' <wide.mp4.last | wc -c)
 between $((80 * 240 * 3)) "$beside" $((84 * 240 * 3)) || fail "film, wide: $beside bytes"
 expect "film of a night" 0 "" film night.kovreplay night.mp4 --size=320x240
-between 440 $(($(head -n 1 night.mp4) / picture)) 475 || fail "a film of a night: $(head -n 1 night.mp4)"
+between 440 $(($(head -n 1 night.mp4) / picture)) 475 ||
+    fail "a film of a night: $(head -n 1 night.mp4)"
 expect "film, there already" 2 "File exists" film one.kovreplay part.mp4
 expect "film, no such folder" 2 "No such file" film one.kovreplay nowhere/o.mp4
 expect "film, no such ending" 2 "ffmpeg makes no films like o.xyz" film one.kovreplay o.xyz

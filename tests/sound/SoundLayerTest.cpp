@@ -122,7 +122,7 @@ protected:
     }
     static FMOD_CHANNEL* play(FMOD_SOUND* sound) {
         FMOD_CHANNEL* channel = nullptr;
-        EXPECT_EQ(FMOD_System_PlaySound(system, -1, sound, 0, &channel), FMOD_OK);
+        EXPECT_EQ(FMOD_System_PlaySound(system, FMOD_CHANNEL_ANY, sound, 0, &channel), FMOD_OK);
         return channel;
     }
     /// An effect or a song that plays from the start on, while this lives.
@@ -138,7 +138,7 @@ protected:
         Playing& operator=(const Playing&) = delete;
         unsigned int length() const { // in ms
             unsigned int ms = 0;
-            EXPECT_EQ(FMOD_Sound_GetLength(sound, &ms, 1), FMOD_OK);
+            EXPECT_EQ(FMOD_Sound_GetLength(sound, &ms, FMOD_LENGTH_MS), FMOD_OK);
             return ms;
         }
 

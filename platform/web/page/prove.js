@@ -2,8 +2,8 @@
 
 import { codeOf } from './program.js';
 
-// ms that a proof may take: some for any game, and a share of the time that was played, as a machine
-// that can play proves far faster. A file may claim to be of any length.
+// ms that a proof may take: some for any game, and a share of the time that was played, as a
+// machine that can play proves far faster. A file may claim to be of any length.
 const shortest = 10000, longest = 600000;
 const share = 1 / 10;
 

@@ -1,6 +1,6 @@
 // A worker that proves one kept game. It is sent the game's name and bytes and the program's code,
-// and sends back that it is ready, how long the game is (ms), how far the proof is (percent), and what
-// has come out: the program's exit code and what it has said, or that it has failed.
+// and sends back that it is ready, how long the game is (ms), how far the proof is (percent), and
+// what has come out: the program's exit code and what it has said, or that it has failed.
 
 import createProver from './kov-prove.js';
 import { startFrom } from './program.js';

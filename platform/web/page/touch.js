@@ -90,7 +90,7 @@ export function followTouch(stage, controls, kov, isOurs, onPress) {
   });
   stage.addEventListener('pointermove', move);
   stage.addEventListener('pointerup', event => {
-    if (event.pointerType !== 'mouse' && isOurs()) onPress(); // only now it counts as the user's wish
+    if (event.pointerType !== 'mouse' && isOurs()) onPress(); // now it counts as a wish
     end(event);
   });
   stage.addEventListener('pointercancel', end);

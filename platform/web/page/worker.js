@@ -1,5 +1,5 @@
-// Keeps the page's files, so that it works without a connection: most when the page is first opened,
-// each song when it is first played, and what proves games when that is first done.
+// Keeps the page's files, so that it works without a connection: most when the page is first
+// opened, each song when it is first played, and what proves games when that is first done.
 
 const version = '@version@'; // of the files' contents
 const files = @files@;
