@@ -37,7 +37,6 @@ int Playback::poll(SDL_Event* event) {
     if (isInterrupted()) stop();
     if (!isIdle() && giveEvent(event)) return 1;
     if (ending) {
-        *event = {};
         event->type = SDL_QUIT;
         return 1;
     }

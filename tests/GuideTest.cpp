@@ -2,6 +2,7 @@
 
 #include "Framework/config/Settings.h"
 #include "Framework/menus/ConfigMenu.h"
+#include "Framework/menus/Resolutions.h"
 #include "game/FModMP3Input.h"
 #include "game/FModSystem.h"
 #include "platform/standins/SoundRecorder.h"
@@ -81,6 +82,17 @@ TEST(Guide, ASettingIsInTheManualsAndCounted) {
     expect(manual, "All " + count + " settings", "manual.html");
     expect(contentsOf(root + "game/AboutMenu.cpp"),
            inWords(in_menu) + " of the " + count + " settings", "game/AboutMenu.cpp");
+}
+
+TEST(Guide, AResolutionOfTheSettingsIsInThePage) {
+    const std::string page = contentsOf(root + "platform/web/page/page.js");
+    const auto& widths = config::settingWith('w').range;
+    for (const menus::Resolution& size : menus::resolution_table) {
+        if (size.width < widths.min || size.width > widths.max) continue;
+        const std::string text =
+            '[' + std::to_string(size.width) + ", " + std::to_string(size.height) + ']';
+        EXPECT_TRUE(boost::contains(page, text)) << "`resolutions` of page.js lacks " << text;
+    }
 }
 
 TEST(Guide, AColourIsInBothPalettes) {

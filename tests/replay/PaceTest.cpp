@@ -40,6 +40,16 @@ TEST(Pace, StepsOnlyWhileItStands) {
     EXPECT_EQ(pace.speed, 2.0);
 }
 
+TEST(Pace, HasASlowestAndAFastestSpeed) {
+    Pace pace(0.0, 1.0);
+    for (int i = 0; i < 20; ++i)
+        pace.press(i % 2 == 0 ? SDLK_UP : SDLK_RIGHT);
+    EXPECT_EQ(pace.speed, 64.0);
+    for (int i = 0; i < 20; ++i)
+        pace.press(i % 2 == 0 ? SDLK_DOWN : SDLK_LEFT);
+    EXPECT_EQ(pace.speed, 0.125);
+}
+
 TEST(Pace, LeavesOutWhatComesTooLate) {
     for (const double speed : {0.5, 1.0, 4.0}) {
         const Pace pace(1000.0, speed);
