@@ -22,14 +22,14 @@ PageWatcher::PageWatcher(replay::Script& script_, const replay::Summary& summary
 bool PageWatcher::goOn(GameBase& game, double ms) {
     takeKeys();
     if (!seeking) pace.goOn(ms);
-    if (pace.takeStep()) pace.position = nextPlace();
+    if (pace.takeStep()) pace.position = nextTime();
     const double end = emscripten_get_now() + (seeking ? longest_seeking_turn : longest_turn);
-    while (!game.dead && nextPlace() <= pace.position && emscripten_get_now() < end) {
+    while (!game.dead && nextTime() <= pace.position && emscripten_get_now() < end) {
         isSeen = isLastDue();
         game.pass();
     }
-    if (!seeking) pace.position = std::min<double>(pace.position, nextPlace()); // it waits for us
-    seeking = seeking && nextPlace() <= pace.position;
+    if (!seeking) pace.position = std::min<double>(pace.position, nextTime()); // it waits for us
+    seeking = seeking && nextTime() <= pace.position;
     return !game.dead;
 }
 
@@ -44,8 +44,8 @@ void PageWatcher::takeKeys() {
         if (event.type == SDL_KEYDOWN) pace.press(event.key.keysym.sym);
 }
 
-/// Where the pass ends that is to be played next.
-std::uint32_t PageWatcher::nextPlace() const {
+/// When the pass ends that is to be played next, ms.
+std::uint32_t PageWatcher::nextTime() const {
     return pass().clock.empty() ? sessionTime() : pass().clock.back() - start;
 }
 

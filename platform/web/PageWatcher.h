@@ -35,7 +35,7 @@ protected:
 
 private:
     void takeKeys();
-    std::uint32_t nextPlace() const;
+    std::uint32_t nextTime() const;
     bool isLastDue();
 
     const std::uint32_t start; ///< ms, the game's clock at its first frame
