@@ -6,6 +6,7 @@
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <stdexcept>
 
 using namespace quorva::replay;
@@ -33,6 +34,9 @@ TEST(PipeTest, RunsProgramsToTheirEnd) {
     EXPECT_EQ(runProgram({"no-such-program"}).code, -1);
     EXPECT_EQ(runProgram({"sh", "-c", "kill -KILL $$"}).code, -1);
     EXPECT_FALSE(runProgram({"true"}).interrupted);
+    sigset_t held;
+    pthread_sigmask(SIG_BLOCK, nullptr, &held);
+    EXPECT_FALSE(sigismember(&held, SIGTERM)) << "only meanwhile";
 }
 
 TEST(PipeTest, PassesASignalOn) {

@@ -13,6 +13,7 @@
 #include "replay/Tape.h"
 #include "replay/Watcher.h"
 
+#include "Framework/Managers/ColourManager.h"
 #include "Framework/math/MTRand.h"
 #include "tests/support/Field.h"
 #include "tests/support/Files.h"
@@ -352,6 +353,26 @@ TEST_F(Replay, ARecorderThatSawNoFrameWritesNothing) {
     EXPECT_THROW(Recorder("empty"), std::runtime_error) << "there already";
 }
 
+TEST_F(Replay, WhatCouldNotBeReadIsNotKept) {
+    const auto keep = [] {
+        const headless::HeadlessGame run;
+        setupOfGame();
+        ColourManager::Instance().resources["Line Colour"].value.components[0] = 100.0F;
+        setupOfGame();
+    };
+    EXPECT_EXIT(
+        {
+            try {
+                keep();
+            } catch (const std::runtime_error& e) {
+                std::cerr << e.what();
+                std::_Exit(0);
+            }
+            std::_Exit(1);
+        },
+        testing::ExitedWithCode(0), "too far from the usual ones");
+}
+
 TEST_F(Replay, ARecorderLetsNoClockRunBack) {
     Recorder recorder("clock");
     const struct {
@@ -395,6 +416,13 @@ TEST_F(Replay, ASongOfTheSameLengthIsHeard) {
         EXPECT_NE(calls.find(isHere ? "mine/a.ogg" : "silence.wav"), std::string::npos) << calls;
     }
     standins::sound() = {};
+    const std::string silence = contentsOf("silence.wav");
+    const auto word = [&](std::size_t offset) {
+        return ByteReader(silence.substr(offset, 4)).fixed32();
+    };
+    EXPECT_EQ(word(4), silence.size() - 8);
+    EXPECT_EQ(word(40), silence.size() - 44);
+    EXPECT_EQ(word(24), word(28)) << "a byte a sample";
 }
 
 TEST_F(Replay, AWatcherTakesKeysWhileNothingIsShown) {
