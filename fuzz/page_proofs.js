@@ -1,7 +1,8 @@
 // Damages kept games in as many ways as it is told to, and has each proved in a page, as a reader
 // would: none may hang, or end in anything but a verdict. Prints a line for what does, and how many
-// verdicts of each kind there were. Wants what prepare.sh builds.
-//   node tests/web/mutants.js [COUNT [SEED]]
+// verdicts of each kind there were. Wants what tests/web/prepare.sh
+// builds.
+//   node fuzz/page_proofs.js [COUNT [SEED]]
 // Half of them are whole files with a few bytes changed, which their checksums give away. The
 // others are packed anew, so that what is wrong comes to the records' reader or to the game.
 
@@ -9,8 +10,8 @@ import { readFileSync, readdirSync } from 'node:fs';
 import { join } from 'node:path';
 import { constants, crc32, createInflate, deflateSync } from 'node:zlib';
 
-import { launch } from './browsers.js';
-import { root, Server } from './server.js';
+import { launch } from '../tests/web/browsers.js';
+import { root, Server } from '../tests/web/server.js';
 
 const [count = 2000, seed = 1] = process.argv.slice(2).map(Number);
 const longest = 10000; // ms

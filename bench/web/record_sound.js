@@ -1,11 +1,11 @@
 // Writes a minute of what a recorded game sounds like in a page, to be laid beside the machine's
 // own (kov-replay film).
-//   node record_sound.js OUTPUT.wav [seconds]
+//   node bench/web/record_sound.js OUTPUT.wav [seconds]
 
 import { writeFileSync } from 'node:fs';
 
-import { launch } from './browsers.js';
-import { Server } from './server.js';
+import { launch } from '../../tests/web/browsers.js';
+import { Server } from '../../tests/web/server.js';
 
 const [output, seconds = '60'] = process.argv.slice(2);
 const headSize = 44, channels = 2, sampleBytes = 2;
