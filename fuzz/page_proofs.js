@@ -1,7 +1,6 @@
 // Damages kept games in as many ways as it is told to, and has each proved in a page, as a reader
 // would: none may hang, or end in anything but a verdict. Prints a line for what does, and how many
-// verdicts of each kind there were. Wants what tests/web/prepare.sh
-// builds.
+// verdicts of each kind there were. Wants what tests/web/prepare.sh builds.
 //   node fuzz/page_proofs.js [COUNT [SEED]]
 // Half of them are whole files with a few bytes changed, which their checksums give away. The
 // others are packed anew, so that what is wrong comes to the records' reader or to the game.

@@ -16,8 +16,8 @@ DRAWING = ROOT / "docs/architecture.svg"
 # are a folder's own files. Inner rooms are those in the frame before them.
 ROOMS = [
     ("check", ["bench"], "measures ticks, frames, starts"),
-    ("check", ["tests"], "mirrors the tree; pictures, recorded games"),
     ("check", ["fuzz"], "hostile input"),
+    ("check", ["tests"], "mirrors the tree; pictures, recorded games"),
     ("check", ["tools"], "bot runs; make sounds, fonts, pictures"),
     ("system", ["platform/web"], "the game in a browser"),
     ("system", ["packaging"], "launcher, menu entry, man pages, icons"),
