@@ -49,7 +49,6 @@ bool Playback::giveEvent(SDL_Event* event) {
         return false;
     const Event& kept = pass_.events[nextEvent++];
     const Uint8 types[] = {SDL_KEYDOWN, SDL_KEYUP, SDL_JOYBUTTONDOWN, SDL_JOYAXISMOTION, SDL_QUIT};
-    *event = {};
     event->type = types[kept.kind];
     switch (kept.kind) {
     case Event::key_down:
@@ -174,8 +173,6 @@ void Playback::differs(const std::string& what) {
 }
 
 void Playback::nextPass() {
-    pass_ = {};
-    nextClock = nextEvent = nextAxis = nextSong = 0;
     whileReadable([this] {
         std::optional<Pass> next = script.take<Pass>();
         while (!next && !script.atEnd()) {
@@ -186,6 +183,7 @@ void Playback::nextPass() {
         }
         if (!next) return stop();
         pass_ = std::move(*next);
+        nextClock = nextEvent = nextAxis = nextSong = 0;
         idle = pass_.idle;
     });
 }

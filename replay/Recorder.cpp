@@ -65,7 +65,6 @@ std::uint32_t Recorder::clock() {
 int Recorder::poll(SDL_Event* event) {
     int found = Tape::poll(event);
     if (found == 0 && takeInterruption()) {
-        *event = {};
         event->type = SDL_QUIT;
         found = 1;
     }
@@ -192,7 +191,7 @@ void Recorder::keep(const Record& record) {
 }
 
 void Recorder::flush() {
-    if (failed || pending.bytes.empty()) return;
+    if (failed) return;
     if (!file.write(pending.bytes)) giveUp(std::strerror(errno));
     pending.bytes.clear();
     flushedAt = progress.ticks;

@@ -84,19 +84,16 @@ void Story::look(const Progress& progress, const Pass& pass, std::uint32_t time)
     const auto presses = std::count_if(pass.events.begin(), pass.events.end(),
                                        [](const Event& event) { return event.isPress(); });
     game.presses = std::max(game.presses, static_cast<std::size_t>(presses));
-    for (; datedCatches < game.catches.size(); ++datedCatches)
-        game.catches[datedCatches].time = time - game.begin;
+    for (; now.datedCatches < game.catches.size(); ++now.datedCatches)
+        game.catches[now.datedCatches].time = time - game.begin;
     lookAtClock(progress, time);
 }
 
 void Story::begin(std::uint32_t time) {
     games.emplace_back();
-    games.back().begin = lastTick = time;
     games.back().settings = settingsOfGame();
-    score = 0;
-    datedCatches = 0;
-    pauses = 0;
-    isPaused = false;
+    now = {};
+    games.back().begin = now.lastTick = time;
 }
 
 /// A pause and the tick that follows it, or that went before, may be in one pass.
@@ -104,15 +101,15 @@ void Story::lookAtClock(const Progress& progress, std::uint32_t time) {
     GameStory& game = games.back();
     const TimerClass& timer = Timer::Instance();
     if (progress.ended) {
-        if (isPaused) endPause(time - pauseBegin);
+        if (now.isPaused) endPause(time - now.pauseBegin);
         return;
     }
-    const std::uint32_t ended = timer.correction - std::exchange(pauses, timer.correction);
+    const std::uint32_t ended = timer.correction - std::exchange(now.pauses, timer.correction);
     if (ended != 0) endPause(ended);
-    if (!isPaused && timer.paused) pauseBegin = time;
-    isPaused = timer.paused;
+    if (!now.isPaused && timer.paused) now.pauseBegin = time;
+    now.isPaused = timer.paused;
     if (!progress.ticked || progress.began) return;
-    const std::uint32_t length = time - std::exchange(lastTick, time);
+    const std::uint32_t length = time - std::exchange(now.lastTick, time);
     ++game.ticks;
     if (length > GameStory::slow_tick) ++game.slowTicks;
     game.longestTick = std::max(game.longestTick, length);
@@ -122,14 +119,14 @@ void Story::lookAtClock(const Progress& progress, std::uint32_t time) {
 void Story::endPause(std::uint32_t length) {
     ++games.back().pauses;
     games.back().paused += length;
-    lastTick += length;
+    now.lastTick += length;
 }
 
 void Story::receiveMessage(const SoundSquare*) {
     GameStory& game = games.back();
-    const std::uint32_t before = std::exchange(score, Marvo::Instance().score);
+    const std::uint32_t before = std::exchange(now.score, Marvo::Instance().score);
     const GameStory::Catch* const former = game.best();
-    const std::uint32_t points = score - before;
+    const std::uint32_t points = now.score - before;
     const bool isBest = former == nullptr || points > former->points;
     game.catches.push_back({0, points, caughtTriangles()});
     if (isBest && onBestCatch) onBestCatch();

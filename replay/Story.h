@@ -70,12 +70,15 @@ private:
     void lookAtClock(const Progress& progress, std::uint32_t time);
     void endPause(std::uint32_t length);
 
-    std::uint32_t score = 0;      ///< after the last catch
-    std::size_t datedCatches = 0; ///< whose time is known
-    std::uint32_t lastTick = 0;   ///< ms after the start, and later by the pauses since then
-    std::uint32_t pauses = 0;     ///< ms, those of this game that have ended, as its clock has them
-    bool isPaused = false;
-    std::uint32_t pauseBegin = 0; ///< ms after the start
+    /// In the game that is being played.
+    struct {
+        std::uint32_t score = 0;      ///< after the last catch
+        std::size_t datedCatches = 0; ///< whose time is known
+        std::uint32_t lastTick = 0;   ///< ms after the start, and later by the pauses since then
+        std::uint32_t pauses = 0;     ///< ms, those that have ended, as the game's clock has them
+        bool isPaused = false;
+        std::uint32_t pauseBegin = 0; ///< ms after the start
+    } now;
 };
 
 } // namespace quorva::replay
