@@ -170,7 +170,6 @@ void Film::takePicture() {
 /// Now and then, as each picture shown waits for the monitor: looks whether the user wants to stop.
 void Film::look() {
     const std::uint32_t clock_ = Tape::clock();
-    if (begun == 0) begun = clock_;
     if (isInterrupted()) stop();
     if (clock_ - looked < look_interval) return;
     looked = clock_;
@@ -185,7 +184,7 @@ void Film::sayProgress() const {
     if (!hasBegun) return;
     const double length = std::max<std::uint32_t>(format.to - format.from, 1);
     const double done = std::clamp((lastTime - format.from) / length, 0.001, 1.0);
-    const double left = (looked - begun) * (1.0 / done - 1.0);
+    const double left = looked * (1.0 / done - 1.0); // the clock began with the program
     std::cout << "\r" << static_cast<int>(100.0 * done) << " %, time left "
               << minutes(static_cast<std::uint64_t>(left)) << "   " << std::flush;
 }

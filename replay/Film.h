@@ -59,12 +59,12 @@ private:
     Pipe pictures, sound;
     std::vector<std::uint32_t> picture; ///< pixels of the last frame, from the bottom
     bool hasBegun = false;
-    std::uint32_t lastTime = 0;          ///< ms after the start, of the last frame
-    std::uint64_t filmed = 0;            ///< ms of the film
-    std::uint64_t pictureCount = 0;      ///< written
-    std::uint64_t heard = 0;             ///< samples
-    double scale = 1.0;                  ///< of the game's pixels in the film
-    std::uint32_t begun = 0, looked = 0; ///< ms, the real clock
+    std::uint32_t lastTime = 0;     ///< ms after the start, of the last frame
+    std::uint64_t filmed = 0;       ///< ms of the film
+    std::uint64_t pictureCount = 0; ///< written
+    std::uint64_t heard = 0;        ///< samples
+    double scale = 1.0;             ///< of the game's pixels in the film
+    std::uint32_t looked = 0;       ///< ms, the real clock
 };
 
 } // namespace quorva::replay

@@ -122,13 +122,15 @@ Edit ofFirst(void (*change)(Kind&)) {
     };
 }
 
-/// The first key that fires.
-bool changeKey(Record& record) {
-    auto* const pass = std::get_if<Pass>(&record);
-    if (pass == nullptr) return false;
-    for (Event& event : pass->events)
-        if (event.which == SDLK_w) return event.which = SDLK_s, true;
-    return false;
+/// The first key that fires becomes that.
+Edit toFirstShot(const Event& other) {
+    return [other](Record& record) {
+        auto* const pass = std::get_if<Pass>(&record);
+        if (pass == nullptr) return false;
+        for (Event& event : pass->events)
+            if (event.which == SDLK_w) return event = other, true;
+        return false;
+    };
 }
 
 class OpeningPlayback : public WindowPlayback {
@@ -229,7 +231,8 @@ TEST_F(Replay, AnEditedFileDiffers) {
         {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { ++end.score; })},
         {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { ++end.deaths; })},
         {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { end.lost = true; })},
-        {"the first that differs: ", changeKey},
+        {"the first that differs: ", toFirstShot({0, Event::key_down, SDLK_s})},
+        {"goes another way", toFirstShot({0, Event::closed, 0})}, // it ends before the file does
         {"only the hash differs", ofFirst<Check>([](Check& check) { ++check.hash; })},
         {"differs: score and lives", ofFirst<Check>([](Check& check) { ++check.partHashes[0]; })},
         {"the first that differs: ", ofFirst<End>([](End& end) { ++end.check.partHashes[0]; })},

@@ -128,7 +128,7 @@ TEST_F(StoryTest, TakesPausesOutOfTheClock) {
 TEST_F(StoryTest, TakesTheMostPressesOfAPass) {
     Watched watched;
     watched.look({{0, Event::key_down, 1}, {0, Event::key_up, 1}, {0, Event::button_down, 1}});
-    watched.look({{0, Event::key_down, 1}, {0, Event::axis_moved, 0}, {0, Event::closed, 0}});
+    watched.look({{0, Event::key_up, 1}, {0, Event::axis_moved, 0}, {0, Event::closed, 0}});
     EXPECT_EQ(watched.game().presses, 2U);
 }
 
