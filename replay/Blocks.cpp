@@ -72,7 +72,6 @@ BlockReader::BlockReader(const std::string& path) {
     if (!file) throw BadFile("no such file, or none that can be read");
     bytes.assign(std::istreambuf_iterator<char>(file), {});
     if (bytes.compare(0, magic.size(), magic) != 0) throw BadFile("this is no replay of KOV");
-    at = BlockWriter::empty_size;
     if (bytes.size() < at) damaged();
     if (static_cast<std::uint8_t>(bytes[magic.size()]) > format_version)
         throw BadFile("the file is of a newer version of KOV");

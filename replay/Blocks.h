@@ -62,7 +62,7 @@ private:
     std::string inflated(std::size_t compressedSize, std::size_t rawSize);
 
     std::string bytes; ///< the whole file
-    std::size_t at = 0;
+    std::size_t at = BlockWriter::empty_size;
     z_stream stream{};
     std::uint32_t checksum = 0;
     bool cutOff = false;

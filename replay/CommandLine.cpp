@@ -43,9 +43,8 @@ CommandLine::CommandLine(const Words& words, const std::vector<Option>& known, O
 
     optind = 0; // starts anew
     opterr = 0; // we say it ourselves
-    int found = 0;
-    while ((found = getopt_long(count, given, order == mixed ? ":" : "+:", options.data(),
-                                nullptr)) != -1) {
+    const char* const way = order == mixed ? ":" : "+:";
+    for (int found; (found = getopt_long(count, given, way, options.data(), nullptr)) != -1;) {
         if (found == '?' || found == ':') refuse(found, known, given[std::max(optind - 1, 1)]);
         const Option& option = known[static_cast<std::size_t>(found) - 1];
         const std::string name = option.name;

@@ -27,7 +27,7 @@ public:
 
 private:
     pid_t process = -1; ///< -1: has ended
-    int end = -1;       ///< of the pipe; -1: closed
+    int end;            ///< of the pipe
     bool good = true;
 };
 

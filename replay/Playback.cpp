@@ -26,8 +26,8 @@ Playback::Playback(Script& script_) : script(script_) {
 }
 
 std::uint32_t Playback::clock() {
-    if (observing || isIdle() || nextClock == pass_.clock.size()) return now_;
-    const std::uint32_t before = std::exchange(now_, pass_.clock[nextClock++]);
+    if (observing || isIdle() || taken.clock == pass_.clock.size()) return now_;
+    const std::uint32_t before = std::exchange(now_, pass_.clock[taken.clock++]);
     if (now_ != before) moveOn();
     return now_;
 }
@@ -45,9 +45,9 @@ int Playback::poll(SDL_Event* event) {
 }
 
 bool Playback::giveEvent(SDL_Event* event) {
-    if (nextEvent == pass_.events.size() || pass_.events[nextEvent].emptyPolls > emptyPolls)
+    if (taken.events == pass_.events.size() || pass_.events[taken.events].emptyPolls > emptyPolls)
         return false;
-    const Event& kept = pass_.events[nextEvent++];
+    const Event& kept = pass_.events[taken.events++];
     const Uint8 types[] = {SDL_KEYDOWN, SDL_KEYUP, SDL_JOYBUTTONDOWN, SDL_JOYAXISMOTION, SDL_QUIT};
     event->type = types[kept.kind];
     switch (kept.kind) {
@@ -90,12 +90,12 @@ SDL_Joystick* Playback::openJoystick(int index) {
 }
 
 std::int16_t Playback::axis(SDL_Joystick*, int) {
-    return nextAxis < pass_.axes.size() ? pass_.axes[nextAxis++] : std::int16_t{0};
+    return taken.axes < pass_.axes.size() ? pass_.axes[taken.axes++] : std::int16_t{0};
 }
 
 FMOD_RESULT Playback::openSong(FMOD_SYSTEM* system, const char*, FMOD_SOUND** song) {
-    if (nextSong == pass_.songs.size()) return FMOD_ERR_FILE_NOTFOUND;
-    const Pass::Song& kept = pass_.songs[nextSong++];
+    if (taken.songs == pass_.songs.size()) return FMOD_ERR_FILE_NOTFOUND;
+    const Pass::Song& kept = pass_.songs[taken.songs++];
     if (kept.result != FMOD_OK) return static_cast<FMOD_RESULT>(kept.result);
     return openSongOf(kept.length, system, song);
 }
@@ -105,8 +105,8 @@ FMOD_RESULT Playback::openSongOf(std::uint32_t, FMOD_SYSTEM* system, FMOD_SOUND*
 }
 
 FMOD_RESULT Playback::songLength(FMOD_SOUND* song, unsigned int* ms) {
-    if (song == nullptr || nextSong == 0) return FMOD_ERR_INVALID_PARAM;
-    *ms = pass_.songs[nextSong - 1].length;
+    if (song == nullptr || taken.songs == 0) return FMOD_ERR_INVALID_PARAM;
+    *ms = pass_.songs[taken.songs - 1].length;
     return FMOD_OK;
 }
 
@@ -183,7 +183,7 @@ void Playback::nextPass() {
         }
         if (!next) return stop();
         pass_ = std::move(*next);
-        nextClock = nextEvent = nextAxis = nextSong = 0;
+        taken = {};
         idle = pass_.idle;
     });
 }

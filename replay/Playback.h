@@ -79,8 +79,10 @@ private:
     bool prepared = false, observing = false, ending = false;
     std::uint32_t lastEqual = 0; ///< tick
 
-    Pass pass_; // and what of it has been taken
-    std::size_t nextClock = 0, nextEvent = 0, nextAxis = 0, nextSong = 0;
+    Pass pass_;
+    struct {
+        std::size_t clock = 0, events = 0, axes = 0, songs = 0;
+    } taken;                ///< of that pass
     std::uint64_t idle = 0; ///< passes before it, still to be played
     std::uint32_t emptyPolls = 0;
     std::uint32_t now_ = 0;

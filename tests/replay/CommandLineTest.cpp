@@ -52,8 +52,10 @@ TEST(CommandLineTest, NamesWhatIsWrong) {
         {{"--nothing"}, "no such option: --nothing"},
         {{"-x"}, "no such option: -x"},
     };
+    testing::internal::CaptureStderr();
     for (const auto& c : cases)
         EXPECT_EQ(refusal(c.words), c.refusal);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 TEST(CommandLineTest, ReadsTimesAndSpeeds) {

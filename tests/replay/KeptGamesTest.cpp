@@ -3,6 +3,7 @@
 #include "replay/KeptGames.h"
 #include "replay/Best.h"
 #include "replay/Page.h"
+#include "replay/Words.h"
 #include "tests/support/Files.h"
 
 #include <boost/filesystem.hpp>
@@ -81,6 +82,7 @@ TEST_F(KeptGames, NamesTellWhenAndHowWell) {
     name.score = 45567;
     ASSERT_TRUE(KeptName::parse(name.finished(), read));
     EXPECT_EQ(read.score, 45567U);
+    EXPECT_TRUE(read.isAutomatic);
     name.isAutomatic = false;
     EXPECT_FALSE(KeptName::parse(name.finished(), read));
     EXPECT_TRUE(KeptName::parse(at(10, " 999999999 auto"), read));
@@ -151,6 +153,15 @@ TEST_F(KeptGames, TheBestAreInOrderAndNotTooMany) {
     EXPECT_EQ(games[1].game.score, 7U);
     EXPECT_EQ(games[2].date, 98) << "the earlier of two equals";
     EXPECT_EQ(best(games, 5).size(), 3U);
+    games[1].game.length = 83000;
+    games[1].game.begin = 9000;
+    games[1].game.marked = true;
+    const std::string lines = inWords(games), date = dateText(97);
+    EXPECT_EQ(lines.find(" 1.        9  " + date + "   0:00  fair    game, at 0:00\n"), 0U)
+        << lines;
+    EXPECT_NE(lines.find("\n 2.        7  " + date + "   1:23  marked  game, at 0:09\n"),
+              std::string::npos)
+        << lines;
 }
 
 TEST_F(KeptGames, ThePageEscapesNames) {
@@ -168,7 +179,10 @@ TEST_F(KeptGames, ThePageEscapesNames) {
     EXPECT_EQ(page.find("<b>"), std::string::npos);
     EXPECT_NE(page.find("href=\"./%3Cb%3E%26%22%27%23%2050%25.kovreplay\""), std::string::npos);
     EXPECT_NE(page.find(">&lt;b&gt;&amp;&quot;&#39;# 50%.kovreplay<"), std::string::npos);
+    EXPECT_NE(page.find("viewBox=\"0 -2 300 84\""), std::string::npos);
     EXPECT_NE(page.find("d=\"M0 80H150V0H300\""), std::string::npos) << "half a second, then all";
+    EXPECT_NE(page.find("<h2>1. 20 points</h2>\n<div class=\"picture\"><img src=\"game-1.svg\""),
+              std::string::npos);
     EXPECT_EQ(page.find("<script"), std::string::npos);
     writePage("page", {});  // again
     writePage(".", {game}); // where the file is already

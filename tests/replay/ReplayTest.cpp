@@ -10,6 +10,7 @@
 #include "replay/Script.h"
 #include "replay/Snapshot.h"
 #include "replay/Stage.h"
+#include "replay/Summary.h"
 #include "replay/Tape.h"
 #include "replay/Watcher.h"
 
@@ -175,6 +176,7 @@ TEST_F(Replay, HoldsWhateverWasPlayed) {
         EXPECT_EQ(outcome.code, 0) << c.options << outcome.text;
         EXPECT_NE(outcome.text.find(": holds\n"), std::string::npos) << outcome.text;
         EXPECT_NE(outcome.text.find(c.games), std::string::npos) << outcome.text;
+        EXPECT_EQ(outcome.text.find("error"), std::string::npos) << "of the songs: " << outcome.text;
     }
 }
 
@@ -261,38 +263,23 @@ TEST_F(Replay, WhatIsNeverRecordedIsRefused) {
     const struct {
         const char* what;
         Edit edit;
-        void (*editSetup)(replay::Setup&);
     } cases[] = {
         {"a clock that runs back",
          [passes = 0](Record& r) mutable {
              auto* const pass = std::get_if<Pass>(&r);
              if (pass == nullptr || ++passes < 50) return false;
              return --(pass->clock.back() -= 1000), true;
-         },
-         nullptr},
+         }},
         {"a button without a joystick", ofFirst<Pass>([](Pass& p) {
              p.events.push_back({0, Event::button_down, 1});
-         }),
-         nullptr},
+         })},
         {"an axis without a joystick", ofFirst<Pass>([](Pass& p) {
              p.events.push_back({0, Event::axis_moved, 0});
-         }),
-         nullptr},
-        {"positions without a joystick", ofFirst<Pass>([](Pass& p) { p.axes.push_back(7); }),
-         nullptr},
-        {"a setting twice", {}, [](replay::Setup& s) { s.settings.push_back(s.settings[2]); }},
-        {"a colour twice", {}, [](replay::Setup& s) { s.colours.push_back(s.colours[3]); }},
-        {"a point twice",
-         {},
-         [](replay::Setup& s) {
-             s.points.resize(2, {"a", {0, 0, 0}});
-         }},
-        {"a colour out of range", {}, [](replay::Setup& s) { s.colours[0].parts[3] = 8.5; }},
-        {"no such setting", {}, [](replay::Setup& s) { s.settings[0].first = 'x'; }},
-        {"no such value", {}, [](replay::Setup& s) { s.settings[0].second = 1921; }},
+         })},
+        {"positions without a joystick", ofFirst<Pass>([](Pass& p) { p.axes.push_back(7); })},
     };
     for (const auto& c : cases) {
-        const Outcome outcome = verify(edited(other, c.edit, c.editSetup));
+        const Outcome outcome = verify(edited(other, c.edit));
         EXPECT_EQ(outcome.code, 2) << c.what << outcome.text;
         EXPECT_NE(outcome.text.find("damaged"), std::string::npos) << c.what << outcome.text;
     }
@@ -304,6 +291,51 @@ TEST_F(Replay, WhatIsNeverRecordedIsRefused) {
         return passes > 50 && std::holds_alternative<End>(r);
     };
     EXPECT_EQ(verify(edited(other, wait)).code, 1) << "a long wait is none of these";
+}
+
+TEST_F(Replay, ASetupIsReadUpToItsLimits) {
+    using replay::Setup;
+    using Points = std::vector<Setup::NamedPoint>;
+    using Colours = std::vector<Setup::NamedColour>;
+    const auto with = [](auto member, auto value) {
+        Setup setup;
+        setup.*member = value;
+        return setup;
+    };
+    const auto named = [](std::size_t count, std::size_t length) {
+        Points points(count);
+        for (std::size_t i = 0; i < count; ++i)
+            points[i].name = std::string(length - 3, 'a') + std::to_string(100 + i);
+        return points;
+    };
+    const std::pair<bool, Setup> cases[] = {
+        {true, with(&Setup::settings, SettingValues{{'w', 640}, {'l', 480}})},
+        {false, with(&Setup::settings, SettingValues{{'w', 640}, {'w', 640}})},
+        {false, with(&Setup::settings, SettingValues{{'w', 1921}})},
+        {false, with(&Setup::settings, SettingValues{{'x', 1}})},
+        {true, with(&Setup::colours, Colours{{"a", {8.0, -8.0, 0.0, 1.0}}})},
+        {false, with(&Setup::colours, Colours{{"a", {0.0, 0.0, 0.0, -8.001}}})},
+        {false, with(&Setup::colours, Colours(2, {"a", {}}))},
+        {true, with(&Setup::points, Points{{"a", {1e9, -1e9, 0.0}}})},
+        {false, with(&Setup::points, Points{{"a", {0.0, 0.0, 1.000001e9}}})},
+        {false, with(&Setup::points, Points(2, {"a", {}}))},
+        {true, with(&Setup::points, named(256, 64))},
+        {false, with(&Setup::points, named(1, 65))},
+        {false, with(&Setup::points, named(257, 6))},
+        {true, with(&Setup::songs, 10000)},
+        {false, with(&Setup::songs, 10001)},
+        {true, with(&Setup::joysticks, std::vector<bool>(32))},
+        {false, with(&Setup::joysticks, std::vector<bool>(33))},
+    };
+    for (const auto& [isReadable, setup] : cases) {
+        ByteWriter out;
+        setup.write(out);
+        ByteReader in(out.bytes);
+        if (isReadable)
+            EXPECT_NO_THROW(Setup::read(in)) << out.bytes;
+        else
+            EXPECT_THROW(Setup::read(in), BadFile) << out.bytes;
+    }
 }
 
 TEST_F(Replay, ANightWithoutMusicIsReadAndHalfOfItIsNot) {
@@ -395,6 +427,13 @@ TEST_F(Replay, ABlockHoldsSecondsOfPlay) {
         ++blocks;
     EXPECT_GE(blocks, 10U); // of 300 ticks
     EXPECT_LE(blocks, 13U);
+
+    const Summary summary("recorded");
+    EXPECT_EQ(summary.start, 5U);
+    EXPECT_EQ(summary.length, 90000U);
+    EXPECT_EQ(summary.size, contentsOf("recorded").size());
+    EXPECT_EQ(summary.setup.songs, 0U);
+    EXPECT_LE(std::abs(summary.setup.date - std::time(nullptr)), 60);
 }
 
 TEST_F(Replay, ASongOfTheSameLengthIsHeard) {
@@ -445,6 +484,7 @@ TEST_F(Replay, SettingsAreThoseOfEachGame) {
     const std::size_t last = shown.text.rfind("1 shot");
     EXPECT_NE(shown.text.find("0 deaths; ", last), std::string::npos) << "it ends with the program";
     EXPECT_NE(shown.text.find("accuracy 9 (!)"), std::string::npos) << shown.text;
+    EXPECT_NE(shown.text.find("\nverdict   holds\n"), std::string::npos) << shown.text;
     EXPECT_EQ(run(KOV_VERIFY " --fair changed " KOV_SOURCE_DIR).code, 4);
     const auto refine =
         ofFirst<ChangedSettings>([](ChangedSettings& s) { s.values[2].second = 8; });

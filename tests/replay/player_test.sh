@@ -164,7 +164,7 @@ between $((80 * 240 * 3)) "$beside" $((84 * 240 * 3)) || fail "film, wide: $besi
 for size in 16x8192 8192x16; do
     expect "film, $size" 2 "File exists" film one.kovreplay part.mp4 --size=$size
 done
-for size in 15x16 16x15 8193x16 16x8193 16x16x; do
+for size in "" 15x16 16x15 8193x16 16x8193 16x16x; do
     expect "film, $size" 2 "no size such as" film one.kovreplay part.mp4 --size=$size
 done
 expect "film, there already" 2 "File exists" film one.kovreplay part.mp4
