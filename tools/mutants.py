@@ -15,8 +15,8 @@ less to build; two runs at once want two trees.
 
 With --again the faults are those of the lines that a former run has printed, kept in a file: after
 a change of the tests, those that the changed ones had found. A fault whose line has gone is passed
-over. --quick runs but the tests that take no process of their own, about two thirds of all; what
-survives these may still be found by the others.
+over. --quick runs but the tests that need no process of their own, two thirds of all; what survives
+these may still be found by the others.
 """
 
 import argparse
@@ -34,9 +34,12 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 DEFAULT_FOLDERS = ["Framework", "game", "platform/fmodex", "replay"]
-WHOLE_PROGRAMS = ["tests/kov_tests", "tests/kov_sound_tests"]  # run in one process, before all else
-OTHER_PROGRAMS = ["tests/kov_fault_tests", "kov", "replay/kov-replay", "replay/kov-replay-verify",
-                  "tests/kov_replay_tests", "tools/kov_record"]
+WHOLE_PROGRAMS = {  # run in one process, before all else; and the programs that they start
+    "tests/kov_tests": [],
+    "tests/kov_sound_tests": [],
+    "tests/kov_replay_tests": ["replay/kov-replay-verify", "tools/kov_record"],
+}
+OTHER_PROGRAMS = ["tests/kov_fault_tests", "kov", "replay/kov-replay"]
 SLOW_SECONDS = 1  # a test that takes longer waits until the others have passed
 MEMORY_LIMIT = 4 << 30  # bytes a test process may map: a fault may ask for all there is
 OUTPUT = "mutants.log"  # of the last command
@@ -201,7 +204,8 @@ class Copy:
         self.must(["cmake", "-G", "Ninja", "-B", str(self.build), "-S", str(folder),
                    "-DKOV_TESTS=ON"])
         self.limits, self.slow, self.quick = {}, "none", quick
-        programs = WHOLE_PROGRAMS + ([] if quick else OTHER_PROGRAMS)
+        programs = [*WHOLE_PROGRAMS, *sum(WHOLE_PROGRAMS.values(), []),
+                    *([] if quick else OTHER_PROGRAMS)]
         self.must(["cmake", "--build", str(self.build),
                    *(["--target", *map(lambda name: Path(name).name, programs)] if quick else [])])
         self.digests = {name: self.digest(name) for name in programs}
@@ -291,10 +295,10 @@ class Copy:
     def outcome(self):
         """"survives", "dies by …", "does not build" or "changes nothing". The programs that run
         whole come first: they are quick to build and run, and see most faults."""
-        for program in WHOLE_PROGRAMS:
+        for program, started in WHOLE_PROGRAMS.items():
             if not self.compile("--target", Path(program).name):
                 return "does not build"
-            if self.has_changed(program) and self.fails(program):
+            if any(map(self.has_changed, [program, *started])) and self.fails(program):
                 return f"dies by {self.killer()}"
         if not self.quick and not self.compile():
             return "does not build"
