@@ -34,11 +34,19 @@ Matrix identity() {
 }
 
 Matrix translation(double x, double y, double z) {
-    return {1, 0, 0, x, 0, 1, 0, y, 0, 0, 1, z, 0, 0, 0, 1};
+    Matrix matrix = identity();
+    matrix[12] = x;
+    matrix[13] = y;
+    matrix[14] = z;
+    return matrix;
 }
 
 Matrix scaling(double x, double y, double z) {
-    return {x, 0, 0, 0, 0, y, 0, 0, 0, 0, z, 0, 0, 0, 0, 1};
+    Matrix matrix = identity();
+    matrix[0] = x;
+    matrix[5] = y;
+    matrix[10] = z;
+    return matrix;
 }
 
 Matrix turn(double degrees, double x, double y, double z) {

@@ -165,6 +165,15 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     glScalef(2.0F, 1.0F, 1.0F);
     shape(GL_LINES, {{-1, 5}, {1, 5}, {0, 0}, {0, 1}});
     glPopMatrix();
+    glPushMatrix();
+    glRotatef(90.0F, 0.0F, 1.0F, 0.0F); // what was in the depth is at the right
+    glTranslatef(0.0F, 0.0F, 3.0F);
+    glScalef(1.0F, 1.0F, 2.0F);
+    glBegin(GL_LINE_STRIP);
+    for (const float z : {0.5F, 1.0F, 1.5F})
+        glVertex3f(7.0F, z, z);
+    glEnd();
+    glPopMatrix();
     glRotatef(90.0F, 0.0F, 0.0F, 1.0F);
     glColor4f(1.0F, 1.0F, 1.0F, 0.5F);
     shape(GL_QUADS, {{0, 0}, {1, 0}, {1, 1}, {0, 1}, {0, 1}, {1, 1}, {1, 0}, {0, 0}});
@@ -176,7 +185,8 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     const std::string half = "fill='#ffffff' opacity='0.5'/>";
     EXPECT_EQ(picture.substr(picture.find("<path")),
               "<path d='M560.0 200.0L640.0 200.0M600.0 300.0L600.0 280.0' fill='none' "
-              "stroke='#ff0080' stroke-width='2'/><path d='" +
+              "stroke='#ff0080' stroke-width='2'/><path d='M480.0 290.0L500.0 280.0L520.0 270.0' "
+              "fill='none' stroke='#ff0080' stroke-width='2'/><path d='" +
                   square + square + "' " + half +
                   "<path d='M380.0 300.0L380.0 280.0L400.0 300.0Z' " + half +
                   "<path d='M400.0 300.0L420.0 300.0Z' fill='none' stroke='#ffffff' "
