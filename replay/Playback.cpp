@@ -115,7 +115,7 @@ void Playback::endFrame() {
     progress_.look();
     emptyPolls = 0;
     if (isIdle()) {
-        --idle;
+        --pass_.idle;
         return passIdly();
     }
     whileReadable([this] { compareProgress(); });
@@ -184,7 +184,6 @@ void Playback::nextPass() {
         if (!next) return stop();
         pass_ = std::move(*next);
         taken = {};
-        idle = pass_.idle;
     });
 }
 

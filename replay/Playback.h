@@ -55,7 +55,7 @@ protected:
 
     void stop() { ending = true; } ///< the game is to end now
     bool isEnding() const { return ending; }
-    bool isIdle() const { return idle != 0; }
+    bool isIdle() const { return pass_.idle != 0; }
 
     Script& script;
 
@@ -79,11 +79,10 @@ private:
     bool prepared = false, observing = false, ending = false;
     std::uint32_t lastEqual = 0; ///< tick
 
-    Pass pass_;
+    Pass pass_; ///< of its idle ones those that are still to be played, before it
     struct {
         std::size_t clock = 0, events = 0, axes = 0, songs = 0;
-    } taken;                ///< of that pass
-    std::uint64_t idle = 0; ///< passes before it, still to be played
+    } taken; ///< of that pass
     std::uint32_t emptyPolls = 0;
     std::uint32_t now_ = 0;
 };

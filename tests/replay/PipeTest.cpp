@@ -36,6 +36,7 @@ TEST(PipeTest, GivesAllToTheProgramAndKnowsHowItEnded) {
     EXPECT_FALSE(deaf.write(much.data(), much.size()));
     EXPECT_FALSE(deaf.write(much.data(), 1)) << "nor later";
     EXPECT_FALSE(deaf.finish());
+    EXPECT_FALSE(Pipe({"sh", "-c", "kill -KILL $$"}).finish());
     EXPECT_THROW(Pipe({"no-such-program"}), std::runtime_error);
 }
 
