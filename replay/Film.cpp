@@ -110,7 +110,6 @@ bool Film::draws() {
 void Film::show() {
     look();
     if (sessionTime() < format.from) return;
-    if (!hasBegun) lastTime = sessionTime();
     hasBegun = true;
     catchUp();
     if (sessionTime() >= format.to) return stop();

@@ -72,7 +72,8 @@ class Fault:
 
 def blank_comments_and_strings(text):
     """The text at the same length, with comments, strings and characters blanked out."""
-    pattern = re.compile(r'//[^\n]*|/\*.*?\*/|"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'', re.S)
+    pattern = re.compile(r'//[^\n]*|/\*.*?\*/|R"(\w*)\(.*?\)\1"|'
+                         r'"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'', re.S)
     return pattern.sub(lambda found: re.sub(r"[^\n]", " ", found.group()), text)
 
 

@@ -176,7 +176,8 @@ TEST_F(Replay, HoldsWhateverWasPlayed) {
         EXPECT_EQ(outcome.code, 0) << c.options << outcome.text;
         EXPECT_NE(outcome.text.find(": holds\n"), std::string::npos) << outcome.text;
         EXPECT_NE(outcome.text.find(c.games), std::string::npos) << outcome.text;
-        EXPECT_EQ(outcome.text.find("error"), std::string::npos) << "of the songs: " << outcome.text;
+        EXPECT_EQ(outcome.text.find("error"), std::string::npos)
+            << "of the songs: " << outcome.text;
     }
 }
 
@@ -340,13 +341,15 @@ TEST_F(Replay, ASetupIsReadUpToItsLimits) {
 
 TEST_F(Replay, ANightWithoutMusicIsReadAndHalfOfItIsNot) {
     constexpr std::uint32_t night = 8 * 3600 * 1000; // ms
+    constexpr std::uint32_t start = 0x90000000;      // ms
     for (const std::uint32_t length : {night, night / 2}) {
         const auto stand = [length, passes = 0](Record& r) mutable {
             auto* const pass = std::get_if<Pass>(&r);
-            if (pass == nullptr || ++passes < 50) return false;
-            if (passes < 50 + 16) pass->idle = 1U << 24U; // 250 million in all
+            if (pass == nullptr) return false;
+            const bool hasStood = ++passes >= 50;
+            if (hasStood && passes < 50 + 16) pass->idle = 1U << 24U; // 250 million in all
             for (std::uint32_t& ms : pass->clock)
-                ms += length;
+                ms += start + (hasStood ? length : 0);
             return false;
         };
         fill("a", edited(kept, stand, {}, false));

@@ -175,6 +175,7 @@ start film night.kovreplay stopped.mp4 --full # the whole night
 sleep 2
 kill -TERM "$(pgrep -P $process)"
 ends "film of a whole night, interrupted" 3 "interrupted at"
+grep -q " %, time left " said || fail "film says nothing of its progress: $(cat said)"
 start film one.kovreplay stopped.mp4 --size 1920x1200 # takes a while
 kill -TERM "$(pgrep -P $process)"
 ends "film, interrupted" 3 "interrupted at"
