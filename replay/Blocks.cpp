@@ -90,7 +90,6 @@ std::uint32_t BlockReader::number(std::size_t offset) const {
 
 std::string BlockReader::read() {
     const std::size_t left = bytes.size() - at;
-    cutOff = left != 0;
     if (left < head_size) return {};
     const std::size_t compressedSize = number(0), rawSize = number(4);
     const std::uint32_t expected = number(8);
@@ -103,7 +102,6 @@ std::string BlockReader::read() {
     at += compressedSize;
     checksum = checksumBehind(checksum, block);
     if (checksum != expected) damaged();
-    cutOff = false;
     return block;
 }
 

@@ -53,7 +53,6 @@ public:
     ///         as it was written.
     std::string read();
 
-    bool isCutOff() const { return cutOff; }          ///< the file ends within a block
     std::size_t size() const { return bytes.size(); } ///< of the file, bytes
     std::size_t offset() const { return at; }         ///< bytes that have been read
 
@@ -65,7 +64,6 @@ private:
     std::size_t at = BlockWriter::empty_size;
     z_stream stream{};
     std::uint32_t checksum = 0;
-    bool cutOff = false;
 };
 
 } // namespace quorva::replay

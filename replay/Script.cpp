@@ -34,7 +34,7 @@ void Script::fetch() {
     if (const auto* const pass = std::get_if<Pass>(&*next)) require(*pass);
     if (!std::holds_alternative<End>(*next)) return;
     ended = true;
-    if (block.left() != 0 || !file.read().empty() || file.isCutOff()) damaged(); // more follows
+    if (block.left() != 0 || file.offset() != file.size()) damaged(); // more follows
 }
 
 /// Throws BadFile for a pass that no recorder can have written.

@@ -32,6 +32,7 @@ struct Film : Tape {
 
 class Layer : public testing::Test {
 protected:
+    void SetUp() override { sdl() = {}; }
     void TearDown() override {
         insert(nullptr);
         glRecorder().stop();
@@ -90,9 +91,11 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
         glEnd();
     };
     FramePicture camera;
-    glNewList(5, GL_COMPILE);
-    shape(GL_TRIANGLES, {{0, 0}, {1, 1}, {0, 1}});
-    glEndList();
+    for (const float side : {2.0F, 1.0F}) { // the second one counts
+        glNewList(5, GL_COMPILE);
+        shape(GL_TRIANGLES, {{0, 0}, {side, side}, {0, side}});
+        glEndList();
+    }
     camera.skip();
     EXPECT_TRUE(glRecorder().calls.empty());
 

@@ -88,6 +88,7 @@ expect "not fair, and worse" 2 "none that can be read" \
     verify --fair nothing.kovreplay pauses.kovreplay
 expect "an option twice" 2 "--speed stands there twice" watch one.kovreplay --speed=2 --speed 4
 expect "one that is there" 2 "File exists" record one.kovreplay
+expect "version" 0 "KOV 1." --version
 
 # What takes a while says how far it is, on a terminal; a signal that is ignored doesn't end it; and
 # a game that is killed is kept up to nine seconds before.
