@@ -202,9 +202,10 @@ XDG_DATA_HOME=$unusable kov_says "not keeping by itself" "arguments: -x; colours
 rm "$bin/kov-replay"
 
 # The game itself keeps games, too, unless it is told not to.
+echo "# --no-keep" >"$home/launcher.conf" # another line
 kov_says "keeping by itself" "arguments: record --auto -- -x --FullScreen; " -x --FullScreen
 kov_says "not keeping" "arguments: -x; colours: " --no-keep -x
-echo "--no-keep" >"$home/launcher.conf"
+echo "--no-keep" >>"$home/launcher.conf"
 kov_says "not keeping, by launcher.conf" "arguments: -x; colours: " -x
 rm "$home/launcher.conf" "$programs/kov-replay"
 
