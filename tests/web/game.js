@@ -62,7 +62,7 @@ export class Game {
     return [...data.subarray(i, i + 3)];
   }
 
-  /** Whether the ground is that of the menu or of play; a pause has neither. */
+  /** Whether the ground is that of the menu or of play; that of a pause is the menu's. */
   async shows(ground) {
     const colour = await this.colourAt(0.02, 0.3);
     return colour.every((part, i) => Math.abs(part - grounds[ground][i]) <= 2);

@@ -12,8 +12,8 @@ import { suite } from './suite.js';
 /** Whether the cube, which is white, has left the middle of the field. */
 const hasMoved = game => async () => (await game.colourAt(0.5, 0.5))[0] < 200;
 
-/** @returns a change of a script: another in front of it */
-const after = text => script => Buffer.concat([Buffer.from(text), script]);
+/** A change of a script. */
+const startingWith = text => script => Buffer.concat([Buffer.from(text), script]);
 
 const watchSound = `globalThis.sounding = [];
   for (const name of ['AudioContext', 'Audio'])
@@ -24,12 +24,12 @@ const watchSound = `globalThis.sounding = [];
 // What the page can be without, by what takes it away, and what the page then says.
 const without = {
   WebGL: [/draws with WebGL/,
-          { 'page.js': after('HTMLCanvasElement.prototype.getContext = () => null;') }],
-  WebAssembly: [/needs WebAssembly/, { 'page.js': after('delete globalThis.WebAssembly;') }],
+          { 'page.js': startingWith('HTMLCanvasElement.prototype.getContext = () => null;') }],
+  WebAssembly: [/needs WebAssembly/, { 'page.js': startingWith('delete globalThis.WebAssembly;') }],
   'kov.wasm': [/could not be fetched/, { 'kov.wasm': isMissing }],
   'kov.js': [/could not be fetched/, { 'kov.js': isMissing }],
 };
-const withoutStorage = after(`Object.defineProperty(globalThis, "indexedDB", {
+const withoutStorage = startingWith(`Object.defineProperty(globalThis, "indexedDB", {
   get() { throw new Error("refused"); } });`);
 
 // Of the first game in the recording that kov_watch plays.
@@ -41,7 +41,6 @@ suite('the page', (test, name) => {
     const isFull = () => page.evaluate(() => document.fullscreenElement !== null);
     await game.open();
     await game.untilShows('menu');
-    assert.equal(await page.title(), 'KOV');
     await game.untilSays(/^$/);
     assert.ok(!game.server.asked.some(path => path.startsWith('Songs/')), 'none before its time');
     await page.click('#full');
@@ -93,7 +92,7 @@ suite('the page', (test, name) => {
     await game.untilShows('menu');
     assert.ok(game.server.asked.some(path => path.startsWith('Songs/')), 'a song was fetched');
     const cells = () => page.$$eval('#kept td', list => list.map(cell => cell.textContent).join());
-    await game.until(async () => /^[-\d]+ \d\d:\d\d,0,0:0\d,/.test(await cells()),
+    await game.until(async () => /^[-\d]+ \d\d:\d\d,0,0:\d\d,/.test(await cells()),
                      'its date, score and length while the program goes on');
     await proveKeptGame(game, page);
   });
@@ -139,7 +138,7 @@ suite('the page', (test, name) => {
     await game.until(areHeard, 'effects and song to go on');
     const first = await game.picture();
     await game.until(async () => !areEqual(first, await game.picture()), 'the game going on');
-  }, { 'page.js': after(watchSound) });
+  }, { 'page.js': startingWith(watchSound) });
 
   test('a pad', async (game, page) => {
     await game.open();
@@ -163,6 +162,7 @@ suite('the page', (test, name) => {
     await tap(9); // Start: the pause
     await game.until(async () => !await game.shows('play'), 'the pause');
     await tap(9);
+    await game.untilShows('play');
     await tap(8); // Back: the end
     await game.untilShows('menu');
   });
@@ -206,6 +206,8 @@ suite('the page', (test, name) => {
     await touch(['pointerup', left - 60, middle]);
     await page.click('#pause');
     await game.until(async () => !await game.shows('play'), 'the pause');
+    await page.click('#pause');
+    await game.untilShows('play');
     await page.click('#leave');
     await game.untilShows('menu');
     await proveKeptGame(game, page); // touches are kept, too
