@@ -21,13 +21,14 @@ const watchSound = `globalThis.sounding = [];
       constructor(...of) { super(...of); globalThis.sounding.push(this); }
     };`;
 
-// What the page can be without, by what takes it away, and what the page then says.
+// What the page can be without: what it then says, what takes it away, the faults that come of it.
+const unfetched = /fetch|import|load|abort/i;
 const without = {
   WebGL: [/draws with WebGL/,
           { 'page.js': startingWith('HTMLCanvasElement.prototype.getContext = () => null;') }],
   WebAssembly: [/needs WebAssembly/, { 'page.js': startingWith('delete globalThis.WebAssembly;') }],
-  'kov.wasm': [/could not be fetched/, { 'kov.wasm': isMissing }],
-  'kov.js': [/could not be fetched/, { 'kov.js': isMissing }],
+  'kov.wasm': [/could not be fetched/, { 'kov.wasm': isMissing }, unfetched],
+  'kov.js': [/could not be fetched/, { 'kov.js': isMissing }, unfetched],
 };
 const withoutStorage = startingWith(`Object.defineProperty(globalThis, "indexedDB", {
   get() { throw new Error("refused"); } });`);
@@ -233,11 +234,11 @@ suite('the page', (test, name) => {
     await game.startLevel();
   }, { 'page.js': withoutStorage });
 
-  for (const [what, [sentence, changes]] of Object.entries(without))
+  for (const [what, [sentence, changes, expected]] of Object.entries(without))
     test(`without ${what} it says so`, async (game, page) => {
       await page.goto(game.server.address);
       await game.untilSays(sentence);
-      game.faults = game.faults.filter(fault => !/fetch|import|load|abort/i.test(fault));
+      game.faults = game.faults.filter(fault => !expected?.test(fault));
     }, changes);
 
   test('can be installed, and works without a connection', async (game, page) => {
