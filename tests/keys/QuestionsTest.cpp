@@ -134,7 +134,6 @@ TEST_F(QuestionsTest, AsksForEachKeyAndWritesTheAnswers) {
               "Up, I\nDown, K\nLeft, A\nRight, L\nFire Up, W, JOY4\nFire Down, D, JOY1\n"
               "Fire Left, LSHIFT, JOY3\nFire Right, S, JOY2\nGame Pause, TAB, JOY8\n"
               "Menu Select, RETURN, JOY1\nMenu Escape, ESCAPE, JOY7\n");
-    EXPECT_EQ(contentsOf("bind1.conf.bak"), shipped);
     EXPECT_FALSE(program->dead);
     keys({SDLK_x});
     EXPECT_TRUE(program->dead);
@@ -164,7 +163,6 @@ TEST_F(QuestionsTest, AsksForTheButtonsOfAPad) {
     follow(buttons, steps);
     EXPECT_EQ(program->page->promptWord->word, "JOY5 saves it, JOY9 leaves all as it was.");
     buttons({0, 4});
-    EXPECT_EQ(asked(), "Done");
     EXPECT_EQ(contentsOf("bind1.conf"),
               "Up, UP\nDown, DOWN\nLeft, LEFT\nRight, RIGHT\nFire Up, W, JOY3\n"
               "Fire Down, S, JOY5\nFire Left, A, JOY4\nFire Right, D, JOY2\n"

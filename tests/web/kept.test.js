@@ -2,7 +2,7 @@
 
 import assert from 'node:assert/strict';
 import { execFileSync } from 'node:child_process';
-import { copyFileSync, mkdirSync, mkdtempSync, readdirSync, readFileSync, rmSync } from 'node:fs';
+import { cpSync, mkdtempSync, readFileSync, renameSync, rmSync } from 'node:fs';
 import { tmpdir } from 'node:os';
 import { join } from 'node:path';
 
@@ -103,9 +103,8 @@ suite('kept games', test => {
   test('a page of the best is proved by whoever reads it', async (game, page) => {
     const folder = mkdtempSync(join(tmpdir(), 'kov-table-'));
     const replays = join(folder, 'replays');
-    mkdirSync(replays);
-    for (const name of readdirSync(recordings))
-      copyFileSync(join(recordings, name), join(replays, name.replace('first', "it's 1 <b>")));
+    cpSync(recordings, replays, { recursive: true });
+    renameSync(join(replays, 'first-steps.kovreplay'), join(replays, "it's 1 <b>.kovreplay"));
     execFileSync(join(root, 'build/release/replay/kov-replay'),
                  ['--data', root, 'best', replays, '--page', folder, '--with-web', site]);
     const table = await new Server(folder).start();
