@@ -1,11 +1,9 @@
 #include "keys/BindFile.h"
 
-#include "tests/support/Errors.h"
 #include "tests/support/Files.h"
 
 #include <SDL_keysym.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include <gtest/gtest.h>
 
 #include <filesystem>
 
@@ -14,8 +12,6 @@ using namespace quorva::input;
 using namespace quorva::keys;
 
 namespace {
-
-constexpr uid_t nobody = 65534;
 
 InputKey binding(const char* action, int key, int button = no_button) {
     return {action, static_cast<QuorvaKey>(key), static_cast<QuorvaJKey>(button), 0};
@@ -29,18 +25,8 @@ protected:
         for (const char* path : {"bind1.conf", "bind1.conf.bak", "shared.conf"})
             std::filesystem::remove_all(path);
     }
-    /// What the game makes of the file: "key button".
-    static std::string inForce(const char* action) {
-        KeyMapperClass& mapper = KeyMapper::Instance();
-        mapper.keys.clear();
-        mapper.addMappableKey(action, SDLK_z, 15, 0);
-        mapper.readBindFiles();
-        const InputKey* const key = mapper.getButton(action, 0);
-        return std::to_string(key->key) + ' ' + std::to_string(key->jsButton);
-    }
     const Bindings before = {binding("Up", SDLK_UP), binding("Fire Up", SDLK_w, 3)};
     const Bindings after = {binding("Up", SDLK_UP), binding("Fire Up", SDLK_KP8, 3)};
-    const std::string asItWas = ". Your keys are as they were.";
 };
 
 } // namespace
@@ -58,8 +44,6 @@ TEST_F(BindFileTest, WritesTheLineThatCountsAndKeepsAllElse) {
          "Fire Up, A, B\nFire Up, NUM8, JOY5\nup, up\nFire Up\n"},
         {"other line ends, none at the end", fire, "Up, UP\r\nFire Up,\tW , JOY4\r\nLeft, A",
          "Up, UP\r\nFire Up,\tNUM8, JOY5\r\nLeft, A\n"},
-        {"no end of its own", fire, "Fire Up,W,,", "Fire Up,NUM8, JOY5\n"},
-        {"empty fields in front", fire, " ,Fire Up,, W\n", " ,Fire Up,, NUM8, JOY5\n"},
         {"no line", fire, "one, two, three, four\nUp, UP",
          "one, two, three, four\nUp, UP\nFire Up, NUM8, JOY5\n"},
         {"no text", fire, "", "Fire Up, NUM8, JOY5\n"},
@@ -68,15 +52,8 @@ TEST_F(BindFileTest, WritesTheLineThatCountsAndKeepsAllElse) {
         {"a key alone", binding("Up", SDLK_SEMICOLON), "Up, UP, JOY3\n", "Up, ;\n"},
         {"a button alone", binding("Up", unknown_key, 0), "Up, F2\n", "Up, JOY1\n"},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : cases)
         EXPECT_EQ(rebind(c.before, {c.binding}), c.after) << c.what;
-        fill("bind1.conf", c.after);
-        std::string bound;
-        errorsOf([&] { bound = inForce(c.binding.name.c_str()); });
-        const int key = c.binding.key == unknown_key ? int{SDLK_z} : c.binding.key;
-        const int button = c.binding.jsButton == no_button ? 15 : c.binding.jsButton;
-        EXPECT_EQ(bound, std::to_string(key) + ' ' + std::to_string(button)) << c.what;
-    }
 }
 
 TEST_F(BindFileTest, SetsTheOldFileAside) {
@@ -100,15 +77,21 @@ TEST_F(BindFileTest, SetsTheOldFileAside) {
 
     std::filesystem::remove("bind1.conf");
     EXPECT_EQ(save(before, after).text, "bind1.conf is written, for the next start.");
-    EXPECT_EQ(inForce("Up"), "273 15");
-    EXPECT_EQ(inForce("Fire Up"), "264 3");
+    KeyMapperClass& mapper = KeyMapper::Instance(); // the game's
+    for (const InputKey& key : before)
+        mapper.addMappableKey(key.name, SDLK_z, no_button, 0);
+    mapper.readBindFiles();
+    for (const InputKey& key : after) {
+        EXPECT_EQ(mapper.getButton(key.name, 0)->key, key.key) << key.name;
+        EXPECT_EQ(mapper.getButton(key.name, 0)->jsButton, key.jsButton) << key.name;
+    }
 }
 
 TEST_F(BindFileTest, WhatCannotBeWrittenStaysAsItWas) {
     const auto expectFailure = [&](const std::string& what) {
         const Outcome outcome = save(before, after);
         EXPECT_FALSE(outcome.good) << what;
-        EXPECT_EQ(outcome.text, what + asItWas);
+        EXPECT_EQ(outcome.text, what + ". Your keys are as they were.");
     };
     std::filesystem::create_directory("bind1.conf");
     expectFailure("Can't read bind1.conf");
@@ -116,16 +99,5 @@ TEST_F(BindFileTest, WhatCannotBeWrittenStaysAsItWas) {
     fill("bind1.conf", "Fire Up, W\n");
     std::filesystem::create_directory("bind1.conf.bak");
     expectFailure("Can't write bind1.conf.bak");
-    std::filesystem::remove("bind1.conf.bak");
-
-    const std::filesystem::perms usual = std::filesystem::status(".").permissions();
-    std::filesystem::permissions(".", std::filesystem::perms(0555)); // read-only
-    const bool isRoot = geteuid() == 0;                              // whom permissions don't bind
-    EXPECT_EQ(seteuid(isRoot ? nobody : geteuid()), 0);
-    expectFailure("Can't write bind1.conf.bak");
-    fill("bind1.conf.bak", ""); // can't be made either
-    EXPECT_EQ(seteuid(isRoot ? 0 : geteuid()), 0);
-    std::filesystem::permissions(".", usual);
     EXPECT_EQ(contentsOf("bind1.conf"), "Fire Up, W\n");
-    EXPECT_EQ(contentsOf("bind1.conf.bak"), no_file);
 }

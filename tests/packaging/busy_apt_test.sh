@@ -22,12 +22,13 @@ esac'
 export CALLS="$folder/calls" LOCK=/var/lib/apt/lists/lock BROKEN=""
 install() { PATH="$folder:$PATH" "$1/tools/install_packages.sh" portable >"$folder/said" 2>&1; }
 
-install "$1" || { echo "FAILED: a lock that was let go:" && cat "$folder/said" && failures=1; }
+fail() { echo "FAILED: $1" && cat "$folder/said" "$CALLS" && failures=1; }
+
+install "$1" || fail "a lock that was let go"
 [ "$(grep -c 'waits for process 12 (unattended-upgr)' "$folder/said")" = 2 ] ||
-    { echo "FAILED: not once a step whom it waits for:" && cat "$folder/said" && failures=1; }
-grep -q 'DPkg::Lock::Timeout=[123].* install .*patchelf' "$CALLS" ||
-    { echo "FAILED: nothing installed:" && cat "$CALLS" && failures=1; }
+    fail "not once a step whom it waits for"
+grep -q 'DPkg::Lock::Timeout=[123].* install .*patchelf' "$CALLS" || fail "nothing installed"
 rm "$CALLS"
-BROKEN=yes install "$1" && echo "FAILED: no network, and that is success" && failures=1
-[ "$(tail -n 1 "$folder/said")" = "E: no network" ] || { echo "FAILED: no reason" && failures=1; }
+BROKEN=yes install "$1" && fail "no network, and that is success"
+[ "$(tail -n 1 "$folder/said")" = "E: no network" ] || fail "no reason"
 exit $failures

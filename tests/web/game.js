@@ -1,12 +1,13 @@
 // The page as a player has it: looks at its picture, and presses its keys.
 
-import { readdirSync, rmSync, statSync } from 'node:fs';
+import { existsSync, statSync } from 'node:fs';
 import { join } from 'node:path';
 
 import { downloads } from './browsers.js';
 import { fromPng } from './images.js';
 
 const patience = 20000; // ms
+const view = { width: 48, height: 30 }; // of the game, the picture being 16 by 10
 
 // Colours of the ground, as they come out of the game's own.
 const grounds = { menu: [11, 13, 14], play: [27, 27, 27] };
@@ -61,7 +62,7 @@ export class Game {
     return [...data.subarray(i, i + 3)];
   }
 
-  /** Whether the ground is that of the menu or of play; a pause has neither. */
+  /** Whether the ground is that of the menu or of play; that of a pause is the menu's. */
   async shows(ground) {
     const colour = await this.colourAt(0.02, 0.3);
     return colour.every((part, i) => Math.abs(part - grounds[ground][i]) <= 2);
@@ -90,35 +91,17 @@ export class Game {
     await this.untilShows('play');
   }
 
-  /** Where a place of the game's is within the window, the picture being 16 by 10. */
-  async inWindow(x, y) {
-    const [halfWidth, halfHeight] = [24, 15]; // of the view
-    const box = await this.page.$eval('#screen', canvas => {
+  /** Where a place of the game's is within the window. */
+  inWindow(x, y) {
+    return this.page.$eval('#screen', (canvas, u, v) => {
       const { left, top, width, height } = canvas.getBoundingClientRect();
-      return { left, top, width, height };
-    });
-    return [box.left + box.width * (0.5 + x / halfWidth / 2),
-            box.top + box.height * (0.5 - y / halfHeight / 2)];
-  }
-
-  message() {
-    return this.page.$eval('#message', element => (element.hidden ? '' : element.innerText));
+      return [left + width * (0.5 + u), top + height * (0.5 - v)];
+    }, x / view.width, y / view.height);
   }
 
   untilSays(pattern) {
-    return this.until(async () => pattern.test(await this.message()), `the message ${pattern}`);
-  }
-
-  note() {
-    return this.page.$eval('#note', element => element.innerText);
-  }
-
-  /** By what is written on it. */
-  async pressButton(within, text) {
-    const buttons = await this.page.$$(`${within} button`);
-    for (const button of buttons)
-      if (await button.evaluate(element => element.textContent) === text) return button.click();
-    throw new Error(`no button ${text}`);
+    const text = () => this.page.$eval('#message', each => (each.hidden ? '' : each.innerText));
+    return this.until(async () => pattern.test(await text()), `the message ${pattern}`);
   }
 
   /** What a proof has come to. */
@@ -130,13 +113,10 @@ export class Game {
 
   /** @returns the file's path */
   async download(link) {
-    for (const name of readdirSync(downloads)) rmSync(join(downloads, name));
     await link.click();
-    const name = await link.evaluate(a => a.download);
-    const isThere = () => readdirSync(downloads).join() === name &&
-      statSync(join(downloads, name)).size > 0;
-    await this.until(isThere, `the download of ${name}`);
-    return join(downloads, name);
+    const path = join(downloads, await link.evaluate(a => a.download));
+    await this.until(() => existsSync(path) && statSync(path).size > 0, path);
+    return path;
   }
 
   /** A kept file's bytes, or null. */

@@ -13,20 +13,15 @@ const toBase64 = bytes => new Promise(resolve => {
 /**
  * @param program name of its script
  * @param words its arguments; pictures are to go into /pictures
- * @param files paths to be fetched; they are in / under their last name
  * @returns the pictures in base64, by file name
  */
-window.makePictures = async (program, words, files) => {
+window.makePictures = async (program, words) => {
   const { default: create } = await import(`./${program}.js`);
   const running = await create({
     page: { screen, clock: { now: () => 0 }, showWindow() {}, showTitle() {} },
     printErr: text => console.warn(text),
   });
   const { FS } = running;
-  for (const path of files) {
-    const answer = await fetch(path);
-    FS.writeFile(`/${path.split('/').pop()}`, new Uint8Array(await answer.arrayBuffer()));
-  }
   FS.mkdir('/pictures');
   FS.chdir('/kov');
   running.callMain(words);

@@ -5,11 +5,11 @@ cd "$(dirname "$0")/../.."
 
 tools/install_packages.sh build web webtest
 ./web.sh --build
-cmake --build --preset web --target kov-replay-verify kov_moments kov_figures gallery kov_watch \
+cmake --build --preset web --target kov-replay-verify kov_figures gallery kov_watch \
     >build/web.log || { cat build/web.log; exit 1; }
 [ -f build/release/build.ninja ] || cmake --preset release -DKOV_TESTS=ON >/dev/null
 cmake --build --preset release \
-    --target kov_moments kov_figures gallery kov-replay kov-replay-verify >build/build.log ||
+    --target kov_figures gallery kov-replay kov-replay-verify >build/build.log ||
     { cat build/build.log; exit 1; }
 
 # The driver's modules, out of the sources' way.

@@ -30,12 +30,11 @@ export async function fileOf(name, places = folders) {
   return null;
 }
 
+export const isMissing = () => null;
+
 export class Server {
   asked = []; // paths, as they came
-  missing = new Set(); // paths that are answered as if they weren't there
-  preludes = new Map(); // by path: a text in front of the file's
-  others = new Map(); // by path: the path that takes its place
-  changes = new Map(); // by path: a function that makes other contents of its own
+  changes = new Map(); // by path: a function that makes other contents, or null for none
 
   /** @param folder where paths are looked for first */
   constructor(folder = site) {
@@ -47,12 +46,11 @@ export class Server {
       const asked = decodeURIComponent(new URL(request.url, this.address).pathname.slice(1));
       const path = asked === '' || asked.endsWith('/') ? `${asked}index.html` : asked;
       this.asked.push(path);
-      const other = this.others.get(path) ?? path;
-      let contents = this.missing.has(path) ? null : await fileOf(other, [this.folder, ...folders]);
-      if (contents === null) return answer.writeHead(404).end();
-      contents = this.changes.get(path)?.(contents) ?? contents;
+      const contents = await fileOf(path, [this.folder, ...folders]);
+      const sent = this.changes.has(path) ? await this.changes.get(path)(contents) : contents;
+      if (sent === null) return answer.writeHead(404).end();
       answer.writeHead(200, { 'Content-Type': kinds[extname(path)] ?? 'application/octet-stream' });
-      answer.end(Buffer.concat([Buffer.from(this.preludes.get(path) ?? ''), contents]));
+      answer.end(sent);
     });
     await new Promise(resolve => this.http.listen(0, '127.0.0.1', resolve));
     return this;

@@ -11,9 +11,9 @@ import { root, Server } from './server.js';
 
 export const results = join(root, 'build/web-tests'); // for people to look at
 
-/** @param define called for each browser: its name, what adds a test, what takes a picture */
-export function suite(what, define) {
-  for (const name of browserNames)
+/** @param define called for each browser, with what adds a test and its name */
+export function suite(what, define, names = browserNames) {
+  for (const name of names)
     describe(`${what} in ${name}`, { timeout: 900000 }, () => {
       let browser;
 
@@ -23,28 +23,25 @@ export function suite(what, define) {
       });
       after(() => browser?.close());
 
-      const test = (title, run, { prelude = '', missing = [], worker = true } = {}) =>
+      /** @param changes of what the server has, by path */
+      const test = (title, run, changes = {}) =>
         it(title, async () => {
           const server = await new Server().start();
-          server.preludes.set('page.js', prelude);
-          for (const path of worker ? missing : [...missing, 'worker.js']) server.missing.add(path);
+          server.changes = new Map(Object.entries(changes));
           const context = await createContext(browser);
           const page = await context.newPage();
           const game = new Game(page, server);
           try {
             await run(game, page);
             assert.deepEqual(game.faults, []);
-          } catch (error) {
-            await page.screenshot({ path: join(results, `${name}-failure.png`) }).catch(() => {});
-            throw error;
           } finally {
+            const path = join(results, `${name}, ${title}.png`); // its end, good or bad
+            await page.screenshot({ path }).catch(() => {});
             await context.close();
             await server.stop();
           }
         });
-      const shot = (page, title) =>
-        page.screenshot({ path: join(results, `${name}-${title}.png`) });
 
-      define({ name, test, shot });
+      define(test, name);
     });
 }
