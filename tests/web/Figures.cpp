@@ -1,5 +1,5 @@
 // Makes a picture of what OpenGL can be asked for and play seldom or never shows: outlines of
-// filled shapes, one colour to a shape, hidden backs, depth, wide lines, blending.
+// filled shapes, one colour to a shape, hidden backs, depth, wide lines, blending, a texture bound.
 //   kov_figures FOLDER WIDTH HEIGHT
 // The picture is FOLDER/figures.ppm.
 
@@ -61,7 +61,17 @@ void draw(GLenum mode, const Vertices& vertices, float z, float alpha) {
     glEnd();
 }
 
+/// None of what is drawn has coordinates in it.
+void bindTexture() {
+    const std::array<unsigned char, 3> pixel = {255, 0, 0};
+    GLuint name = 0;
+    glGenTextures(1, &name);
+    glBindTexture(GL_TEXTURE_2D, name);
+    glTexImage2D(GL_TEXTURE_2D, 0, 3, 1, 1, 0, GL_RGB, GL_UNSIGNED_BYTE, pixel.data());
+}
+
 void drawAll() {
+    bindTexture();
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
     glOrtho(0, 2.0 * columns, 0, 2.0 * rows, -1, 1);
