@@ -82,17 +82,11 @@ TEST(Pictures, OfTheMenus) {
 }
 
 TEST(Pictures, OfAMenuAndALevelOnScreensOfEachShape) {
-    const struct {
-        unsigned short width, height;
-        const char* like;
-    } screens[] = {{800, 600, ""},
-                   {1280, 800, "800x600"},
-                   {1920, 1080, "800x600"},
-                   {1024, 1024, "800x600"},
-                   {768, 1024, "800x600"}};
-    for (const auto& screen : screens) {
-        HeadlessGame run(100, screen.width, screen.height);
-        const std::string size = std::to_string(screen.width) + "x" + std::to_string(screen.height);
+    using Size = std::pair<unsigned short, unsigned short>;
+    for (const auto& [width, height] :
+         {Size{800, 600}, {1280, 800}, {1920, 1080}, {1024, 1024}, {768, 1024}}) {
+        HeadlessGame run(100, width, height);
+        const std::string size = std::to_string(width) + "x" + std::to_string(height);
         expectPicture("menu-" + size, frameOf(run), "menu-start");
         run.startLevel();
         run.process();
