@@ -80,40 +80,12 @@ bool joins(const TrapLine* line, const TrapLine* top, const TrapLine* bottom) {
            x <= b.high && x <= t.high;
 }
 
-} // namespace
+using Participants = std::vector<Participant>;
 
-void PlainPhysics::tick(headless::HeadlessGame& run) {
-    auto& components = Engine::Instance().components;
-    Component *const own = this, *const game = &processor;
-    std::replace(components.begin(), components.end(), game, own);
-    run.process();
-    std::replace(components.begin(), components.end(), own, game);
-}
-
-void PlainPhysics::process() {
-    participants.clear();
-    for (Entity* e : processor.entities) {
-        const PhysicsObject& body = *e->physics;
-        if (!body.collidable || !body.isActive) continue;
-        if (body.type != shape_box || !body.boxes.empty()) participants.emplace_back(e, body.type);
-    }
-    for (unsigned int step = 0; step < processor.stepCount; ++step) {
-        for (Entity* e : processor.entities) {
-            e->physics->collided = false;
-            e->physics->stepResult = 0;
-        }
-        move();
-        testBoxesAndBoxes();
-        testBoxesAndTriangles();
-        testTrianglesAndPoints();
-        retireLines();
-        constructSquares();
-        testBoxes();
-    }
-}
-
-PlainPhysics::Pairs PlainPhysics::pairs(ShapeType first, ShapeType second) const {
-    Pairs found;
+/// What is tested against each other, of these shapes.
+std::vector<std::pair<Entity*, Entity*>> pairs(const Participants& participants, ShapeType first,
+                                               ShapeType second) {
+    std::vector<std::pair<Entity*, Entity*>> found;
     for (auto a = participants.begin(); a != participants.end(); ++a)
         for (auto b = a; b != participants.end(); ++b)
             if (a->second == first && b->second == second)
@@ -123,15 +95,15 @@ PlainPhysics::Pairs PlainPhysics::pairs(ShapeType first, ShapeType second) const
     return found;
 }
 
-bool PlainPhysics::isStopped(const PhysicsObject& body) const {
+bool isStopped(const PhysicsObject& body, const std::vector<TrapLine*>& lines) {
     if (body.type != shape_triangle) return false;
     const auto [a, b, c] = cornersOf(body);
-    for (const TrapLine* line : processor.lines)
+    for (const TrapLine* line : lines)
         if (meets(*line, a, b) || meets(*line, a, c) || meets(*line, b, c)) return true;
     return false;
 }
 
-void PlainPhysics::move() const {
+void move(const PhysicsProcessor& processor) {
     for (Entity* e : processor.entities) {
         PhysicsObject& body = *e->physics;
         body.previousPosition = body.position;
@@ -141,15 +113,15 @@ void PlainPhysics::move() const {
                              body.velocity.z / processor.stepDivisor);
         if (body.velocity.length() < 0.000001) body.velocity = math::zero_vector;
         body.position += d;
-        if (isStopped(body)) {
+        if (isStopped(body, processor.lines)) {
             body.hitLine = true;
             body.position = body.previousPosition;
         }
     }
 }
 
-void PlainPhysics::testBoxesAndBoxes() const {
-    for (const auto& [a, b] : pairs(shape_box, shape_box)) {
+void testBoxesAndBoxes(const Participants& participants) {
+    for (const auto& [a, b] : pairs(participants, shape_box, shape_box)) {
         PhysicsObject &first = *a->physics, &second = *b->physics;
         const AABB &box1 = first.boxes.front(), &box2 = second.boxes.front();
         const math::Vector way = first.position - second.position;
@@ -162,8 +134,8 @@ void PlainPhysics::testBoxesAndBoxes() const {
     }
 }
 
-void PlainPhysics::testBoxesAndTriangles() const {
-    for (const auto& [a, b] : pairs(shape_box, shape_triangle)) {
+void testBoxesAndTriangles(const Participants& participants) {
+    for (const auto& [a, b] : pairs(participants, shape_box, shape_triangle)) {
         PhysicsObject &box = *a->physics, &triangle = *b->physics;
         const double x = box.position.x, y = box.position.y;
         const double hw = box.boxes.front().halfWidth, hh = box.boxes.front().halfHeight;
@@ -179,8 +151,8 @@ void PlainPhysics::testBoxesAndTriangles() const {
     }
 }
 
-void PlainPhysics::testTrianglesAndPoints() const {
-    for (const auto& [triangle, point] : pairs(shape_triangle, shape_point)) {
+void testTrianglesAndPoints(const Participants& participants) {
+    for (const auto& [triangle, point] : pairs(participants, shape_triangle, shape_point)) {
         if (!holds(*triangle->physics, point->physics->position)) continue;
         triangle->physics->collided = triangle->physics->hitLine = true;
         point->physics->collided = true;
@@ -192,7 +164,7 @@ void PlainPhysics::testTrianglesAndPoints() const {
     }
 }
 
-void PlainPhysics::retireLines() const {
+void retireLines(PhysicsProcessor& processor) {
     auto& lines = processor.lines;
     for (TrapLine* line : lines) {
         if (line->bullet != nullptr && line->bullet->fakeKilled) {
@@ -211,10 +183,10 @@ void PlainPhysics::retireLines() const {
                 lines.end());
 }
 
-void PlainPhysics::constructSquares() {
-    squares.clear();
+std::vector<PhysicsProcessor::Square> squaresOf(const std::vector<TrapLine*>& lines) {
+    std::vector<PhysicsProcessor::Square> squares;
     std::vector<TrapLine*> horizontal, vertical;
-    for (TrapLine* line : processor.lines)
+    for (TrapLine* line : lines)
         if (line->solid) (line->horizontal ? horizontal : vertical).push_back(line);
     for (TrapLine* a : horizontal)
         for (TrapLine* b : horizontal) {
@@ -229,31 +201,64 @@ void PlainPhysics::constructSquares() {
                     squares.push_back({{top, inOrder ? c : d, inOrder ? d : c, bottom}});
                 }
         }
+    return squares;
 }
 
-void PlainPhysics::testBoxes() const {
-    for (const auto& square : squares) {
-        const primitives::Box box(square[0]->start.y, square[3]->start.y, square[1]->start.x,
-                                  square[2]->start.x);
-        const auto isInside = [&](const Point& c) {
-            return c.x >= box.left - 0.1 && c.x <= box.right + 0.1 && c.y <= box.top + 0.1 &&
-                   c.y >= box.bottom - 0.1;
-        };
-        unsigned short count = 0;
+/// @return whether the rectangle has paid out
+bool paysOut(const PhysicsProcessor::Square& square, const std::vector<Entity*>& entities) {
+    const primitives::Box box(square[0]->start.y, square[3]->start.y, square[1]->start.x,
+                              square[2]->start.x);
+    const auto isInside = [&](const Point& c) {
+        return c.x >= box.left - 0.1 && c.x <= box.right + 0.1 && c.y <= box.top + 0.1 &&
+               c.y >= box.bottom - 0.1;
+    };
+    unsigned short count = 0;
+    for (Entity* e : entities) {
+        const auto corners = cornersOf(*e->physics);
+        if (e->physics->type != shape_triangle ||
+            std::count_if(corners.begin(), corners.end(), isInside) < 2)
+            continue;
+        e->dead = true;
+        ++count;
+    }
+    if (count == 0) return false;
+    for (TrapLine* side : square) {
+        side->fakeDone = true;
+        if (side->bullet != nullptr) side->bullet->fakeKill();
+    }
+    Marvo::Instance().killTriangles(box, count);
+    return true;
+}
+
+} // namespace
+
+void PlainPhysics::tick(headless::HeadlessGame& run) {
+    auto& components = Engine::Instance().components;
+    Component *const own = this, *const game = &processor;
+    std::replace(components.begin(), components.end(), game, own);
+    run.process();
+    std::replace(components.begin(), components.end(), own, game);
+}
+
+void PlainPhysics::process() {
+    Participants participants;
+    for (Entity* e : processor.entities) {
+        const PhysicsObject& body = *e->physics;
+        if (!body.collidable || !body.isActive) continue;
+        if (body.type != shape_box || !body.boxes.empty()) participants.emplace_back(e, body.type);
+    }
+    for (unsigned int step = 0; step < processor.stepCount; ++step) {
         for (Entity* e : processor.entities) {
-            const auto corners = cornersOf(*e->physics);
-            if (e->physics->type != shape_triangle ||
-                std::count_if(corners.begin(), corners.end(), isInside) < 2)
-                continue;
-            e->dead = true;
-            ++count;
+            e->physics->collided = false;
+            e->physics->stepResult = 0;
         }
-        if (count == 0) continue;
-        for (TrapLine* side : square) {
-            side->fakeDone = true;
-            if (side->bullet != nullptr) side->bullet->fakeKill();
-        }
-        Marvo::Instance().killTriangles(box, count);
-        return;
+        move(processor);
+        testBoxesAndBoxes(participants);
+        testBoxesAndTriangles(participants);
+        testTrianglesAndPoints(participants);
+        retireLines(processor);
+        squares = squaresOf(processor.lines);
+        for (const auto& square : squares)
+            if (paysOut(square, processor.entities)) break;
     }
 }

@@ -23,22 +23,8 @@ public:
     void removeEntity(quorva::Entity* e) override { processor.removeEntity(e); }
     void removeAllEntities() override { processor.removeAllEntities(); }
 
-    std::vector<quorva::physics::PhysicsProcessor::Square> squares;
+    std::vector<quorva::physics::PhysicsProcessor::Square> squares; ///< of the last sub-step
 
 private:
-    using Pairs = std::vector<std::pair<quorva::Entity*, quorva::Entity*>>;
-
-    /// What is tested against each other, of these shapes, in this tick.
-    Pairs pairs(quorva::physics::ShapeType first, quorva::physics::ShapeType second) const;
-    bool isStopped(const quorva::physics::PhysicsObject& body) const;
-    void move() const;
-    void testBoxesAndBoxes() const;
-    void testBoxesAndTriangles() const;
-    void testTrianglesAndPoints() const;
-    void retireLines() const;
-    void constructSquares();
-    void testBoxes() const;
-
     quorva::physics::PhysicsProcessor& processor;
-    std::vector<quorva::physics::Participant> participants; ///< in this tick
 };
