@@ -31,20 +31,6 @@ struct Service : Component {
     std::function<void()> onUpdate;
 };
 
-class EngineTest : public testing::Test {
-protected:
-    /// What an update does with these components alone.
-    std::string update(std::vector<Component*> components) {
-        engine.components = std::move(components);
-        journal.clear();
-        engine.update();
-        return journal;
-    }
-    void TearDown() override { engine.components.clear(); } // the test's own, gone by now
-
-    EngineClass engine;
-};
-
 struct Note {};
 struct Listener : MessageInterface<Note> {
     explicit Listener(std::function<void()> onNote_) : onNote(std::move(onNote_)) {}
@@ -54,7 +40,14 @@ struct Listener : MessageInterface<Note> {
 
 } // namespace
 
-TEST_F(EngineTest, SweepsComponentsByPositionWhileTheyComeAndGo) {
+TEST(EngineTest, SweepsComponentsByPositionWhileTheyComeAndGo) {
+    EngineClass engine;
+    const auto update = [&engine](std::vector<Component*> components) {
+        engine.components = std::move(components); // these alone
+        journal.clear();
+        engine.update();
+        return journal;
+    };
     Service last('l'), added('a');
     Service changer('c', [&] {
         engine.delComponent(&changer);
