@@ -7,7 +7,7 @@
 #include "game/PupLine.h"
 #include "headless/StateHash.h"
 
-#include <limits>
+#include <cmath>
 #include <optional>
 #include <random>
 #include <sstream>
@@ -17,8 +17,6 @@ using math::Point;
 using namespace quorva::physics;
 
 namespace {
-
-constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
 
 void addSquares(std::ostream& out, const std::vector<PhysicsProcessor::Square>& squares) {
     out << "squares";
@@ -90,7 +88,7 @@ private:
     bool chance(int outOf) { return below(outOf) == 0; }
 
     double coordinate() {
-        if (numbersFail && chance(40)) return not_a_number;
+        if (numbersFail && chance(40)) return NAN;
         const double hair[] = {0,    0,   0,    1e-7,       -1e-7, 1e-6,      -1e-6,
                                2e-6, 0.1, -0.1, 0.1 + 1e-9, 0.2,   0.2 - 1e-7};
         const double whole = below(15) - 7;
@@ -139,7 +137,7 @@ private:
     void addTriangle() {
         const double size = chance(4) ? 0.05 : 1.5;
         const auto corner = [&] {
-            if (numbersFail && chance(60)) return Point(not_a_number, 0, 0);
+            if (numbersFail && chance(60)) return Point(NAN, 0, 0);
             if (chance(3)) return Point(below(5) - 2, below(5) - 2, 0); // often meets a bound
             const double x = (below(2001) - 1000) / 1000.0 * size;
             return Point(x, (below(2001) - 1000) / 1000.0 * size, 0);

@@ -18,12 +18,10 @@ namespace {
 
 class PicturesOfAField : public FieldTest {
 protected:
-    /// As wide as the screen that line widths are authored for: on a narrower one, all thin lines
-    /// come out one pixel wide.
-    PicturesOfAField() : FieldTest(1280, 800) { furnish(); }
-
-    /// All that can be on a field: actors, effects, and arrows that show how far each gun is.
-    void furnish() {
+    /// All that can be on a field: actors, effects, and arrows that show how far each gun is. As
+    /// wide as the screen that line widths are authored for: on a narrower one, all thin lines come
+    /// out one pixel wide.
+    PicturesOfAField() : FieldTest(1280, 800) {
         EngineClass& engine = Engine::Instance();
         body(player).position = math::Point(2, 1, 0);
         engine.createEntity<PupLine>("Line Powerup", math::Point(-12, 8, 0));
