@@ -75,6 +75,7 @@ TEST(Pictures, OfTheMenus) {
                       "configuration-resolution");
         press(run, {SDLK_DOWN}, 2);
     }
+    expectPicture("configuration-resolution", frameOf(run)); // no other row is lit any more
     press(run, {SDLK_ESCAPE}, 2);
     expectPicture("menu-start", frameOf(run));
 }
