@@ -29,34 +29,30 @@ const std::string usage = "Usage: kov [OPTION]...\nTry `kov --help` for more inf
 
 } // namespace
 
-TEST_F(ConfigTest, ValuesAreCheckedAgainstTheListOrElseTheRange) {
-    ConfigValuesT table;
-    const struct {
-        char letter;
-        int value;
-        bool good;
-    } cases[] = {{'w', 479, false}, {'w', 480, true},   {'w', 1920, true},   {'w', 1921, false},
-                 {'c', 24, false},  {'c', 16, true},    {'r', 20000, false}, {'z', 0, false},
-                 {'z', 1000, true}, {'z', 1001, false}, {'k', 17, false},    {'y', 32768, true}};
-    for (const auto& c : cases) {
-        const int reason = reasonOf([&] { table.setValue(c.letter, c.value); });
-        EXPECT_EQ(reason, c.good ? -1 : 1) << c.letter << ' ' << c.value;
-        if (c.good) {
-            EXPECT_EQ(table.getIntVal(c.letter), c.value);
-        }
-    }
-}
-
 TEST_F(ConfigTest, TellsUnknownKeysFromBadValues) {
     ConfigValuesT table;
-    EXPECT_EQ(reasonOf([&] { table.setValue('q', 1); }), 0);
-    EXPECT_EQ(reasonOf([&] { table.setValue("q", 1); }), 1) << "shorter than the prefix";
-    EXPECT_EQ(reasonOf([&] { table.setValue("Quite", 1); }), 0);
-    EXPECT_EQ(reasonOf([&] { table.setValue("No", 1); }), 0);
-    EXPECT_EQ(reasonOf([&] { table.setValue('w', quality_low); }), 1);
-    EXPECT_EQ(reasonOf([&] { table.getIntVal("Quite"); }), 1);
-    EXPECT_EQ(reasonOf([&] { table.setDefault("Quite"); }), 0);
-    EXPECT_EQ(reasonOf([&] { ConfigClass().getConfigValueInfo('q'); }), 0);
+    constexpr int good = -1, unknown = ConfigValueException::no_such_setting,
+                  bad = ConfigValueException::invalid_value;
+    const struct {
+        char letter;
+        int value, reason;
+    } cases[] = {{'w', 479, bad},    {'w', 480, good}, {'w', 1920, good}, {'w', 1921, bad},
+                 {'c', 24, bad},     {'c', 16, good},  {'r', 20000, bad}, {'z', 1000, good},
+                 {'y', 32768, good}, {'q', 1, unknown}};
+    for (const auto& c : cases) {
+        const auto set = [&] {
+            table.setValue(c.letter, c.value);
+            EXPECT_EQ(table.getIntVal(c.letter), c.value);
+        };
+        EXPECT_EQ(reasonOf(set), c.reason) << c.letter << ' ' << c.value;
+    }
+    EXPECT_EQ(reasonOf([&] { table.setValue("q", 1); }), bad) << "shorter than the prefix";
+    for (const char* name : {"Quite", "No"})
+        EXPECT_EQ(reasonOf([&] { table.setValue(name, 1); }), unknown) << name;
+    EXPECT_EQ(reasonOf([&] { table.setValue('w', quality_low); }), bad);
+    EXPECT_EQ(reasonOf([&] { table.getIntVal("Quite"); }), bad);
+    EXPECT_EQ(reasonOf([&] { table.setDefault("Quite"); }), unknown);
+    EXPECT_EQ(reasonOf([&] { ConfigClass().getConfigValueInfo('q'); }), unknown);
 }
 
 TEST_F(ConfigTest, StepsWrapAtTheEndsOfRangesAndLists) {
@@ -70,35 +66,6 @@ TEST_F(ConfigTest, StepsWrapAtTheEndsOfRangesAndLists) {
     EXPECT_TRUE(table.getNextBoolVal("FullScreen"));
 }
 
-TEST_F(ConfigTest, ASettingIsPendingUntilItIsActivated) {
-    ConfigClass config;
-    EXPECT_EQ(errorsOf([&] { config.setJoystickSensitivity(32769); }),
-              "Invalid JoystickSensitivity, using default: 3200\n");
-    config.setJoystickSensitivity(32768);
-    config.setSaveCPU(true);
-    config.setJoystickSupport(false);
-    EXPECT_FALSE(config.configActivated());
-    EXPECT_EQ(config.getJoystickSensitivity(), 3200);
-    EXPECT_FALSE(config.getSaveCPU());
-    config.activateConfig();
-    EXPECT_TRUE(config.configActivated());
-    EXPECT_EQ(config.getJoystickSensitivity(), 32768);
-    EXPECT_TRUE(config.getSaveCPU());
-    EXPECT_TRUE(config.getJoyStickSupport()) << "can only be switched off by name";
-}
-
-TEST_F(ConfigTest, ALostSettingFallsBack) {
-    ConfigClass config;
-    ConfigValuesT& table = config.getConfigValues();
-    table.intValues.clear();
-    table.boolValues.clear();
-    EXPECT_EQ(errorsOf([&] { config.setFullScreen(true); }), "Couldn't set FullScreen\n");
-    config.activateConfig();
-    EXPECT_TRUE(config.getPlaySound());
-    EXPECT_EQ(config.getScreenWidth(), 800);
-    EXPECT_EQ(config.getColourDepth(), 600) << "its neighbour's";
-}
-
 TEST_F(ConfigTest, ReadsTheFileLoosely) {
     const std::string huge = "ScreenWidth=1024\n" + std::string(16 << 20, ' ');
     const struct {
@@ -107,7 +74,6 @@ TEST_F(ConfigTest, ReadsTheFileLoosely) {
         int width;
         const char* errors;
     } cases[] = {
-        {"plain", "ScreenWidth=1024", 1024, ""},
         {"blanks everywhere", "   ScreenWidth   =   1024  \r", 1024, ""},
         {"a run of separators", "ScreenWidth == 1024", 1024, ""},
         {"comment", "#ScreenWidth=1024", 800, ""},
@@ -117,7 +83,8 @@ TEST_F(ConfigTest, ReadsTheFileLoosely) {
         {"the first counts", "ScreenWidth = 1024\nScreenWidth = 640", 1024, ""},
         {"cut to sixteen bits", "ScreenWidth = 66336", 800, ""},
         {"too large", "ScreenWidth = 4000", 800, "Invalid ScreenWidth , using default: 800\n"},
-        {"no number", "ScreenWidth = wide", 800, "Invalid ScreenWidth , using default: 800\n"},
+        {"refused with another comma", "JoystickSensitivity = 32769", 800,
+         "Invalid JoystickSensitivity, using default: 3200\n"},
         {"unknown", "Depth = 3", 800, ""},
         {"no text", huge.c_str(), 800, ""},
     };
@@ -142,7 +109,9 @@ TEST_F(ConfigTest, WritesWhatItReadsAndAnEmptyBackup) {
         config.setScreenWidth(1280);
         config.setSaveCPU(true);
         config.activateConfig();
+        EXPECT_TRUE(config.configActivated());
         config.setScreenHeight(720); // pending only
+        EXPECT_FALSE(config.configActivated());
         config.saveConfig();
     }
     EXPECT_EQ(contentsOf("game.conf"), contentsOf(KOV_SOURCE_DIR "/tests/config/saved.conf"));
@@ -165,8 +134,6 @@ TEST_F(ConfigTest, TakesArgumentsAndTellsWhetherToStart) {
         {"foo", false, true, {}, 0},
         {"foo=bar", true, false, {}, 0},
         {"", false, true, {}, 0},
-        {"-", false, true, {}, 0},
-        {"--", false, true, {}, 0},
         {"--=5", false, true, {}, 0},
         {"--ScreenWidth=", true, true, &ConfigClass::getScreenWidth, 800},
         {"--ScreenWidth=640=5", true, true, &ConfigClass::getScreenWidth, 800},
@@ -175,13 +142,11 @@ TEST_F(ConfigTest, TakesArgumentsAndTellsWhetherToStart) {
         {"-w=99999999999999999999", false, true, &ConfigClass::getScreenWidth, 800},
         {"-w", false, true, {}, 0},
         {"-fx", false, true, {}, 0},
-        {"-xFullScreen", false, true, &ConfigClass::getFullScreen, 0},
         {"-r=20000", false, true, &ConfigClass::getRate, 41000},
         {"-f=0", true, false, &ConfigClass::getFullScreen, 1},
         {"-x", true, false, &ConfigClass::getIgnoreTime, 1},
         {"-S", true, false, &ConfigClass::getPlaySound, 0},
         {"--NoPlaySound", true, false, &ConfigClass::getPlaySound, 0},
-        {"--NoUseJoystick", true, false, &ConfigClass::getJoyStickSupport, 0},
         {"--Fullscreen", false, true, &ConfigClass::getFullScreen, 0},
         {"-\xe4", false, true, {}, 0},
     };

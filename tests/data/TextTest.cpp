@@ -81,8 +81,6 @@ void expectInOrder(const Entity& page, std::size_t texts) {
 
 class TextTest : public testing::Test {
 protected:
-    void press(std::initializer_list<int> keys) { ::press(run, keys); }
-
     headless::HeadlessGame run;
 };
 
@@ -90,18 +88,18 @@ protected:
 
 TEST_F(TextTest, TheConfigurationWithAllItsValues) {
     activate({{"CollisionAccuracy", 1000}});
-    press({SDLK_DOWN, SDLK_RETURN});
+    press(run, {SDLK_DOWN, SDLK_RETURN});
     auto& menu = static_cast<menus::ConfigMenu&>(*run.game().mainMenu->subMenu);
     constexpr std::size_t still = 18; // texts besides the lines of help
     for (std::size_t i = 0; i < menu.resolutions.size(); ++i) {
         expectInOrder(menu, still);
-        press({SDLK_RIGHT});
+        press(run, {SDLK_RIGHT});
     }
-    press({SDLK_DOWN, SDLK_RIGHT}); // full screen
-    press({SDLK_DOWN, SDLK_DOWN, SDLK_DOWN});
+    press(run, {SDLK_DOWN, SDLK_RIGHT}); // full screen
+    press(run, {SDLK_DOWN, SDLK_DOWN, SDLK_DOWN});
     run.tick(); // the lines of help follow the selection
     expectInOrder(menu, still + 2);
-    press({SDLK_DOWN, SDLK_RIGHT}); // saves the processor
+    press(run, {SDLK_DOWN, SDLK_RIGHT}); // saves the processor
     expectInOrder(menu, still + 2);
 }
 

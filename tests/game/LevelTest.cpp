@@ -27,13 +27,9 @@ TEST_F(LevelTest, ScoresSmallRectanglesFarHigher) {
         unsigned short count;
         std::uint32_t points;
     } cases[] = {
-        {"a quarter of the field, one triangle", {7.5, -7.5, -10, 10}, 1, 632},
-        {"a hundredth of the field, four", {1.5, -1.5, -2, 2}, 4, 7684},
-        {"the whole field", {15, -15, -20, 20}, 3, 0},
         {"larger than the field: no clamp", {30, -30, -20, 20}, 1, 2000},
-        {"nothing caught", {1, -1, -1, 1}, 0, 0},
         {"not a number", {NAN, 0, 0, 1}, 1, 0},
-        {"another with a mantissa of 53 or 113 bits", {9.5, 1.5, -14, 1}, 5, 6560},
+        {"other points with a mantissa of 53 or 113 bits", {9.5, 1.5, -14, 1}, 5, 6560},
         {"likewise, but less", {4.25, -13.75, -4.75, 15.25}, 20, 9604},
     };
     for (const auto& c : cases) {
@@ -60,14 +56,7 @@ TEST_F(LevelTest, GivesALifeAboveEachMarkOneATick) {
     }
 }
 
-TEST_F(LevelTest, KeepsARecordButNoTie) {
-    MarvoClass& marvo = Marvo::Instance();
-    marvo.highScore = marvo.score = 500;
-    marvo.saveHighScore();
-    EXPECT_EQ(contentsOf("s.dat"), no_file) << "a tie is no record";
-    marvo.score = 501;
-    marvo.saveHighScore();
-    EXPECT_EQ(MarvoClass().highScore, marvo.highScore);
+TEST_F(LevelTest, ReadsAHighScoreOfAnyLength) {
     for (const auto& [length, read] : {std::pair{0, 0U}, {1, 0xFFU}, {3, 0xFFFFFFU}, {5, ~0U}}) {
         fill("s.dat", std::string(length, '\xff'));
         EXPECT_EQ(MarvoClass().highScore, read) << length << " bytes";

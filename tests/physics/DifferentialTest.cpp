@@ -4,13 +4,10 @@
 #include "tests/support/FieldTest.h"
 #include "tests/support/PlainPhysics.h"
 
-#include "Framework/Graphics/GraphicObject.h"
-#include "Framework/Graphics/Stuff/GLine.h"
 #include "game/PupLine.h"
 #include "headless/StateHash.h"
 
 #include <cmath>
-#include <limits>
 #include <optional>
 #include <random>
 #include <sstream>
@@ -21,16 +18,6 @@ using namespace quorva::physics;
 
 namespace {
 
-constexpr double not_a_number = std::numeric_limits<double>::quiet_NaN();
-
-template <class Pairs>
-void addPairs(std::ostream& out, const Pairs& pairs) {
-    out << "pairs";
-    for (const auto& [a, b] : pairs)
-        out << ' ' << a->id << '-' << b->id;
-    out << '\n';
-}
-
 void addSquares(std::ostream& out, const std::vector<PhysicsProcessor::Square>& squares) {
     out << "squares";
     for (const auto& square : squares)
@@ -39,27 +26,10 @@ void addSquares(std::ostream& out, const std::vector<PhysicsProcessor::Square>& 
     out << '\n';
 }
 
-/// All that is not a number alike, as zeros are.
-double plainly(double value) {
-    return std::isnan(value) ? not_a_number : value + 0.0;
-}
-
-void addLine(std::ostream& out, const TrapLine& l) {
-    out << "line " << l.id << l.dead << l.fakeDone << l.solid << l.fading << l.finished
-        << l.horizontal << l.graphics->enabled << " life " << l.lifeTicks << ' ' << l.blinkTicks;
-    for (const double x : {l.start.x, l.start.y, l.end.x, l.end.y, l.line->end.x, l.line->end.y})
-        out << ' ' << plainly(x);
-    if (l.fading) out << " fade " << l.fadeScale << ' ' << l.fadeStep;
-    out << " bullet " << (l.bullet != nullptr ? l.bullet->id : 0) << '\n';
-}
-
 /// Everything else that a tick can change, one line for each object.
 void addObjects(std::ostream& out, const Field& field) {
     for (const headless::StatePart& part : headless::stateParts())
-        if (const auto* line = dynamic_cast<TrapLine*>(Engine::Instance().getEntity(part.id)))
-            addLine(out, *line);
-        else
-            out << headless::describe(part) << " state " << part.hash << '\n';
+        out << headless::describe(part) << " state " << part.hash << '\n';
     for (const Entity* e : field.physics->entities) {
         out << e->id << (e->physics->hitLine ? " held, knows" : " knows");
         for (const TriLine& known : e->physics->lines)
@@ -118,11 +88,12 @@ private:
     bool chance(int outOf) { return below(outOf) == 0; }
 
     double coordinate() {
-        if (numbersFail && chance(40)) return not_a_number;
-        const double hair[] = {0, 0, 0, 1e-7, -1e-7, 1e-6, -1e-6, 2e-6, 0.1, -0.1, 0.1 + 1e-9};
+        if (numbersFail && chance(40)) return NAN;
+        const double hair[] = {0,    0,   0,    1e-7,       -1e-7, 1e-6,      -1e-6,
+                               2e-6, 0.1, -0.1, 0.1 + 1e-9, 0.2,   0.2 - 1e-7};
         const double whole = below(15) - 7;
         if (chance(3)) return whole + below(1000) / 1000.0;
-        return whole + hair[below(11)];
+        return whole + hair[below(13)];
     }
     Point point() {
         const double x = coordinate();
@@ -130,6 +101,7 @@ private:
     }
     math::Vector velocity(double most) {
         if (chance(6)) return math::zero_vector;
+        if (chance(20)) return {1e-7, 0, 0}; // stands, after a last tiny move
         const auto part = [&] { return chance(4) ? 0.0 : (below(2001) - 1000) / 1000.0 * most; };
         const double x = part();
         return {x, part(), 0};
@@ -147,7 +119,6 @@ private:
         line->solid = !chance(10);
         line->fakeDone = chance(20);
         line->lifeTicks = static_cast<std::uint16_t>(1 + (chance(4) ? below(9) : 70 + below(9)));
-        line->blinkTicks = static_cast<std::uint16_t>(5 + below(4));
         if (!chance(10)) return;
         line->bullet = Engine::Instance().createEntity<Bullet>("Bullet", end, velocity(1.0));
         line->bullet->fakeKilled = chance(2);
@@ -166,7 +137,7 @@ private:
     void addTriangle() {
         const double size = chance(4) ? 0.05 : 1.5;
         const auto corner = [&] {
-            if (numbersFail && chance(60)) return Point(not_a_number, 0, 0);
+            if (numbersFail && chance(60)) return Point(NAN, 0, 0);
             if (chance(3)) return Point(below(5) - 2, below(5) - 2, 0); // often meets a bound
             const double x = (below(2001) - 1000) / 1000.0 * size;
             return Point(x, (below(2001) - 1000) / 1000.0 * size, 0);
@@ -191,19 +162,6 @@ private:
     bool numbersFail = false;
 };
 
-/// As many bodies as before, but not the same.
-void swapOneTriangle(Field& field) {
-    for (Entity* e : field.physics->entities) {
-        auto* const triangle = dynamic_cast<Triangle*>(e);
-        if (triangle == nullptr || triangle->dead) continue;
-        triangle->explodes = false;
-        triangle->dead = true;
-        field.layAt(3, 3);
-        break;
-    }
-    Engine::Instance().cleanupDeadEntities();
-}
-
 /// Some ticks of this seed's field, by the plain loops or by the physics.
 std::string playedOut(unsigned int seed, bool plain) {
     Field field;
@@ -211,17 +169,10 @@ std::string playedOut(unsigned int seed, bool plain) {
     std::optional<PlainPhysics> loops;
     if (plain) loops.emplace(processor);
     const Count<SoundBad> refused;
+    const Count<SoundBuletHit> hits;
     FieldMaker maker(field, seed);
     maker.make();
-    const std::tuple<ShapeType, ShapeType, PairList*> kinds[] = {
-        {shape_box, shape_box, &processor.aabbAabbTests},
-        {shape_box, shape_point, &processor.aabbPointTests},
-        {shape_box, shape_triangle, &processor.aabbTriangleTests},
-        {shape_triangle, shape_triangle, &processor.triangleTriangleTests},
-        {shape_triangle, shape_point, &processor.trianglePointTests},
-        {shape_point, shape_point, &processor.pointPointTests}};
     std::ostringstream out;
-    out.precision(std::numeric_limits<double>::max_digits10);
     for (int tick = 0; tick < (maker.lively ? 15 : 3); ++tick) {
         if (maker.lively) {
             maker.act();
@@ -230,16 +181,11 @@ std::string playedOut(unsigned int seed, bool plain) {
             loops ? loops->process() : processor.process();
         }
         out << "tick " << tick << ", " << processor.stepCount << " sub-steps\n";
-        for (const auto& [first, second, fast] : kinds)
-            if (plain)
-                addPairs(out, loops->pairs(first, second));
-            else
-                addPairs(out, *fast);
         addSquares(out, plain ? loops->squares : processor.squares);
         addObjects(out, field);
         if (refused.count != 0) out << "refused " << refused.count << '\n';
+        out << "hits " << hits.count << '\n';
         field.run.frame();
-        if (!maker.lively) swapOneTriangle(field);
         if (field.run.game().level == nullptr) out << "level ended\n";
     }
     return out.str();
@@ -252,8 +198,8 @@ TEST(Differential, PhysicsAndPlainLoopsAgreeOnEveryField) {
         const char* text;
         int least;
         int fields = 0; ///< that show it
-    } signs[] = {{" held", 500}, {"scored", 80},        {" fade ", 100},
-                 {" ended", 10}, {"250 sub-steps", 15}, {"refused ", 50}};
+    } signs[] = {
+        {" held", 500}, {"scored", 80}, {" ended", 10}, {"250 sub-steps", 15}, {"refused ", 50}};
     for (unsigned int seed = 0; seed < 2000; ++seed) {
         const std::string plain = playedOut(seed, true);
         ASSERT_EQ(playedOut(seed, false), plain) << "seed " << seed;

@@ -18,12 +18,10 @@ namespace {
 
 class PicturesOfAField : public FieldTest {
 protected:
-    /// As wide as the screen that line widths are authored for: on a narrower one, all thin lines
-    /// come out one pixel wide.
-    PicturesOfAField() : FieldTest(1280, 800) { furnish(); }
-
-    /// All that can be on a field: actors, effects, and arrows that show how far each gun is.
-    void furnish() {
+    /// All that can be on a field: actors, effects, and arrows that show how far each gun is. As
+    /// wide as the screen that line widths are authored for: on a narrower one, all thin lines come
+    /// out one pixel wide.
+    PicturesOfAField() : FieldTest(1280, 800) {
         EngineClass& engine = Engine::Instance();
         body(player).position = math::Point(2, 1, 0);
         engine.createEntity<PupLine>("Line Powerup", math::Point(-12, 8, 0));
@@ -77,22 +75,17 @@ TEST(Pictures, OfTheMenus) {
                       "configuration-resolution");
         press(run, {SDLK_DOWN}, 2);
     }
+    expectPicture("configuration-resolution", frameOf(run)); // no other row is lit any more
     press(run, {SDLK_ESCAPE}, 2);
     expectPicture("menu-start", frameOf(run));
 }
 
 TEST(Pictures, OfAMenuAndALevelOnScreensOfEachShape) {
-    const struct {
-        unsigned short width, height;
-        const char* like;
-    } screens[] = {{800, 600, ""},
-                   {1280, 800, "800x600"},
-                   {1920, 1080, "800x600"},
-                   {1024, 1024, "800x600"},
-                   {768, 1024, "800x600"}};
-    for (const auto& screen : screens) {
-        HeadlessGame run(100, screen.width, screen.height);
-        const std::string size = std::to_string(screen.width) + "x" + std::to_string(screen.height);
+    using Size = std::pair<unsigned short, unsigned short>;
+    for (const auto& [width, height] :
+         {Size{800, 600}, {1280, 800}, {1920, 1080}, {1024, 1024}, {768, 1024}}) {
+        HeadlessGame run(100, width, height);
+        const std::string size = std::to_string(width) + "x" + std::to_string(height);
         expectPicture("menu-" + size, frameOf(run), "menu-start");
         run.startLevel();
         run.process();
