@@ -96,7 +96,7 @@ FMOD_RESULT Recorder::openSong(FMOD_SYSTEM* system, const char* path, FMOD_SOUND
 
 FMOD_RESULT Recorder::songLength(FMOD_SOUND* song, unsigned int* ms) {
     const FMOD_RESULT result = Tape::songLength(song, ms);
-    if (result == FMOD_OK && !pass.songs.empty()) pass.songs.back().length = *ms;
+    if (!pass.songs.empty()) pass.songs.back().length = *ms;
     return result;
 }
 

@@ -80,8 +80,7 @@ std::string firstDifference(const Check& kept, const Check& played) {
     if (kept.hash == played.hash && was == is) return {};
     std::ostringstream out;
     if (was.size() != is.size()) out << is.size() << " objects in place of " << was.size() << ", ";
-    const auto shorter = static_cast<std::ptrdiff_t>(std::min(was.size(), is.size()));
-    const auto first = std::mismatch(is.begin(), is.begin() + shorter, was.begin()).first;
+    const auto first = std::mismatch(is.begin(), is.end(), was.begin(), was.end()).first;
     const auto index = static_cast<std::size_t>(first - is.begin());
     const auto parts = headless::stateParts();
     if (index < parts.size())

@@ -101,13 +101,15 @@ void Story::lookAtClock(const Progress& progress, std::uint32_t time) {
     GameStory& game = games.back();
     const TimerClass& timer = Timer::Instance();
     if (progress.ended) {
-        if (now.isPaused) endPause(time - now.pauseBegin);
+        if (now.pauseBegin) endPause(time - *now.pauseBegin);
         return;
     }
     const std::uint32_t ended = timer.correction - std::exchange(now.pauses, timer.correction);
     if (ended != 0) endPause(ended);
-    if (!now.isPaused && timer.paused) now.pauseBegin = time;
-    now.isPaused = timer.paused;
+    if (!timer.paused)
+        now.pauseBegin.reset();
+    else if (!now.pauseBegin)
+        now.pauseBegin = time;
     if (!progress.ticked || progress.began) return;
     const std::uint32_t length = time - std::exchange(now.lastTick, time);
     ++game.ticks;

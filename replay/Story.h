@@ -76,8 +76,7 @@ private:
         std::size_t datedCatches = 0; ///< whose time is known
         std::uint32_t lastTick = 0;   ///< ms after the start, and later by the pauses since then
         std::uint32_t pauses = 0;     ///< ms, those that have ended, as the game's clock has them
-        bool isPaused = false;
-        std::uint32_t pauseBegin = 0; ///< ms after the start
+        std::optional<std::uint32_t> pauseBegin; ///< ms after the start; empty: it goes on
     } now;
 };
 

@@ -10,7 +10,7 @@ using namespace quorva::replay;
 namespace {
 
 const std::vector<CommandLine::Option> options = {
-    {"speed", true}, {"full", false}, {"data", true, true}};
+    {"full", false}, {"speed", true}, {"data", true, true}};
 
 std::string refusal(const Words& words) {
     try {

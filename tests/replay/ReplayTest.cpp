@@ -510,22 +510,32 @@ TEST_F(Replay, TellsWhatCouldHaveHelped) {
 
 TEST(Frames, StayEmptyWhileTheTapeShowsNone) {
     struct : Tape {
-        bool draws() override { return shown; }
-        bool shown = false;
-    } tape;
+        bool draws() override { return false; }
+    } none;
+    Tape any;
     const headless::Sandbox sandbox(KOV_SOURCE_DIR);
     headless::HeadlessGame game(11);
     game.startLevel();
     game.process();
-    insert(&tape);
-    for (const bool shown : {false, true}) {
-        tape.shown = shown;
+    for (Tape* const tape : {static_cast<Tape*>(&none), &any}) {
+        insert(tape);
         standins::glRecorder().start();
         game.frame();
-        EXPECT_EQ(standins::glRecorder().callsTo("glVertex3f").empty(), !shown);
+        EXPECT_EQ(standins::glRecorder().callsTo("glVertex3f").empty(), tape == &none);
     }
     standins::glRecorder().stop();
     insert(nullptr);
+}
+
+TEST(StageTest, HasTheColoursAndPointsOfTheGame) {
+    const headless::Sandbox sandbox(KOV_SOURCE_DIR);
+    replay::Setup setup;
+    setup.colours = {{"Line Colour", {0.5, 0.25, 1.0, 0.1F}}};
+    setup.points = {{"a", {0.1, -2.0, 1e9}}};
+    const Stage stage(KOV_SOURCE_DIR, setup);
+    EXPECT_EQ(contentsOf("data/Colour.kov"), "Line Colour,0.5 0.25 1 0.100000001\n");
+    EXPECT_EQ(contentsOf("data/Point.kov"), "a,0.10000000000000001#-2#1000000000#0\n");
+    EXPECT_EQ(Shipped(".").points.size(), 1U);
 }
 
 TEST(Comparison, NamesTheFirstObjectThatDiffers) {
