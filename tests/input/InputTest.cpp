@@ -227,11 +227,12 @@ TEST_F(InputTest, KnowsTheWordsOfKeysAndButtons) {
 }
 
 TEST_F(InputTest, BindsByFile) {
-    EXPECT_EQ(bind("Unknown\x1b[2J Action, P\nUp, joy1\nDown, x, y\nLeft, JOY99\n"),
+    EXPECT_EQ(bind("Unknown\x1b[2J Action, P\nUp, joy1\nDown, x, y\nLeft, JOY99\nRight, a, b, c\n"),
               "Couldn't find key: Unknown\\x1b[2J Action\nKey not found: JOY1\n");
     EXPECT_EQ(keys.getButton("Up", 0)->key, unknown_key);
     EXPECT_EQ(keys.getButton("Down", 0)->key, SDLK_y) << "the second word is in force";
     EXPECT_EQ(keys.getButton("Left", 0)->jsButton, no_button);
+    EXPECT_EQ(keys.getButton("Right", 0)->key, SDLK_RIGHT) << "four fields are none";
 }
 
 TEST_F(InputTest, EachKeyAndButtonDoesItsOwnAloneByDefaultAndByTheShippedFile) {
