@@ -10,7 +10,6 @@
 #include "tests/support/Files.h"
 #include "tests/support/Settings.h"
 
-#include <cstdio>
 #include <map>
 #include <sstream>
 
