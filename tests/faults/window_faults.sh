@@ -41,13 +41,10 @@ $refused" env -u DISPLAY SDL_VIDEODRIVER=dummy "$game"
 expect "no GL driver" 255 "No window with OpenGL can be opened. Is its driver installed?" \
     env GALLIUM_DRIVER=none "$game"
 signal=HUP expect "asleep between ticks" 0 "" "$game" -u
-expect "no sound card" 0 "" env ALSOFT_DRIVERS=alsa "$game"
 
 icon=$folder/data/kov.ico
 rm "$icon" && expect "no icon" 0 "" "$game"
-touch "$icon" && expect "empty icon" 0 "" "$game"
-rm "$icon" && mkdir "$icon" && expect "a folder for an icon" 0 "" "$game"
-rmdir "$icon" && mkfifo "$icon" && expect "a pipe for an icon" 0 "" "$game"
+mkfifo "$icon" && expect "a pipe for an icon" 0 "" "$game"
 rm "$icon" && head -c 4000 "$game" >"$icon" && expect "no image for an icon" 0 "" "$game"
 head -c 300 "$sources/data/kov.ico" >"$icon" && expect "half an icon" 0 "" "$game"
 

@@ -3,13 +3,13 @@
 #include "Framework/input/Joystick.h"
 #include "Framework/input/KeyMapper.h"
 #include "Framework/input/MenuInputHandler.h"
+#include "game/Actions.h"
 #include "headless/HeadlessGame.h"
 #include "platform/standins/VirtualSDL.h"
 #include "tests/support/Errors.h"
 #include "tests/support/Files.h"
 #include "tests/support/Settings.h"
 
-#include <cstdio>
 #include <map>
 #include <sstream>
 
@@ -60,17 +60,7 @@ protected:
     void SetUp() override {
         sdl().events.clear();
         keys.keys.clear();
-        const struct {
-            const char* action;
-            int key, button;
-        } actions[] = {{"Menu Select", SDLK_RETURN, 2},   {"Menu Escape", SDLK_ESCAPE, 8},
-                       {"Game Pause", SDLK_p, no_button}, {"Up", SDLK_UP, no_button},
-                       {"Down", SDLK_DOWN, no_button},    {"Left", SDLK_LEFT, no_button},
-                       {"Right", SDLK_RIGHT, no_button},  {"Fire Up", SDLK_w, 3},
-                       {"Fire Right", SDLK_d, no_button}};
-        for (const auto& a : actions)
-            keys.addMappableKey(a.action, static_cast<QuorvaKey>(a.key),
-                                static_cast<QuorvaJKey>(a.button), 0);
+        EXPECT_EQ(errorsOf(&mapActions), "Can't read bind1.conf\n");
         JoystickClass& joystick = Joystick::Instance();
         joystick.joysticks.clear();
         sdl().axes = {};
@@ -124,30 +114,14 @@ TEST_F(InputTest, NewestOfTwoOppositeKeysWinsAndFallsBack) {
     }
 }
 
-TEST_F(InputTest, FiresOnceAPressWhileTheMoveStays) {
+TEST_F(InputTest, OneKeyMayDoTwoThingsOnceEachAndAClosedWindowLeavesTheRest) {
     InputHandler handler;
-    pushKey(SDLK_RIGHT, true);
-    pushKey(SDLK_w, true);
-    pushKey(SDLK_p, true);
-    pushButton(3, true);
-    pushButton(3, false);
-    pushButton(4, true); // bound to nothing
-    EXPECT_EQ(play(handler), "1,0; 1,0 fire 0,1; 1,0 pause; 1,0 fire 0,1; ");
-    keys.keys[7]->key = SDLK_UP; // one key for two actions
+    keys.keys[7]->key = SDLK_UP; // to fire up, too
     pushKey(SDLK_UP, true);
-    EXPECT_EQ(play(handler), "1,1 fire 0,1; ");
-    pushKey(SDLK_ESCAPE, true);
-    pushButton(8, true);
-    EXPECT_EQ(play(handler), "EndLevel; EndLevel; ");
-}
-
-TEST_F(InputTest, AClosedWindowLeavesTheRestOfTheQueue) {
-    InputHandler handler;
-    handler.dirty[0] = true;
     standins::pushQuit();
     pushKey(SDLK_RIGHT, true);
-    EXPECT_EQ(play(handler), "EndGame; ");
-    EXPECT_EQ(play(handler), "1,0; ");
+    EXPECT_EQ(play(handler), "0,1 fire 0,1; EndGame; ");
+    EXPECT_EQ(play(handler), "1,1; ") << "the rest of the queue, and no second shot";
 }
 
 TEST_F(InputTest, AxesCountBeyondTheirThresholdUnalike) {
@@ -171,28 +145,21 @@ TEST_F(InputTest, AxesCountBeyondTheirThresholdUnalike) {
 TEST_F(InputTest, EachPlayersAxesAreSetByTheirOwnFunctions) {
     using H = InputHandler;
     H handler;
-    const messages::PlayerInput& input = handler.playerInputs[3];
-    const struct {
-        void (H::*down)(unsigned short, short);
-        void (H::*up)(unsigned short);
-        const double& axis;
-        const char* held; ///< from here on, as only keys clear it
-    } cases[] = {{&H::xDown2, &H::xUp2, input.fire.x, ""},
-                 {&H::yDown2, &H::yUp2, input.fire.y, ""},
-                 {&H::xDown, &H::xUp, input.move.x, " right left"},
-                 {&H::yDown, &H::yUp, input.move.y, " right left up down"}};
-    for (const auto& c : cases) {
-        for (const short value : {32767, -32767}) {
-            (handler.*c.down)(3, value);
-            EXPECT_EQ(c.axis, value / 32767);
-        }
-        EXPECT_EQ(heldBy(handler), c.held);
-        EXPECT_EQ(handler.dirty, (boost::array<bool, 4>{{false, false, false, true}}));
-        (handler.*c.up)(3);
-        EXPECT_EQ(c.axis, 0.0);
-        EXPECT_DEATH((handler.*c.down)(4, 1), "No such player: 4");
-        EXPECT_DEATH((handler.*c.up)(4), "No such player: 4");
+    handler.xDown(3, 32767);
+    handler.yDown(3, -32767);
+    handler.xDown2(3, -32767);
+    handler.yDown2(3, 32767);
+    publish(handler.playerInputs[3]);
+    EXPECT_EQ(recorder.take(), "1,-1 fire -1,1; ");
+    EXPECT_EQ(heldBy(handler), " right down");
+    handler.xDown(3, -1);
+    handler.yDown(3, 1);
+    EXPECT_EQ(heldBy(handler), " right left up down") << "only keys clear it";
+    for (const auto up : {&H::xUp, &H::yUp, &H::xUp2, &H::yUp2}) {
+        (handler.*up)(3);
+        publish(handler.playerInputs[3]);
     }
+    EXPECT_EQ(recorder.take(), "0,3.05185e-05 fire -1,1; 0,0 fire -1,1; 0,0 fire 0,1; 0,0; ");
 }
 
 TEST_F(InputTest, MenusTakeAnyKeyForButtonOneAndLittleOfAReleasedOne) {
@@ -229,20 +196,15 @@ TEST_F(InputTest, MenusStepByTheStickWithADelayUpAndDownAlone) {
 
 TEST_F(InputTest, KnowsTheWordsOfKeysAndButtons) {
     for (const auto& [word, key] : {std::pair{"ENTER", SDLK_RETURN},
-                                    {"return", SDLK_RETURN},
                                     {"0", SDLK_0},
-                                    {";", SDLK_SEMICOLON},
+                                    {"z", SDLK_z},
                                     {"NUM0", SDLK_KP0},
-                                    {"NUM.", SDLK_KP_PERIOD},
                                     {"num=", SDLK_KP_EQUALS},
-                                    {"UP", SDLK_UP},
                                     {"PAGEDOWN", SDLK_PAGEDOWN},
                                     {"F1", SDLK_F1},
                                     {"LMETA", SDLK_LMETA},
                                     {"RWINDOWS", SDLK_RSUPER}})
         EXPECT_EQ(keyFromWord(word), key) << word;
-    for (char c = 'a'; c <= 'z'; ++c)
-        EXPECT_EQ(keyFromWord({c}), c);
     std::size_t known = 0;
     for (QuorvaKey key = 0; key <= unknown_key; ++key) {
         const std::string word = wordFromKey(key);
@@ -251,40 +213,25 @@ TEST_F(InputTest, KnowsTheWordsOfKeysAndButtons) {
         EXPECT_EQ(keyFromWord(word), key) << word;
     }
     EXPECT_EQ(known, 5 + 10 + 1 + 26 + 27 + 10U);
-    EXPECT_EQ(wordFromKey(SDLK_RETURN), "RETURN");
-    for (const auto& [word, told] : {std::pair{"f2", "F2"},
-                                     {"\x7f\xc3\xa4", "\\x7f\xc3\xa4"},
-                                     {"JOY", "JOY"},
-                                     {":", ":"},
-                                     {"[", "["},
-                                     {"@", "@"},
-                                     {"/", "/"}})
-        EXPECT_EQ(errorsOf([word = word] { EXPECT_EQ(keyFromWord(word), 323) << word; }),
-                  std::string("Key not found: ") + told + "\n");
+    EXPECT_EQ(wordFromKey(SDLK_RETURN), "RETURN") << "not ENTER";
+    for (const std::string word : {"F2", "JOY", ":", "[", "@", "/"})
+        EXPECT_EQ(errorsOf([&] { EXPECT_EQ(keyFromWord(word), unknown_key) << word; }),
+                  "Key not found: " + word + "\n");
     for (int button = 0; button < 16; ++button)
         EXPECT_EQ(jsbuttonFromWord(wordFromJsbutton(static_cast<QuorvaJKey>(button))), button);
     EXPECT_EQ(wordFromJsbutton(15), "JOY16");
     EXPECT_EQ(wordFromJsbutton(16), "");
     for (const char* word : {"JOY0", "JOY17", "joy1", "JOY"})
         EXPECT_EQ(jsbuttonFromWord(word), no_button) << word;
-    EXPECT_FALSE(keys.addMappableKey("Up", 1, 1, 0));
-    EXPECT_TRUE(keys.addMappableKey("Up", 1, 1, 1));
 }
 
 TEST_F(InputTest, BindsByFile) {
-    EXPECT_EQ(bind("# a comment\n\n  Fire Up ,, UP,JOY16 \nGame Pause, k\nGame Pause\nUp,a,b,c\n"),
-              "");
-    EXPECT_EQ(keys.getButton("Fire Up", 0)->key, SDLK_UP);
-    EXPECT_EQ(keys.getButton("Fire Up", 0)->jsButton, 15);
-    EXPECT_EQ(keys.getButton("Game Pause", 0)->key, SDLK_k);
-    EXPECT_EQ(keys.getButton("Up", 0)->key, SDLK_UP);
-    EXPECT_EQ(bind("Unknown\x1b[2J Action, P\nUp, joy1\nDown, x, y\nLeft, JOY99\n"),
+    EXPECT_EQ(bind("Unknown\x1b[2J Action, P\nUp, joy1\nDown, x, y\nLeft, JOY99\nRight, a, b, c\n"),
               "Couldn't find key: Unknown\\x1b[2J Action\nKey not found: JOY1\n");
     EXPECT_EQ(keys.getButton("Up", 0)->key, unknown_key);
     EXPECT_EQ(keys.getButton("Down", 0)->key, SDLK_y) << "the second word is in force";
     EXPECT_EQ(keys.getButton("Left", 0)->jsButton, no_button);
-    std::remove("bind1.conf");
-    EXPECT_EQ(errorsOf([&] { keys.readBindFiles(); }), "Can't read bind1.conf\n");
+    EXPECT_EQ(keys.getButton("Right", 0)->key, SDLK_RIGHT) << "four fields are none";
 }
 
 TEST_F(InputTest, EachKeyAndButtonDoesItsOwnAloneByDefaultAndByTheShippedFile) {
@@ -341,13 +288,11 @@ TEST_F(InputTest, JoysticksThatDoNotOpenAreLeftOut) {
     EXPECT_EQ(sticks.joysticks.size(), 2U);
     EXPECT_EQ(sticks.getXAxis() + sticks.getYAxis() + sticks.get2ndXAxis() + sticks.get2ndYAxis(),
               34);
-    testing::internal::CaptureStderr();
     sticks.changePlayer1ActiveJoystick(1);
     EXPECT_EQ(sticks.getXAxis(), 0);
-    sticks.changePlayer1ActiveJoystick(2);
-    EXPECT_EQ(sticks.getXAxis(), 7);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
+    EXPECT_EQ(errorsOf([&] { sticks.changePlayer1ActiveJoystick(2); }),
               "Joystick: 2 not found.  Activating joystick 0\n");
+    EXPECT_EQ(sticks.getXAxis(), 7);
     sdl().joysticks = 0;
     sdl().refusedJoystick = -1;
     EXPECT_FALSE(JoystickClass().joystickPresent());

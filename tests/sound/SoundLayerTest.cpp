@@ -9,20 +9,15 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <limits>
 #include <memory>
 #include <set>
 
 // What the layer plays is rendered into memory and looked at there.
 
-// The coder's library, which the game doesn't use, loses a table at each file of six channels.
-extern "C" const char* __lsan_default_suppressions() { // NOLINT: the sanitizer's name
-    return "leak:vorbis_encode_setup_init";
-}
-
 namespace {
 
 namespace fs = boost::filesystem;
+using platform::fmodex::Decoder;
 
 constexpr int rate = 44100;
 constexpr double pi = 3.141592653589793;
@@ -58,7 +53,7 @@ std::string resized(std::string file, const std::string& whole, const std::strin
 
 /// The left side of a file, -1 to 1.
 std::vector<double> samplesOf(const std::string& path) {
-    platform::fmodex::Decoder decoder;
+    Decoder decoder;
     EXPECT_EQ(decoder.open(path), FMOD_OK) << path;
     std::vector<std::int16_t> both;
     decoder.read(both, decoder.frames());
@@ -99,22 +94,11 @@ protected:
         fs::current_path(folder());
         platform::fmodex::useLoopback();
         ASSERT_EQ(FMOD_System_Create(&system), FMOD_OK);
-        const auto files = outputs();
         ASSERT_EQ(FMOD_System_Init(system, 40, 0, nullptr), FMOD_OK);
-        EXPECT_EQ(outputs(), files) << "what silences the libraries is closed again";
     }
     static void TearDownTestSuite() {
         fs::current_path("/");
         fs::remove_all(folder());
-    }
-    /// How many open files are standard error or nowhere. The libraries may keep others.
-    static std::ptrdiff_t outputs() {
-        const fs::path files = "/proc/self/fd";
-        return std::count_if(fs::directory_iterator(files), {}, [&files](const fs::path& file) {
-            boost::system::error_code closed; // the iterator's own, for example
-            const fs::path leadsTo = fs::read_symlink(file, closed);
-            return leadsTo == "/dev/null" || leadsTo == fs::read_symlink(files / "2");
-        });
     }
     static fs::path folder() {
         static const fs::path path = fs::temp_directory_path() / fs::unique_path("kov-sound-%%%%");
@@ -145,14 +129,6 @@ protected:
         FMOD_SOUND* sound = nullptr;
         FMOD_CHANNEL* channel;
     };
-    /// What opening a file for one of the two uses gives.
-    static FMOD_RESULT codeOf(decltype(FMOD_System_CreateSound) create, const char* path) {
-        FMOD_SOUND* sound = nullptr;
-        const FMOD_RESULT code = create(system, path, FMOD_MODE_STREAM, nullptr, &sound);
-        EXPECT_EQ(sound != nullptr, code == FMOD_OK) << path;
-        if (sound != nullptr) FMOD_Sound_Release(sound);
-        return code;
-    }
     /// The left side of what is heard in that time, frame by frame.
     static std::vector<std::int16_t> hear(double seconds, int updatesPerSecond = 100) {
         const int step = rate / (updatesPerSecond > 0 ? updatesPerSecond : 100);
@@ -191,6 +167,7 @@ TEST_F(SoundLayer, MixesEveryEffectAtTheLevelSet) {
     write("low.wav", wav, {500, 1});
     write("high.wav", wav, {2000, 1});
     const Playing low("low.wav", false), high("high.wav", false);
+    EXPECT_EQ(low.length(), 1000U);
     FMOD_Channel_SetVolume(low.channel, 0.25F);
     hear(0.1); // a change of level is eased in
     const auto heard = hear(0.5);
@@ -198,27 +175,31 @@ TEST_F(SoundLayer, MixesEveryEffectAtTheLevelSet) {
     EXPECT_GT(full, 0.2);
     EXPECT_NEAR(levelOf(heard, 500) / full, 0.25, 0.02);
     EXPECT_LT(levelOf(heard, 1250), 0.01);
-    for (const float volume : {-1.0F, std::numeric_limits<float>::quiet_NaN()}) {
-        FMOD_Channel_SetVolume(low.channel, volume);
-        hear(0.1);
-        EXPECT_LT(levelOf(hear(0.1), 500), 0.01);
-    }
 }
 
-TEST_F(SoundLayer, PlaysTheGamesEffectsWithoutAClick) {
+TEST_F(SoundLayer, PlaysTheGamesSongsAndItsEffectsWithoutAClick) {
     for (const fs::path& file : fs::directory_iterator(KOV_SOURCE_DIR "/Sounds")) {
         if (file.extension() != ".wav") continue;
         const std::string path = file.string(), name = file.stem().string();
         const auto samples = samplesOf(path);
         EXPECT_EQ(samples.front(), 0) << name;
         EXPECT_EQ(samples.back(), 0) << name;
-        EXPECT_LE(*std::max_element(samples.begin(), samples.end()), 0.89) << name << ": -1 dBFS";
+        const auto [least, most] = std::minmax_element(samples.begin(), samples.end());
+        EXPECT_GT(*most, 0.01) << name;
+        EXPECT_LE(std::max(-*least, *most), 0.89) << name << ": -1 dBFS";
         const bool frequent = name == "bullet" || name == "hit";
         EXPECT_TRUE(!frequent || samples.size() < 0.16 * rate) << name;
-        const Playing effect(path, false);
-        const auto heard = hear(0.1);
-        EXPECT_GT(*std::max_element(heard.begin(), heard.end()), 300) << name;
     }
+    std::set<std::string> endings;
+    for (const fs::path& path : fs::directory_iterator(KOV_SOURCE_DIR "/Songs")) {
+        if (path.extension() != ".mp3" && path.extension() != ".ogg") continue;
+        endings.insert(path.extension().string());
+        const Playing song(path.string());
+        EXPECT_GE(song.length(), 90000U) << path;
+        const auto heard = hear(2);
+        EXPECT_GT(*std::max_element(heard.begin(), heard.end()), 1000) << path;
+    }
+    EXPECT_EQ(endings.size(), 2U);
 }
 
 TEST_F(SoundLayer, CutsWhatIsTooLoudAndSilencesWhatIsNoNumber) {
@@ -230,19 +211,6 @@ TEST_F(SoundLayer, CutsWhatIsTooLoudAndSilencesWhatIsNoNumber) {
         EXPECT_EQ(*least, -heard);
         EXPECT_EQ(*most, heard);
     }
-}
-
-TEST_F(SoundLayer, StreamsTheGamesSongs) {
-    std::set<std::string> endings;
-    for (const fs::path& path : fs::directory_iterator(KOV_SOURCE_DIR "/Songs")) {
-        if (path.extension() != ".mp3" && path.extension() != ".ogg") continue;
-        endings.insert(path.extension().string());
-        const Playing song(path.string());
-        EXPECT_GE(song.length(), 90000U) << path;
-        const auto heard = hear(2);
-        EXPECT_GT(*std::max_element(heard.begin(), heard.end()), 1000) << path;
-    }
-    EXPECT_EQ(endings.size(), 2U);
 }
 
 TEST_F(SoundLayer, LetsTheOldestEffectGiveWayAndNeverTheSong) {
@@ -271,27 +239,23 @@ TEST_F(SoundLayer, LetsTheOldestEffectGiveWayAndNeverTheSong) {
 }
 
 TEST_F(SoundLayer, StreamsEveryKindWithItsLengthToTheEnd) {
-    const struct {
-        const char* path;
-        int format;
-    } kinds[] = {{"a.wav", wav}, {"a.ogg", ogg}, {"a.mp3", mp3}};
-    for (const auto& kind : kinds) {
-        write(kind.path, kind.format, {440, 3.3, 0.5, 2});
-        const Playing song(kind.path);
-        EXPECT_NEAR(song.length(), 3300, 50) << kind.path;
-        const auto heard = hear(3.2);
+    for (const auto& [path, format] : {std::pair{"a.wav", wav}, {"a.ogg", ogg}, {"a.mp3", mp3}}) {
+        write(path, format, {440, 3.3, 0.5, 2});
+        const Playing song(path);
+        EXPECT_NEAR(song.length(), 3300, 50) << path;
+        const auto heard = hear(3, 2); // the fewest frames a second without a gap
         for (int part = 0; part < 3; ++part) {
             const auto first = heard.begin() + part * rate;
             EXPECT_NEAR(levelOf({first + 4410, first + rate}, 440), 0.5, 0.05)
-                << kind.path << " second " << part;
+                << path << " second " << part;
         }
-        hear(0.3);
-        EXPECT_LT(levelOf(hear(0.2), 440), 0.01) << kind.path << " does not loop";
+        hear(0.5);
+        EXPECT_LT(levelOf(hear(0.2), 440), 0.01) << path << " does not loop";
         EXPECT_EQ(FMOD_Channel_SetPaused(song.channel, 1), FMOD_OK);
         for (int time = 0; time < 2; ++time) { // from its end, and while it plays
             play(song.sound);
             const auto anew = hear(3);
-            EXPECT_NEAR(levelOf({anew.begin() + 4410, anew.end()}, 440), 0.5, 0.05) << kind.path;
+            EXPECT_NEAR(levelOf({anew.begin() + 4410, anew.end()}, 440), 0.5, 0.05) << path;
         }
     }
 }
@@ -299,7 +263,9 @@ TEST_F(SoundLayer, StreamsEveryKindWithItsLengthToTheEnd) {
 TEST_F(SoundLayer, SurvivesAStallAndGoesOnWhereItStood) {
     write("long.wav", wav, {400, 7, 0.5, 1, 200}); // 400, 600, 800 Hz and so on
     const Playing song("long.wav");
-    hear(0.5);
+    hear(0.49);
+    FMOD_Channel_SetPaused(song.channel, 0); // it plays already, and isn't started anew
+    hear(0.01);
     const auto stalled = hear(1.0, no_updates);
     EXPECT_NEAR(levelOf(stalled, 400), 0.25, 0.02) << "half a second of each";
     EXPECT_NEAR(levelOf(stalled, 600), 0.25, 0.02);
@@ -310,15 +276,6 @@ TEST_F(SoundLayer, SurvivesAStallAndGoesOnWhereItStood) {
     EXPECT_LT(levelOf(after, 800), 0.02) << "nothing is heard twice";
     EXPECT_GT(levelOf(after, 1200), 0.15);
     EXPECT_NEAR(levelOf(later, 1200), 0.5, 0.02);
-}
-
-TEST_F(SoundLayer, HasNoGapAtTwoFramesASecond) {
-    write("slow.wav", wav, {400, 9});
-    const Playing song("slow.wav");
-    const auto heard = hear(8, 2);
-    for (auto tenth = heard.begin(); tenth < heard.end(); tenth += rate / 10)
-        EXPECT_NEAR(levelOf({tenth, tenth + rate / 10}, 400), 0.5, 0.05)
-            << "at frame " << tenth - heard.begin();
 }
 
 TEST_F(SoundLayer, AnUpdateEndsBeforeACostlyQueueIsFull) {
@@ -373,8 +330,7 @@ TEST_F(SoundLayer, KnowsTheOrderOfSpeakersInEachKindOfFile) {
 TEST_F(SoundLayer, PlaysWhateverAnyPlayerOpens) {
     write("one.wav", wav, {440, 1});
     write("one.mp3", mp3, {440, 1, 0.5, 2});
-    write("six.wav", wav, {440, 1, 0.5, 6});
-    write("six.ogg", ogg, {440, 1, 0.5, 6});
+    write("one.ogg", ogg, {440, 1});
     write("adpcm.wav", SF_FORMAT_WAV | SF_FORMAT_MS_ADPCM, {440, 1, 0.5, 2});
     write("odd.wav", SF_FORMAT_WAV | SF_FORMAT_PCM_24, {440, 0.9999});
     const std::string plain = contentsOf("one.wav"), packed = contentsOf("one.mp3");
@@ -388,11 +344,8 @@ TEST_F(SoundLayer, PlaysWhateverAnyPlayerOpens) {
     } cases[] = {
         {"zeros in front", zeros(40'000) + packed},
         {"junk in front", std::string(5000, '\x5a') + packed},
-        {"ID3 in front", id3 + packed},
-        {"APE in front", ape + packed},
-        {"both and zeros", ape + id3 + zeros(100) + packed},
-        {"sixteen ID3 before an Ogg", tags(15) + id3 + contentsOf("six.ogg")},
-        {"six channels", contentsOf("six.wav")},
+        {"APE, ID3 and zeros", ape + id3 + zeros(100) + packed},
+        {"sixteen ID3 before an Ogg", tags(15) + id3 + contentsOf("one.ogg")},
         {"sizes of 0", resized(plain, zeros(4), zeros(4))},
         {"sizes unknown", resized(plain, unknown, unknown)},
         {"MS-ADPCM, other bytes a second", contentsOf("adpcm.wav").replace(28, 4, "abc", 4)},
@@ -430,14 +383,6 @@ TEST_F(SoundLayer, APauseLosesAndRepeatsNothing) {
     for (std::size_t i = step; i < heard.size(); i += step)
         crossings += heard[i - step] < 0 && heard[i] >= 0;
     EXPECT_NEAR(crossings, 146, 1) << "a hundred a second";
-
-    write("louder.wav", wav, {300, 3, 0.1, 1, 0, 0.9});
-    const Playing effect("louder.wav", false);
-    EXPECT_EQ(effect.length(), 3000U);
-    hear(1.9);
-    FMOD_Channel_SetPaused(effect.channel, 0);
-    hear(0.2);
-    EXPECT_GT(levelOf(hear(0.5), 300), 0.5) << "it plays already, and isn't started anew";
 }
 
 TEST_F(SoundLayer, RefusesBadFilesWithACode) {
@@ -464,17 +409,15 @@ TEST_F(SoundLayer, RefusesBadFilesWithACode) {
         {"an MP3 behind too much", zeros(70'000) + contentsOf("good.mp3"), FMOD_ERR_FORMAT},
         {"whole", good, FMOD_OK},
     };
-    testing::internal::CaptureStderr();
     for (const auto& c : cases) {
         fill("bad.wav", c.content);
-        EXPECT_EQ(codeOf(FMOD_System_CreateSound, "bad.wav"), c.code) << c.what;
+        EXPECT_EQ(Decoder().open("bad.wav"), c.code) << c.what;
     }
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "telling is the caller's";
     for (const int format : {ogg, mp3}) {
         write("song", format, {440, 4, 0.5, 2});
         const std::string song = contentsOf("song");
         fill("half", song.substr(0, song.size() / 2));
-        EXPECT_EQ(codeOf(FMOD_System_CreateStream, "half"), FMOD_ERR_FILE_BAD) << format;
+        EXPECT_EQ(Decoder().open("half"), FMOD_ERR_FILE_BAD) << format;
     }
     fill("zeros.mp3", "");
     fs::resize_file("zeros.mp3", 2'000'000'000);
@@ -482,12 +425,8 @@ TEST_F(SoundLayer, RefusesBadFilesWithACode) {
     mkfifo("pipe.mp3", 0600);
     const auto start = std::chrono::steady_clock::now();
     for (const char* path : {"none.mp3", "folder.mp3", "pipe.mp3", "/dev/zero"})
-        EXPECT_EQ(codeOf(FMOD_System_CreateStream, path), FMOD_ERR_FILE_NOTFOUND) << path;
-    EXPECT_EQ(codeOf(FMOD_System_CreateStream, "zeros.mp3"), FMOD_ERR_FORMAT);
+        EXPECT_EQ(Decoder().open(path), FMOD_ERR_FILE_NOTFOUND) << path;
+    EXPECT_EQ(Decoder().open("zeros.mp3"), FMOD_ERR_FORMAT);
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
-
-    EXPECT_EQ(FMOD_System_Update(nullptr), FMOD_ERR_INVALID_PARAM);
     EXPECT_STREQ(FMOD_ErrorString(FMOD_ERR_FILE_NOTFOUND), "File not found.");
-    for (const int code : {-1, 74})
-        EXPECT_STREQ(FMOD_ErrorString(static_cast<FMOD_RESULT>(code)), "Unknown error.") << code;
 }
