@@ -11,9 +11,9 @@
 #include <boost/algorithm/string/erase.hpp>
 #include <boost/algorithm/string/predicate.hpp>
 #include <boost/filesystem.hpp>
+#include <boost/xpressive/xpressive_dynamic.hpp>
 #include <gtest/gtest.h>
 
-#include <regex>
 #include <set>
 
 using namespace quorva;
@@ -25,9 +25,10 @@ const std::string root = KOV_SOURCE_DIR "/";
 /// What a pattern's group matches in a file.
 std::set<std::string> matches(const std::string& file, const std::string& pattern) {
     const std::string text = contentsOf(file);
-    const std::regex regex(pattern);
+    const auto regex = boost::xpressive::sregex::compile(pattern);
     std::set<std::string> found;
-    for (std::sregex_iterator at(text.begin(), text.end(), regex), end; at != end; ++at)
+    for (boost::xpressive::sregex_iterator at(text.begin(), text.end(), regex), end; at != end;
+         ++at)
         found.insert((*at)[1]);
     return found;
 }
