@@ -87,8 +87,7 @@ std::vector<RankedGame> best(std::vector<RankedGame> games, std::size_t count) {
     std::stable_sort(games.begin(), games.end(), [](const RankedGame& a, const RankedGame& b) {
         return a.game.score != b.game.score ? a.game.score > b.game.score : a.date < b.date;
     });
-    if (games.size() > count)
-        games.erase(games.begin() + static_cast<std::ptrdiff_t>(count), games.end());
+    games.resize(std::min(games.size(), count));
     return games;
 }
 

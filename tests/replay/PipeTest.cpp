@@ -28,8 +28,9 @@ TEST(PipeTest, GivesAllToTheProgramAndKnowsHowItEnded) {
     const std::string much(3U << 20U, 'x'); // more than a pipe holds
     Pipe pipe({"sh", "-c", "sleep 0.1; cat >" + file.string()});
     EXPECT_TRUE(pipe.write(much.data(), much.size()));
+    EXPECT_TRUE(pipe.write("!", 1));
     EXPECT_TRUE(pipe.finish());
-    EXPECT_EQ(contentsOf(file.string()).size(), much.size());
+    EXPECT_TRUE(contentsOf(file.string()) == much + '!');
     fs::remove(file);
 
     Pipe deaf({"sh", "-c", "exec <&-; sleep 0.1; exit 3"});

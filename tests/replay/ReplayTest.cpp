@@ -464,6 +464,7 @@ TEST_F(Replay, ASongOfTheSameLengthIsHeard) {
         EXPECT_EQ(standins::sound().openStreams, 1U) << "those that were only measured are closed";
         const std::string calls = standins::sound().take();
         EXPECT_NE(calls.find(isHere ? "mine/a.ogg" : "silence.wav"), std::string::npos) << calls;
+        EXPECT_EQ(calls.find("b.ogg") != std::string::npos, isHere) << "measured once: " << calls;
     }
     standins::sound() = {};
     using namespace std::string_literals;

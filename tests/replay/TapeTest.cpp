@@ -91,14 +91,21 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
         glEnd();
     };
     FramePicture camera;
-    for (const float side : {2.0F, 1.0F}) { // the second one counts
+    const auto makeList = [&](float side) {
         glNewList(5, GL_COMPILE);
         shape(GL_TRIANGLES, {{0, 0}, {side, side}, {0, side}});
         glEndList();
-    }
+    };
+    makeList(2.0F);
     camera.skip();
     EXPECT_TRUE(glRecorder().calls.empty());
 
+    makeList(1.0F); // in its place
+    glPushMatrix();
+    glScalef(9.0F, 9.0F, 9.0F);
+    glPushMatrix();
+    glPopMatrix();
+    glPopMatrix();
     glColor4f(1.0F, 0.0F, 0.5F, 1.0F);
     glLineWidth(2.0F);
     glPushMatrix();

@@ -93,6 +93,7 @@ expect "version" 0 "KOV 1." --version
 # What takes a while says how far it is, on a terminal; a signal that is ignored doesn't end it; and
 # a game that is killed is kept up to nine seconds before.
 "$record" long.kovreplay --seed 8 --ticks 1200 --songs 4 --music 0 --idle 900 >/dev/null
+[ "$(stat -c %s long.kovreplay)" -lt 3000 ] || fail "a wait takes $(stat -c %s long.kovreplay)"
 SHELL=/bin/bash script -qec "'$replay' --data '$sources' verify long.kovreplay" /dev/null \
     >said </dev/null
 grep -q "[0-9] % " said && grep -q ": holds" said || fail "verify on a terminal: $(cat said)"
