@@ -98,12 +98,11 @@ protected:
     }
 
     /// Runs the game in a child process, as somebody whom file permissions bind.
-    static Outcome play(const std::function<void()>& prepare = {},
-                        const std::vector<std::string>& arguments = {}) {
+    static Outcome play(const std::function<void()>& prepare = {}) {
         int status = 0;
         const std::string errors = errorsOf([&] {
             const pid_t child = fork();
-            if (child == 0) runGame(prepare, arguments);
+            if (child == 0) runGame(prepare);
             waitpid(child, &status, 0);
         });
         return {errors, WIFEXITED(status) ? WEXITSTATUS(status) : -WTERMSIG(status)};
@@ -114,14 +113,13 @@ protected:
     const fs::path folder = fs::temp_directory_path() / fs::unique_path("kov-faults-%%%%%%%%");
 
 private:
-    [[noreturn]] static void runGame(const std::function<void()>& prepare,
-                                     const std::vector<std::string>& arguments) {
+    [[noreturn]] static void runGame(const std::function<void()>& prepare) {
         setenv("ALSOFT_DRIVERS", "null", 0);
         alarm(patience);
         if (prepare) prepare();
         leaveRoot();
         sdl().onSwap = turnPage;
-        const int code = quorva::headless::runGameMain(arguments);
+        const int code = quorva::headless::runGameMain({});
         if (sdl().quits != 1) std::cerr << "SDL_Quit: " << sdl().quits << '\n';
         std::exit(code == 0 && passes - lastPass > 1 ? stopped_elsewhere : code);
     }
@@ -260,11 +258,6 @@ TEST_F(Faults, WhatCannotBeWrittenIsPassedOverAndLosesNothing) {
     fs::permissions(".", fs::owner_all);
 }
 
-TEST_F(Faults, WithoutAGameTooTheTerminalIsGivenBack) {
-    const std::string usage = "Usage: kov [OPTION]...\nTry `kov --help` for more information.\n";
-    EXPECT_EQ(play({}, {"--nonsense", "-f", "-q"}), Outcome(usage + usage, stopped_elsewhere));
-}
-
 TEST_F(Faults, OfTheMachineAndSignals) {
     const std::string refused = "Couldn't set the video mode: no such mode\n";
     const struct {
@@ -285,7 +278,6 @@ TEST_F(Faults, OfTheMachineAndSignals) {
         {"the mode is refused", [] { sdl().refusedModes = 1; }, {refused, 0}},
         {"so is the other", [] { sdl().refusedModes = 2; }, {refused + refused, 255}},
     };
-    for (const auto& c : cases) {
+    for (const auto& c : cases)
         EXPECT_EQ(play(c.prepare), c.outcome) << c.what;
-    }
 }

@@ -151,15 +151,11 @@ TEST_F(InputTest, EachPlayersAxesAreSetByTheirOwnFunctions) {
     handler.yDown2(3, 32767);
     publish(handler.playerInputs[3]);
     EXPECT_EQ(recorder.take(), "1,-1 fire -1,1; ");
-    EXPECT_EQ(heldBy(handler), " right down");
-    handler.xDown(3, -1);
-    handler.yDown(3, 1);
-    EXPECT_EQ(heldBy(handler), " right left up down") << "only keys clear it";
-    for (const auto up : {&H::xUp, &H::yUp, &H::xUp2, &H::yUp2}) {
+    for (const auto up : {&H::xUp, &H::yUp, &H::xUp2, &H::yUp2})
         (handler.*up)(3);
-        publish(handler.playerInputs[3]);
-    }
-    EXPECT_EQ(recorder.take(), "0,3.05185e-05 fire -1,1; 0,0 fire -1,1; 0,0 fire 0,1; 0,0; ");
+    publish(handler.playerInputs[3]);
+    EXPECT_EQ(recorder.take(), "0,0; ");
+    EXPECT_EQ(heldBy(handler), " right down") << "only keys clear it";
 }
 
 TEST_F(InputTest, MenusTakeAnyKeyForButtonOneAndLittleOfAReleasedOne) {

@@ -418,17 +418,11 @@ TEST_F(Replay, WhatCouldNotBeReadIsNotKept) {
 
 TEST_F(Replay, ARecorderLetsNoClockRunBack) {
     Recorder recorder("clock");
-    const struct {
-        std::uint32_t time, known; ///< ms
-    } readings[] = {{4294967000U, 4294967000U},
-                    {4294967000U, 4294967000U},
-                    {4294966000U, 4294967000U},
-                    {4U, 4U},
-                    {3U, 4U},
-                    {5U, 5U}};
-    for (const auto& reading : readings) {
-        standins::sdl().ticks = reading.time;
-        EXPECT_EQ(recorder.clock(), reading.known);
+    using Reading = std::pair<std::uint32_t, std::uint32_t>; // of the system, and as it is known
+    for (const auto& [time, known] :
+         {Reading{4294967000U, 4294967000U}, {4294966000U, 4294967000U}, {4, 4}, {3, 4}, {5, 5}}) {
+        standins::sdl().ticks = time;
+        EXPECT_EQ(recorder.clock(), known);
     }
     standins::sdl() = {};
 }
