@@ -73,7 +73,6 @@ std::optional<Report> Proofs::of(const fs::path& file) {
 }
 
 void Proofs::forgetOthers() {
-    if (kept.empty()) return;
     boost::system::error_code ignored;
     std::vector<fs::path> others;
     for (const fs::directory_entry& entry : fs::directory_iterator(kept, ignored))

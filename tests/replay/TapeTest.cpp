@@ -101,6 +101,12 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     EXPECT_TRUE(glRecorder().calls.empty());
 
     makeList(1.0F); // in its place
+    glScalef(9.0F, 9.0F, 9.0F);
+    glMatrixMode(GL_PROJECTION);
+    glLoadIdentity();
+    glOrtho(-20.0, 20.0, -14.0, 16.0, -1.0, 1.0); // a unit higher than the field
+    glMatrixMode(GL_MODELVIEW);
+    glLoadIdentity();
     glPushMatrix();
     glScalef(9.0F, 9.0F, 9.0F);
     glPushMatrix();
@@ -129,15 +135,15 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     shape(GL_LINE_LOOP, {{0, 0}, {0, -1}});
     const std::string picture = camera.take(800, 600);
     EXPECT_EQ(picture.find("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 800 600'>"), 0U);
-    const std::string square = "M380.0 300.0L380.0 280.0L400.0 280.0L400.0 300.0Z";
+    const std::string square = "M380.0 320.0L380.0 300.0L400.0 300.0L400.0 320.0Z";
     const std::string half = "fill='#ffffff' opacity='0.5'/>";
     EXPECT_EQ(picture.substr(picture.find("<path")),
-              "<path d='M560.0 200.0L640.0 200.0M600.0 300.0L600.0 280.0' fill='none' "
-              "stroke='#ff0080' stroke-width='2'/><path d='M480.0 290.0L500.0 280.0L520.0 270.0' "
+              "<path d='M560.0 220.0L640.0 220.0M600.0 320.0L600.0 300.0' fill='none' "
+              "stroke='#ff0080' stroke-width='2'/><path d='M480.0 310.0L500.0 300.0L520.0 290.0' "
               "fill='none' stroke='#ff0080' stroke-width='2'/><path d='" +
                   square + square + "' " + half +
-                  "<path d='M380.0 300.0L380.0 280.0L400.0 300.0Z' " + half +
-                  "<path d='M400.0 300.0L420.0 300.0Z' fill='none' stroke='#ffffff' "
+                  "<path d='M380.0 320.0L380.0 300.0L400.0 320.0Z' " + half +
+                  "<path d='M400.0 320.0L420.0 320.0Z' fill='none' stroke='#ffffff' "
                   "stroke-width='2' opacity='0.5'/></g></svg>");
     EXPECT_TRUE(glRecorder().calls.empty());
 }
