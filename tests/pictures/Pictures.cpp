@@ -1,5 +1,6 @@
 #include "tests/pictures/Pictures.h"
 
+#include "Framework/Engine.h"
 #include "Framework/Managers/FontManager.h"
 
 #include <FTGL/ftgl.h>
@@ -113,7 +114,7 @@ void expectPicture(const std::string& state, const std::string& calls, const std
                   << "\nIf that is meant: tools/renew_pictures.sh";
 }
 
-std::string frameOf(headless::HeadlessGame& run) {
+std::string nextFrame() {
     const NotedFonts noted;
-    return callsOf([&run] { run.frame(); });
+    return callsOf([] { Engine::Instance().update(); });
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "headless/HeadlessGame.h"
 #include "platform/standins/GLRecorder.h"
 
 #include <string>
@@ -25,6 +24,6 @@ std::string callsOf(const Action& act) {
     return recorder.text();
 }
 
-/// What the game's next frame sends. A word is one line: its text, and the file, mode and size of
+/// What the next frame sends. A word is one line: its text, and the file, mode and size of
 /// its font; what the font library makes of it is left out.
-std::string frameOf(quorva::headless::HeadlessGame& run);
+std::string nextFrame();

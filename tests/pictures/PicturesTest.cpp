@@ -59,25 +59,24 @@ TEST(Pictures, OfAVideoModeAsItIsSetUp) {
 TEST(Pictures, OfTheMenus) {
     HeadlessGame run(100);
     for (const char* item : {"start", "configuration", "help", "about", "exit"}) {
-        expectPicture(std::string("menu-") + item, frameOf(run), "menu-start");
+        expectPicture(std::string("menu-") + item, nextFrame(), "menu-start");
         press(run, {SDLK_DOWN}, 2);
     }
     press(run, {SDLK_DOWN, SDLK_DOWN, SDLK_RETURN}, 2);
-    expectPicture("help", frameOf(run));
+    expectPicture("help", nextFrame());
     press(run, {SDLK_RETURN, SDLK_DOWN, SDLK_DOWN, SDLK_DOWN, SDLK_RETURN}, 2);
-    expectPicture("about", frameOf(run));
+    expectPicture("about", nextFrame());
     press(run, {SDLK_RETURN}, 2);
-    expectPicture("menu-start", frameOf(run)); // it is back as it was
+    expectPicture("menu-start", nextFrame()); // it is back as it was
     press(run, {SDLK_DOWN, SDLK_RETURN}, 2);
     for (const char* row : {"resolution", "fullscreen", "music-volume", "fx-volume",
                             "collision-accuracy", "save-cpu", "save", "cancel"}) {
-        expectPicture(std::string("configuration-") + row, frameOf(run),
-                      "configuration-resolution");
+        expectPicture(std::string("configuration-") + row, nextFrame(), "configuration-resolution");
         press(run, {SDLK_DOWN}, 2);
     }
-    expectPicture("configuration-resolution", frameOf(run)); // no other row is lit any more
+    expectPicture("configuration-resolution", nextFrame()); // no other row is lit any more
     press(run, {SDLK_ESCAPE}, 2);
-    expectPicture("menu-start", frameOf(run));
+    expectPicture("menu-start", nextFrame());
 }
 
 TEST(Pictures, OfAMenuAndALevelOnScreensOfEachShape) {
@@ -86,33 +85,33 @@ TEST(Pictures, OfAMenuAndALevelOnScreensOfEachShape) {
          {Size{800, 600}, {1280, 800}, {1920, 1080}, {1024, 1024}, {768, 1024}}) {
         HeadlessGame run(100, width, height);
         const std::string size = std::to_string(width) + "x" + std::to_string(height);
-        expectPicture("menu-" + size, frameOf(run), "menu-start");
+        expectPicture("menu-" + size, nextFrame(), "menu-start");
         run.startLevel();
         run.process();
-        expectPicture("level-" + size, frameOf(run), "level-800x600");
+        expectPicture("level-" + size, nextFrame(), "level-800x600");
     }
 }
 
 TEST_F(PicturesOfAField, PausedAndTaken) {
-    expectPicture("field", frameOf(run));
+    expectPicture("field", nextFrame());
     run.press(SDLK_p);
     run.frame();
-    expectPicture("pause", frameOf(run), "field");
+    expectPicture("pause", nextFrame(), "field");
     run.press(SDLK_p);
     run.frame();
     newest<PupLine>()->dead = newest<PupCooldown>()->dead = true;
     run.ticks(5);
-    expectPicture("field-rays-spin", frameOf(run), "field");
+    expectPicture("field-rays-spin", nextFrame(), "field");
 }
 
 TEST_F(PicturesOfAField, ThroughADeath) {
     publish(PlayerDead());
     run.ticks(10);
-    expectPicture("death", frameOf(run));
+    expectPicture("death", nextFrame());
     run.ticks(55);
-    expectPicture("death-arrows-return", frameOf(run));
+    expectPicture("death-arrows-return", nextFrame());
     run.ticks(60);
-    expectPicture("next-life", frameOf(run));
+    expectPicture("next-life", nextFrame());
 }
 
 TEST(Pictures, OfEachVerdict) {
@@ -126,7 +125,7 @@ TEST(Pictures, OfEachVerdict) {
         publish(last);
         publish(messages::EndLevel());
         run.process();
-        return frameOf(run);
+        return nextFrame();
     };
     for (const std::uint32_t score :
          {49999U, 50000U, 124999U, 125000U, 249999U, 250000U, 750000U, 750001U})
