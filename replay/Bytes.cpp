@@ -91,9 +91,7 @@ double ByteReader::real() {
 }
 
 std::string ByteReader::text(std::size_t longest) {
-    const std::uint64_t length = number(longest);
-    if (length > left()) damaged();
-    std::string value(length, ' ');
+    std::string value(number(longest), ' ');
     for (char& c : value)
         c = static_cast<char>(byte());
     if (!std::all_of(value.begin(), value.end(), isPrintable)) damaged();

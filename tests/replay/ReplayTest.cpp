@@ -7,6 +7,7 @@
 #include "platform/standins/SoundRecorder.h"
 #include "replay/Blocks.h"
 #include "replay/Recorder.h"
+#include "replay/Report.h"
 #include "replay/Script.h"
 #include "replay/Snapshot.h"
 #include "replay/Stage.h"
@@ -500,6 +501,22 @@ TEST_F(Replay, SettingsAreThoseOfEachGame) {
     const Outcome edited_ = verify(edited("changed", refine));
     EXPECT_EQ(edited_.code, 1);
     EXPECT_NE(edited_.text.find("the settings"), std::string::npos) << edited_.text;
+}
+
+TEST_F(Replay, AReportTellsOfEachGame) {
+    ASSERT_EQ(run(KOV_VERIFY " --report report " + other + " " KOV_SOURCE_DIR).code, 0);
+    ByteReader in(contentsOf("report"));
+    const Report report = Report::read(in);
+    EXPECT_EQ(report.date, Summary(other).setup.date);
+    EXPECT_EQ(report.verdict, "");
+    ASSERT_EQ(report.games.size(), 1U);
+    const Report::Game& game = report.games[0];
+    EXPECT_EQ(game.score, 13391U);
+    EXPECT_EQ(game.begin, 30U);
+    EXPECT_EQ(game.length, 149970U);
+    ASSERT_EQ(game.curve.size(), 5U);
+    EXPECT_EQ(game.curve.back().second, game.score);
+    EXPECT_NE(game.picture.find("<path"), std::string::npos);
 }
 
 TEST(Frames, StayEmptyWhileTheTapeShowsNone) {

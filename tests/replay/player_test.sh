@@ -139,7 +139,7 @@ press Escape
 ends "watch the game that comes with it" 0 ""
 "$record" night.kovreplay --seed 5 --ticks 300 --wait 30000 >/dev/null
 start watch night.kovreplay --from 0:04
-soon "a pause of a night" "0:0[45] / 500:"
+soon "a pause of a night" "0:0[45] / 500:.*x1$"
 press Escape
 ends "watch, Escape in a pause of a night" 0 ""
 
