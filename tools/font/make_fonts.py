@@ -6,6 +6,7 @@ weight. Bearings and advances put the stems where they get one width in pixels, 
 headings so does the kerning. Needs python3-fonttools and python3-shapely; the same bytes each
 time."""
 
+import itertools
 import math
 import os
 import sys
@@ -28,6 +29,7 @@ MITRE_LIMIT = 1.5  # of half a stroke: corners of 90 degrees stay sharp
 # The game's renderer looks up the kerning of the glyphs before this one when the face has no size
 # yet, and gets none.
 FIRST_KERNED = 128
+TOLD_APART = 12 * (GRID / 20) ** 2  # two digits differ in 12 pixels at least, of 20 to the em
 EPOCH = 3786825600  # seconds from 1904 to 2024: a fixed date
 COPYRIGHT = "Made for KOV. CC0 1.0: no rights reserved."
 
@@ -84,13 +86,24 @@ def extend(pen, x):
     pen.closePath()
 
 
+def shape_of(character, style):
+    return unary_union([stroke(polyline, style) for polyline in style.strokes[character]])
+
+
+def require_told_apart(style):
+    """Ends the program if two digits look too much alike in the display of a small screen."""
+    for a, b in itertools.combinations(DIGITS, 2):
+        if shape_of(a, style).symmetric_difference(shape_of(b, style)).area < TOLD_APART:
+            sys.exit(f"{style.name}: {a} and {b} look too much alike")
+
+
 def draw(character, style):
     """The glyph and its advance in font units."""
     pen = TTGlyphPen(None)
     left = style.lefts.get(character, style.left)
     advance = left + style.right
     if style.strokes[character]:
-        shape = unary_union([stroke(polyline, style) for polyline in style.strokes[character]])
+        shape = shape_of(character, style)
         advance += shape.bounds[2]
         for ring in contours(shape):
             placed = [(on_grid(x + left), on_grid(y)) for x, y in ring.coords[:-1]]
@@ -116,6 +129,7 @@ def kerning_table(pairs, names):
 
 
 def make(style, folder):
+    require_told_apart(style)
     characters = sorted(style.strokes)
     names = {ord(c): f"uni{ord(c):04X}" for c in characters}
     drawn = {".notdef": draw(" ", style)}
