@@ -69,6 +69,22 @@ press a s && sleep 1
 press Escape && sleep 0.5 && press Up Return
 ends "record" 0 "kept in $folder/one.kovreplay"
 
+# The game's own keeping: with a score in the name, among the latest twenty; nothing without a game.
+mkdir auto
+for i in $(seq 10 40); do : >"auto/2020-01-01 00.00.$i 5 auto.kovreplay"; done
+start --replays auto record --auto -- --NoPlayMusic
+sleep 1
+press Return && sleep 0.5
+press w Escape && sleep 0.5 && press Up Return
+ends "keeping by itself" 0 ""
+grep -q "kept in" said && fail "keeping by itself: $(cat said)"
+[ "$(find auto -name '*.kovreplay' -size +0 | grep -c ' 0 auto')" = 1 ] || fail "kept: $(ls auto)"
+[ "$(find auto -type f | wc -l)" = 20 ] || fail "kept: $(ls auto)"
+start --replays none record --auto
+"$close" "$(window)"
+ends "nothing to keep" 0 ""
+[ ! -e none ] || fail "nothing to keep, and yet: $(ls none)"
+
 expect "show" 0 "4 shots, 0 of them a side" show one.kovreplay
 grep -q "1 pause of 0:0[0-2]" said || fail "show tells no pause: $(cat said)"
 grep -q "ScreenWidth=800" said || fail "show tells no settings: $(cat said)"
@@ -79,6 +95,14 @@ expect "best of the kept ones" 0 "one.kovreplay, at 0:" --replays . best
 [ "$(grep -c '<article>' page/index.html)" = 1 ] || fail "best: the page"
 cmp -s one.kovreplay page/one.kovreplay || fail "best: the file to download"
 head -c $(($(stat -c %s one.kovreplay) - 9)) one.kovreplay >cut.kovreplay
+cp one.kovreplay longer.kovreplay && echo >>longer.kovreplay
+expect "watching a damaged one" 2 "the file is damaged" watch longer.kovreplay --speed 64
+for wrong in "" nonsense verify "watch a b" "film a" "show a b" "best a b"; do
+    # shellcheck disable=SC2086 # words
+    expect "usage: $wrong" 2 "usage: kov-replay record" $wrong
+done
+expect "best of nowhere" 2 "no such folder" best nowhere
+expect "best of none" 0 "no games are kept in" best tmp
 expect "no file" 2 "none that can be read" verify nothing.kovreplay
 expect "several files, one cut off" 0 "holds, but is cut off" verify cut.kovreplay one.kovreplay
 "$record" pauses.kovreplay --seed 6 --ticks 4200 --pages 1 >/dev/null # six of them
