@@ -19,9 +19,16 @@ namespace {
 
 constexpr int pipe_size = 1 << 20; // bytes; the system may give less
 
+sigset_t heldSignals() {
+    sigset_t held;
+    pthread_sigmask(SIG_BLOCK, nullptr, &held);
+    return held;
+}
+
 /// @param input becomes its standard input
+/// @param held the signals that it holds back
 /// @return an error number, 0 for success
-int start(const std::vector<std::string>& words, int input, pid_t& process) {
+int start(const std::vector<std::string>& words, int input, const sigset_t& held, pid_t& process) {
     std::vector<char*> arguments;
     arguments.reserve(words.size() + 1);
     for (const std::string& word : words)
@@ -30,11 +37,9 @@ int start(const std::vector<std::string>& words, int input, pid_t& process) {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     posix_spawn_file_actions_adddup2(&actions, input, STDIN_FILENO);
-    sigset_t mask; // empty: signals that this program holds back reach the other one
-    sigemptyset(&mask);
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
-    posix_spawnattr_setsigmask(&attributes, &mask);
+    posix_spawnattr_setsigmask(&attributes, &held);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
     const int error =
         posix_spawnp(&process, arguments[0], &actions, &attributes, arguments.data(), environ);
@@ -56,7 +61,7 @@ Pipe::Pipe(const std::vector<std::string>& words) {
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error(std::strerror(errno));
     fcntl(ends[1], F_SETPIPE_SZ, pipe_size);
-    const int error = start(words, ends[0], process);
+    const int error = start(words, ends[0], heldSignals(), process);
     close(ends[0]);
     end = ends[1];
     if (error == 0) return;
@@ -89,12 +94,11 @@ bool Pipe::finish() {
 }
 
 ProgramEnd runProgram(const std::vector<std::string>& words) {
-    sigset_t mask; // as it was
-    pthread_sigmask(SIG_BLOCK, nullptr, &mask);
+    const sigset_t before = heldSignals();
     const sigset_t held = holdInterruptions(SIGCHLD);
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
     pid_t process = -1;
-    const int error = start(words, nothing, process);
+    const int error = start(words, nothing, before, process);
     close(nothing);
     ProgramEnd end = {-1, false};
     int status = 0;
@@ -105,7 +109,7 @@ ProgramEnd runProgram(const std::vector<std::string>& words) {
         kill(process, SIGTERM);
     }
     if (error == 0 && WIFEXITED(status)) end.code = WEXITSTATUS(status);
-    pthread_sigmask(SIG_SETMASK, &mask, nullptr);
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
     return end;
 }
 

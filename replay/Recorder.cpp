@@ -7,6 +7,7 @@
 #include "replay/Interruption.h"
 #include "replay/Snapshot.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <iostream>
@@ -56,7 +57,8 @@ Recorder::Recorder(const std::string& path) : file(path) {}
 std::uint32_t Recorder::clock() {
     if (observing) return now;
     const std::uint32_t time = Tape::clock();
-    if (static_cast<std::int32_t>(time - now) > 0 || !clockStarted) now = time; // never back
+    const auto passed = static_cast<std::int32_t>(time - now);
+    now = clockStarted ? now + static_cast<std::uint32_t>(std::max(passed, 0)) : time; // never back
     clockStarted = true;
     pass.clock.push_back(now);
     return now;

@@ -31,14 +31,18 @@ TEST(PipeTest, GivesAllToTheProgramAndKnowsHowItEnded) {
 }
 
 TEST(PipeTest, RunsProgramsToTheirEnd) {
+    sigset_t ours, held;
+    sigemptyset(&ours);
+    sigaddset(&ours, SIGUSR1);
+    pthread_sigmask(SIG_BLOCK, &ours, nullptr);
     EXPECT_EQ(runProgram({"sh", "-c", "read line; exit 7"}).code, 7) << "there is nothing to read";
     EXPECT_EQ(runProgram({"true"}).code, 0);
     EXPECT_EQ(runProgram({"no-such-program"}).code, -1);
     EXPECT_EQ(runProgram({"sh", "-c", "kill -TERM $$; exit 1"}).code, -1) << "it gets its signals";
     EXPECT_FALSE(runProgram({"true"}).interrupted);
-    sigset_t held;
-    pthread_sigmask(SIG_BLOCK, nullptr, &held);
+    pthread_sigmask(SIG_UNBLOCK, &ours, &held);
     EXPECT_FALSE(sigismember(&held, SIGTERM)) << "only meanwhile";
+    EXPECT_TRUE(sigismember(&held, SIGUSR1)) << "as before";
 }
 
 TEST(PipeTest, PassesASignalOn) {
