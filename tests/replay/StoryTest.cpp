@@ -198,15 +198,10 @@ TEST_F(StoryTest, ComparesWithWhatIsShipped) {
         {1, 0, 0, 1, [](replay::Setup& s) { s.colours[4].parts[3] = 0.25; }},
         {1, 0, 0, 1, [](replay::Setup& s) { s.colours.back().parts[0] = 0.0; }},
         {1, 0, 0, 1, [](replay::Setup& s) { s.colours.erase(s.colours.begin()); }},
-        {0, 0, 0, 1,
-         [](replay::Setup& s) {
-             s.colours = Shipped(KOV_SOURCE_DIR).palettes[0];
-         }}, // for bright light
+        {0, 0, 0, 1, // for bright light
+         [](replay::Setup& s) { s.colours = Shipped(KOV_SOURCE_DIR).palettes[0]; }},
         {0, 1, 0, 1, [](replay::Setup& s) { s.points[0].coordinates[1] = 2.0; }},
-        {0, 0, 2, 1,
-         [](replay::Setup& s) {
-             s.bindings[7] = {'z', 3};
-         }},
+        {0, 0, 2, 1, [](replay::Setup& s) { s.bindings[7] = std::pair('z', 3); }},
         {0, 0, 3, 4,
          [](replay::Setup& s) {
              for (int i = 8; i < 11; ++i)
