@@ -4,7 +4,9 @@
 #include "tests/support/Files.h"
 
 #include <boost/filesystem.hpp>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <stdexcept>
@@ -19,6 +21,9 @@ TEST(PipeTest, GivesAllToTheProgramAndKnowsHowItEnded) {
     EXPECT_TRUE(pipe.write(much.data(), much.size()));
     EXPECT_TRUE(pipe.write("!", 1));
     EXPECT_TRUE(pipe.finish());
+    const int another = open("/dev/null", O_RDONLY); // in the place of its end
+    EXPECT_TRUE(pipe.finish());
+    EXPECT_EQ(close(another), 0) << "only the first time";
     EXPECT_TRUE(contentsOf(file.string()) == much + '!');
     fs::remove(file);
 
