@@ -15,7 +15,7 @@
 #include "replay/Tape.h"
 #include "replay/Watcher.h"
 
-#include "Framework/Managers/ColourManager.h"
+#include "Framework/Managers/PointManager.h"
 #include "Framework/math/MTRand.h"
 #include "tests/support/Field.h"
 #include "tests/support/Files.h"
@@ -396,9 +396,9 @@ TEST_F(Replay, ARecorderThatSawNoFrameWritesNothing) {
 }
 
 TEST_F(Replay, WhatCouldNotBeReadIsNotKept) {
-    const auto keep = [] { // in a process of its own, whose colours don't matter afterwards
+    const auto keep = [] { // in a process of its own, whose points don't matter afterwards
         const headless::HeadlessGame run;
-        ColourManager::Instance().resources["Line Colour"].value.components[0] = 100.0F;
+        PointManager::Instance().getV("a").value.x = 2e9;
         try {
             setupOfGame();
         } catch (const std::runtime_error& e) {

@@ -115,7 +115,8 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     glColor4f(1.0F, 0.0F, 0.5F, 1.0F);
     glLineWidth(2.0F);
     glPushMatrix();
-    glTranslatef(10.0F, 0.0F, 0.0F);
+    const GLfloat shift[] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 10, 0, 0, 1};
+    glMultMatrixf(shift);
     glScalef(2.0F, 1.0F, 1.0F);
     shape(GL_LINES, {{-1, 5}, {1, 5}, {0, 0}, {0, 1}});
     glPopMatrix();
