@@ -12,6 +12,7 @@ namespace {
 
 std::vector<option> optionsOf(const std::vector<CommandLine::Option>& known) {
     std::vector<option> options;
+    options.reserve(known.size() + 1);
     int code = 0;
     for (const CommandLine::Option& each : known)
         options.push_back(

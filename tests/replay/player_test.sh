@@ -21,7 +21,8 @@ esac
 target=${target#file:}
 case " $* " in
 *" pipe:0 "*) tee >(tail -c 384000 >"${target%.*}.last") | wc -c >"$target" ;;
-*" -c copy "*) cat pictures.mkv sound.mka >"$target" && cp pictures.last "$target.last" ;;
+*" -c copy "*) cat pictures.mkv sound.mka >"$target"
+    cp pictures.last "$target.last" && cp sound.last "$target.sound" ;;
 *) [ "$target" = - ] || : >"$target" ;;
 esac
 DOUBLE
@@ -176,6 +177,7 @@ expect "film of a night" 0 "100 %" film night.kovreplay night.mp4 --size=320x240
 filmed night.mp4 13760
 expect "film of a part" 0 "" film night.kovreplay part.mp4 --size 320x240 --from 0:01 --to=0:03
 filmed part.mp4 1980
+[ -n "$(tr -d '\0' <part.mp4.sound)" ] || fail "film of a part: silence"
 # In a picture of another shape the game's is in the middle: only beside it its menu isn't.
 expect "film, wide" 0 "" film one.kovreplay wide.mp4 --size=400x240
 beside=$(tr -dc '\033' <wide.mp4.last | wc -c)
