@@ -82,7 +82,7 @@ grep -q "kept in" said && fail "keeping by itself: $(cat said)"
 [ "$(find auto -name '*.kovreplay' -size +0 | grep -c ' 0 auto')" = 1 ] || fail "kept: $(ls auto)"
 [ "$(find auto -type f | wc -l)" = 20 ] || fail "kept: $(ls auto)"
 start --replays none record --auto
-"$close" "$(window)"
+kill -TERM "$(pgrep -P $process)"
 ends "nothing to keep" 0 ""
 [ ! -e none ] || fail "nothing to keep, and yet: $(ls none)"
 
@@ -113,7 +113,7 @@ expect "not fair, and worse" 2 "none that can be read" \
     verify --fair nothing.kovreplay pauses.kovreplay
 expect "an option twice" 2 "--speed stands there twice" watch one.kovreplay --speed=2 --speed 4
 expect "one that is there" 2 "File exists" record one.kovreplay
-expect "version" 0 "KOV 1." --version
+expect "version, with the data twice" 0 "KOV 1." --data . --version
 
 # What takes a while says how far it is, on a terminal; a signal that is ignored doesn't end it; and
 # a game that is killed is kept up to nine seconds before.
