@@ -41,10 +41,10 @@ CommandLine::CommandLine(const Words& words, const std::vector<Option>& known, O
     arguments.push_back(nullptr);
     char* const* const given = const_cast<char* const*>(arguments.data()); // it only sorts them
 
-    optind = 0; // starts anew
-    opterr = 0; // we say it ourselves
-    const char* const way = order == mixed ? ":" : "+:";
-    for (int found; (found = getopt_long(count, given, way, options.data(), nullptr)) != -1;) {
+    optind = 0;                                              // starts anew
+    opterr = 0;                                              // we say it ourselves
+    const char* const letters = order == mixed ? ":" : "+:"; // no option has one
+    for (int found; (found = getopt_long(count, given, letters, options.data(), nullptr)) != -1;) {
         if (found == '?' || found == ':') refuse(found, known, given[std::max(optind - 1, 1)]);
         const Option& option = known[static_cast<std::size_t>(found) - 1];
         const std::string name = option.name;

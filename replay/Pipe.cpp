@@ -19,6 +19,7 @@ namespace {
 
 constexpr int pipe_size = 1 << 20; // bytes; the system may give less
 
+/// By this thread.
 sigset_t heldSignals() {
     sigset_t held;
     pthread_sigmask(SIG_BLOCK, nullptr, &held);
@@ -26,7 +27,7 @@ sigset_t heldSignals() {
 }
 
 /// @param input becomes its standard input
-/// @param held the signals that it holds back
+/// @param held the signals that it holds back at first
 /// @return an error number, 0 for success
 int start(const std::vector<std::string>& words, int input, const sigset_t& held, pid_t& process) {
     std::vector<char*> arguments;
@@ -94,7 +95,7 @@ bool Pipe::finish() {
 }
 
 ProgramEnd runProgram(const std::vector<std::string>& words) {
-    const sigset_t before = heldSignals();
+    const sigset_t before = heldSignals(); // what is held from here on is to reach the program
     const sigset_t held = holdInterruptions(SIGCHLD);
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
     pid_t process = -1;

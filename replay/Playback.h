@@ -79,7 +79,7 @@ private:
     bool prepared = false, observing = false, ending = false;
     std::uint32_t lastEqual = 0; ///< tick
 
-    Pass pass_; ///< of its idle ones those that are still to be played, before it
+    Pass pass_; ///< `idle` counts down: what is still to be played before it
     struct {
         std::size_t clock = 0, events = 0, axes = 0, songs = 0;
     } taken; ///< of that pass

@@ -24,7 +24,7 @@ using standins::sdl;
 namespace {
 
 /// Draws lines of three times the width, and may be silent.
-struct Film : Tape {
+struct Changed : Tape {
     float lineWidth(float width) override { return width * 3.0F; }
     bool sounds() override { return audible; }
     bool audible = false;
@@ -63,7 +63,7 @@ TEST_F(Layer, GoesThroughWithoutATape) {
 }
 
 TEST_F(Layer, SilencesEffectsButNoSongAndWidensLines) {
-    Film tape;
+    Changed tape;
     insert(&tape);
     FMOD_SOUND *effect = nullptr, *song = nullptr;
     FMOD_CHANNEL* channel = nullptr;
