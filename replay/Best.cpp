@@ -28,19 +28,18 @@ std::string contentsOf(const fs::path& path) {
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
-/// Another name for other contents, or another name before.
-std::string keyBehind(const std::string& before, const std::string& contents) {
+/// From here on the key stands for the contents of that file, too.
+void extend(std::string& key, const fs::path& file) {
     const uuids::name_generator_sha1 begin(uuids::ns::oid());
-    return uuids::to_string(uuids::name_generator_sha1(begin(before))(contents));
+    key = uuids::to_string(uuids::name_generator_sha1(begin(key))(contentsOf(file)));
 }
 
 std::optional<Report> readReport(const fs::path& path) {
-    if (!fs::exists(path)) return {};
     try {
         ByteReader in(contentsOf(path));
         return Report::read(in);
     } catch (const BadFile&) {
-        return {}; // made anew
+        return {}; // there is none yet, or it is damaged: made anew
     }
 }
 
@@ -49,14 +48,15 @@ std::optional<Report> readReport(const fs::path& path) {
 Proofs::Proofs(const fs::path& folder, const std::vector<fs::path>& basis, Prover prover_)
     : kept(folder / proof_folder), prover(std::move(prover_)) {
     for (const fs::path& file : basis)
-        basisKey = keyBehind(basisKey, contentsOf(file));
+        extend(basisKey, file);
     boost::system::error_code error;
     if (fs::create_directory(kept, error) || fs::is_directory(kept, error)) return;
     kept.clear(); // they can't be kept
 }
 
 std::optional<Report> Proofs::of(const fs::path& file) {
-    const std::string key = keyBehind(basisKey, contentsOf(file));
+    std::string key = basisKey;
+    extend(key, file);
     if (std::find(asked.begin(), asked.end(), key) != asked.end()) return {};
     asked.push_back(key);
     const bool isKept = !kept.empty();

@@ -15,6 +15,14 @@ bool isPrintable(char c) {
     return c >= ' ' && c <= '~';
 }
 
+template <class To, class From>
+To sameBytes(const From& from) {
+    static_assert(sizeof(To) == sizeof from);
+    To to;
+    std::memcpy(&to, &from, sizeof to);
+    return to;
+}
+
 } // namespace
 
 void damaged() {
@@ -38,8 +46,7 @@ void ByteWriter::fixed32(std::uint32_t value) {
 }
 
 void ByteWriter::real(double value) {
-    std::uint64_t bits = 0;
-    std::memcpy(&bits, &value, sizeof bits);
+    const auto bits = sameBytes<std::uint64_t>(value);
     fixed32(static_cast<std::uint32_t>(bits));
     fixed32(static_cast<std::uint32_t>(bits >> 32U));
 }
@@ -83,9 +90,7 @@ std::uint32_t ByteReader::fixed32() {
 }
 
 double ByteReader::real() {
-    const std::uint64_t bits = fixed(sizeof(std::uint64_t));
-    double value = 0;
-    std::memcpy(&value, &bits, sizeof value);
+    const auto value = sameBytes<double>(fixed(sizeof(std::uint64_t)));
     if (!std::isfinite(value)) damaged();
     return value;
 }

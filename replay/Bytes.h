@@ -15,6 +15,7 @@ struct BadFile : std::runtime_error {
 class ByteWriter {
 public:
     void byte(std::uint8_t value) { bytes.push_back(static_cast<char>(value)); }
+    void flag(bool value) { byte(static_cast<std::uint8_t>(value)); }
     void number(std::uint64_t value); ///< seven bits a byte, low ones first
     void signedNumber(std::int64_t value);
     void fixed32(std::uint32_t value); ///< low byte first
@@ -31,6 +32,7 @@ public:
     explicit ByteReader(std::string bytes_) : bytes(std::move(bytes_)) {}
 
     std::uint8_t byte();
+    bool flag() { return byte() != 0; }
     std::uint64_t number(std::uint64_t most = UINT64_MAX); ///< a larger one is damage
     std::int64_t signedNumber();
     std::uint32_t fixed32();

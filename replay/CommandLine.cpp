@@ -11,13 +11,11 @@ namespace quorva::replay {
 namespace {
 
 std::vector<option> optionsOf(const std::vector<CommandLine::Option>& known) {
-    std::vector<option> options;
-    options.reserve(known.size() + 1);
-    int code = 0;
+    std::vector<option> options = {{}}; // the last one ends them
     for (const CommandLine::Option& each : known)
-        options.push_back(
-            {each.name, each.takesValue ? required_argument : no_argument, nullptr, ++code});
-    options.push_back({});
+        options.insert(options.end() - 1,
+                       {each.name, each.takesValue ? required_argument : no_argument, nullptr,
+                        static_cast<int>(options.size())});
     return options;
 }
 
@@ -38,7 +36,6 @@ CommandLine::CommandLine(const Words& words, const std::vector<Option>& known, O
     for (const std::string& word : words)
         arguments.push_back(word.c_str());
     const auto count = static_cast<int>(arguments.size());
-    arguments.push_back(nullptr);
     char* const* const given = const_cast<char* const*>(arguments.data()); // it only sorts them
 
     optind = 0;                                              // starts anew

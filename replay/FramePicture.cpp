@@ -58,8 +58,12 @@ Matrix turn(double degrees, double x, double y, double z) {
 /// Flat: what is nearer or farther looks the same.
 Matrix orthographic(double left, double right, double bottom, double top) {
     const double width = right - left, height = top - bottom;
-    return translation(-(right + left) / width, -(top + bottom) / height, 0.0) *
-           scaling(2.0 / width, 2.0 / height, 1.0);
+    Matrix matrix = identity();
+    matrix[0] = 2.0 / width;
+    matrix[5] = 2.0 / height;
+    matrix[12] = -(right + left) / width;
+    matrix[13] = -(top + bottom) / height;
+    return matrix;
 }
 
 /// As an earlier frame has set it.
@@ -108,7 +112,7 @@ private:
     bool isProjection = false, isMakingList = false;
     std::array<double, 4> colour = {1, 1, 1, 1};
     double lineWidth = 1.0;
-    unsigned int mode = 0;
+    unsigned int mode = GL_POINTS;
     std::vector<Position> vertices; ///< of the shape that is being made, pixels
 };
 

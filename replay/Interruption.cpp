@@ -27,9 +27,10 @@ sigset_t signalSet() {
 
 } // namespace
 
-sigset_t holdInterruptions(int another) {
+sigset_t holdInterruptions(std::initializer_list<int> others) {
     sigset_t set = signalSet();
-    if (another != 0) sigaddset(&set, another);
+    for (const int signal : others)
+        sigaddset(&set, signal);
     pthread_sigmask(SIG_BLOCK, &set, nullptr);
     return set;
 }

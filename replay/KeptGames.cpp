@@ -35,8 +35,9 @@ std::vector<Kept> automaticGamesIn(const fs::path& folder) {
     std::vector<Kept> games;
     for (const fs::path& path : replaysIn(folder)) {
         boost::system::error_code error; // somebody else may tidy up, too
-        Kept kept = {path, {}, fs::file_size(path, error)};
-        if (!error && KeptName::parse(path.filename().string(), kept.name)) games.push_back(kept);
+        const std::uintmax_t size = fs::file_size(path, error);
+        const auto name = KeptName::parse(path.filename().string());
+        if (!error && name) games.push_back({path, *name, size});
     }
     std::stable_sort(games.begin(), games.end(),
                      [](const Kept& a, const Kept& b) { return a.name.date < b.name.date; });
@@ -76,20 +77,18 @@ KeptName KeptName::now(bool isAutomatic) {
     return {text, 0, isAutomatic};
 }
 
-bool KeptName::parse(const std::string& fileName, KeptName& name) {
+std::optional<KeptName> KeptName::parse(const std::string& fileName) {
     const std::string end = automatic + replay_ending;
-    const std::size_t date = std::strlen(date_pattern);
-    if (fileName.size() < date + end.size()) return false;
+    const std::size_t dateEnd = std::strlen(date_pattern);
+    if (fileName.size() < dateEnd + end.size()) return {};
     const std::size_t scoreEnd = fileName.size() - end.size();
-    const std::string score = fileName.substr(date, scoreEnd - date);
-    if (!fits(fileName.substr(0, date), date_pattern) || fileName.substr(scoreEnd) != end ||
+    const std::string date = fileName.substr(0, dateEnd);
+    const std::string score = fileName.substr(dateEnd, scoreEnd - dateEnd);
+    if (!fits(date, date_pattern) || fileName.substr(scoreEnd) != end ||
         (!score.empty() && !fits(score, ' ' + std::string(score.size() - 1, 'd'))) ||
         score.size() == 1 || score.size() > longest_score)
-        return false;
-    name.date = fileName.substr(0, date);
-    name.score = score.empty() ? 0 : static_cast<std::uint32_t>(std::stoul(score));
-    name.isAutomatic = true;
-    return true;
+        return {};
+    return {{date, score.empty() ? 0 : static_cast<std::uint32_t>(std::stoul(score)), true}};
 }
 
 std::string KeptName::unfinished() const {

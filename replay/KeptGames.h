@@ -3,6 +3,7 @@
 #include <boost/filesystem/path.hpp>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -19,13 +20,13 @@ std::vector<boost::filesystem::path> replaysIn(const boost::filesystem::path& fo
 /// those alone are ever thrown out.
 struct KeptName {
     std::string date; ///< such as "2026-11-26 20.15.00", which also sorts by time
-    std::uint32_t score = 0;
-    bool isAutomatic = false;
+    std::uint32_t score;
+    bool isAutomatic;
 
     static KeptName now(bool isAutomatic); ///< without score
-    /// @return whether it is one of those that are kept by themselves. A game that broke off has
-    ///         no score in its name.
-    static bool parse(const std::string& fileName, KeptName& name);
+    /// @return empty if it isn't one of those that are kept by themselves. A game that broke off
+    ///         has no score in its name.
+    static std::optional<KeptName> parse(const std::string& fileName);
 
     std::string unfinished() const; ///< the file's name, without score
     std::string finished() const;   ///< with it

@@ -19,8 +19,7 @@ void Meter::say(int percent_) {
 }
 
 void Meter::clear() {
-    if (percent != 0 && isTerminal()) std::cout << "\r      \r" << std::flush;
-    percent = 0;
+    if (isTerminal()) std::cout << "\r      \r" << std::flush;
 }
 
 } // namespace quorva::replay

@@ -7,8 +7,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <iterator>
 #include <stdexcept>
 
 extern char** environ;
@@ -28,12 +31,13 @@ sigset_t heldSignals() {
 
 /// @param input becomes its standard input
 /// @param held the signals that it holds back at first
-/// @return an error number, 0 for success
-int start(const std::vector<std::string>& words, int input, const sigset_t& held, pid_t& process) {
+/// @return -1 if it can't be started; errno has the reason
+pid_t start(const std::vector<std::string>& words, int input, const sigset_t& held) {
     std::vector<char*> arguments;
-    arguments.reserve(words.size() + 1);
-    for (const std::string& word : words)
-        arguments.push_back(const_cast<char*>(word.c_str())); // posix_spawn leaves them alone
+    std::transform(words.begin(), words.end(), std::back_inserter(arguments),
+                   [](const std::string& word) { // posix_spawn leaves it alone
+                       return const_cast<char*>(word.c_str());
+                   });
     arguments.push_back(nullptr);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
@@ -42,16 +46,17 @@ int start(const std::vector<std::string>& words, int input, const sigset_t& held
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setsigmask(&attributes, &held);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
+    pid_t process;
     const int error =
         posix_spawnp(&process, arguments[0], &actions, &attributes, arguments.data(), environ);
     posix_spawnattr_destroy(&attributes);
     posix_spawn_file_actions_destroy(&actions);
-    return error;
+    errno = error;
+    return error == 0 ? process : -1;
 }
 
-int codeOf(pid_t process) {
-    int status = 0;
-    waitpid(process, &status, 0);
+/// @return -1 if a signal has ended it
+int codeOf(int status) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
@@ -62,10 +67,11 @@ Pipe::Pipe(const std::vector<std::string>& words) {
     int ends[2];
     if (pipe2(ends, O_CLOEXEC) != 0) throw std::runtime_error(std::strerror(errno));
     fcntl(ends[1], F_SETPIPE_SZ, pipe_size);
-    const int error = start(words, ends[0], heldSignals(), process);
-    close(ends[0]);
     end = ends[1];
-    if (error == 0) return;
+    process = start(words, ends[0], heldSignals());
+    const int error = errno;
+    close(ends[0]);
+    if (process != -1) return;
     close(end);
     throw std::runtime_error(std::strerror(error));
 }
@@ -78,8 +84,7 @@ bool Pipe::write(const void* bytes, std::size_t size) {
     const auto* at = static_cast<const char*>(bytes);
     while (good && size > 0) {
         const ssize_t written = ::write(end, at, size);
-        if (written < 0 && errno == EINTR) continue;
-        good = written > 0;
+        good = written != -1; // no signal cuts it short: see catchSignals
         at += written;
         size -= static_cast<std::size_t>(written);
     }
@@ -89,27 +94,28 @@ bool Pipe::write(const void* bytes, std::size_t size) {
 bool Pipe::finish() {
     if (process == -1) return good;
     close(end);
-    good = codeOf(process) == 0 && good;
+    int status;
+    waitpid(process, &status, 0);
+    good = codeOf(status) == 0 && good;
     process = -1;
     return good;
 }
 
 ProgramEnd runProgram(const std::vector<std::string>& words) {
     const sigset_t before = heldSignals(); // what is held from here on is to reach the program
-    const sigset_t held = holdInterruptions(SIGCHLD);
+    const sigset_t held = holdInterruptions({SIGCHLD});
     const int nothing = open("/dev/null", O_RDONLY | O_CLOEXEC);
-    pid_t process = -1;
-    const int error = start(words, nothing, before, process);
+    const pid_t process = start(words, nothing, before);
     close(nothing);
     ProgramEnd end = {-1, false};
-    int status = 0;
-    while (error == 0 && waitpid(process, &status, WNOHANG) == 0) {
+    int status;
+    while (process != -1 && waitpid(process, &status, WNOHANG) == 0) {
         const int signal = sigwaitinfo(&held, nullptr);
         if (signal < 0 || signal == SIGCHLD) continue; // below 0: stopped and continued
         end.interrupted = true;
         kill(process, SIGTERM);
     }
-    if (error == 0 && WIFEXITED(status)) end.code = WEXITSTATUS(status);
+    if (process != -1) end.code = codeOf(status);
     pthread_sigmask(SIG_SETMASK, &before, nullptr);
     return end;
 }

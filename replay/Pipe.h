@@ -26,8 +26,8 @@ public:
     bool finish();
 
 private:
-    pid_t process = -1; ///< -1: has ended
-    int end;            ///< of the pipe
+    pid_t process; ///< -1: has ended
+    int end;       ///< of the pipe
     bool good = true;
 };
 

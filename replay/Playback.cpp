@@ -35,13 +35,13 @@ std::uint32_t Playback::clock() {
 int Playback::poll(SDL_Event* event) {
     prepareOnce();
     if (isInterrupted()) stop();
-    if (!isIdle() && giveEvent(event)) return 1;
-    if (ending) {
+    bool found = !isIdle() && giveEvent(event);
+    if (!found && ending) {
         event->type = SDL_QUIT;
-        return 1;
+        found = true;
     }
-    ++emptyPolls;
-    return 0;
+    if (!found) ++emptyPolls;
+    return static_cast<int>(found);
 }
 
 bool Playback::giveEvent(SDL_Event* event) {
@@ -111,7 +111,6 @@ FMOD_RESULT Playback::songLength(FMOD_SOUND* song, unsigned int* ms) {
 }
 
 void Playback::endFrame() {
-    prepareOnce();
     progress_.look();
     emptyPolls = 0;
     if (isIdle()) {
@@ -129,9 +128,9 @@ bool Playback::isComparing() const {
 
 void Playback::compareProgress() {
     if (progress_.ended) {
-        results_.push_back(progress_.end);
+        results_.push_back(*progress_.ended);
         const auto kept = expect<GameEnd>();
-        if (kept && !(*kept == progress_.end)) differs("score, deaths or end of the game");
+        if (kept && !(*kept == *progress_.ended)) differs("score, deaths or end of the game");
     }
     if (progress_.began) {
         compareSettings();
@@ -142,7 +141,6 @@ void Playback::compareProgress() {
 }
 
 void Playback::compareSettings() {
-    if (!isComparing()) return;
     const auto kept = script.take<ChangedSettings>();
     if (kept && kept->values != settingsOfGame()) differs("the settings");
 }

@@ -13,11 +13,8 @@ constexpr int lives_at_first = 2; // spare ones
 
 GameEnd endNow() {
     const MarvoClass& marvo = Marvo::Instance();
-    GameEnd end;
-    end.score = marvo.score;
-    end.lost = marvo.lives < 0;
-    end.deaths = static_cast<std::uint32_t>(lives_at_first + (marvo.nextLife - 1) - marvo.lives);
-    return end;
+    const int deaths = lives_at_first + (marvo.nextLife - 1) - marvo.lives;
+    return {marvo.score, static_cast<std::uint32_t>(deaths), marvo.lives < 0};
 }
 
 } // namespace
@@ -37,8 +34,8 @@ void Progress::look() {
     const bool wasInGame = inGame;
     inGame = activeComponent<physics::PhysicsProcessor>() != nullptr; // works in games alone
     began = inGame && !wasInGame;
-    ended = wasInGame && !inGame;
-    if (ended) end = endNow();
+    ended.reset();
+    if (wasInGame && !inGame) ended = endNow();
 }
 
 } // namespace quorva::replay

@@ -5,6 +5,7 @@
 #include "replay/Records.h"
 
 #include <cstdint>
+#include <optional>
 
 class FModMP3Input;
 
@@ -23,8 +24,8 @@ public:
     std::uint32_t ticks = 0; ///< since the start of the program
     // Since the last look.
     bool ticked = false;
-    bool began = false, ended = false; ///< a game
-    GameEnd end;                       ///< of the game that has ended
+    bool began = false;           ///< a game
+    std::optional<GameEnd> ended; ///< the game that has
 
     bool inGame = false;
 

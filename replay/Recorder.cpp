@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <cstring>
 #include <iostream>
+#include <optional>
 #include <utility>
 
 namespace quorva::replay {
@@ -22,26 +23,21 @@ constexpr std::size_t full_block = 3U << 10U;     // bytes; no such block grows 
 constexpr std::size_t idle_clock_reads = 2;       // by the songs and the main loop
 constexpr std::uint64_t longest_idle = 1U << 20U; // passes in a record
 
-/// Whether the game looks at such events at all.
-bool toEvent(const SDL_Event& from, Event& event) {
+/// Empty if the game doesn't look at such events at all.
+std::optional<Event> toEvent(const SDL_Event& from, std::uint32_t emptyPolls) {
     switch (from.type) {
     case SDL_KEYDOWN:
+        return Event{emptyPolls, Event::key_down, from.key.keysym.sym};
     case SDL_KEYUP:
-        event.kind = from.type == SDL_KEYDOWN ? Event::key_down : Event::key_up;
-        event.which = from.key.keysym.sym;
-        return true;
+        return Event{emptyPolls, Event::key_up, from.key.keysym.sym};
     case SDL_JOYBUTTONDOWN:
-        event.kind = Event::button_down;
-        event.which = from.jbutton.button;
-        return true;
+        return Event{emptyPolls, Event::button_down, from.jbutton.button};
     case SDL_JOYAXISMOTION:
-        event.kind = Event::axis_moved;
-        return true;
+        return Event{emptyPolls, Event::axis_moved, {}};
     case SDL_QUIT:
-        event.kind = Event::closed;
-        return true;
+        return Event{emptyPolls, Event::closed, {}};
     default:
-        return false;
+        return {};
     }
 }
 
@@ -65,18 +61,16 @@ std::uint32_t Recorder::clock() {
 }
 
 int Recorder::poll(SDL_Event* event) {
-    int found = Tape::poll(event);
-    if (found == 0 && takeInterruption()) {
+    bool found = Tape::poll(event) != 0;
+    if (!found && takeInterruption()) {
         event->type = SDL_QUIT;
-        found = 1;
+        found = true;
     }
-    if (found == 0) {
+    if (!found)
         ++emptyPolls;
-        return 0;
-    }
-    Event kept = {emptyPolls, Event::closed, 0};
-    if (toEvent(*event, kept)) pass.events.push_back(kept);
-    return 1;
+    else if (const auto kept = toEvent(*event, emptyPolls))
+        pass.events.push_back(*kept);
+    return static_cast<int>(found);
 }
 
 SDL_Joystick* Recorder::openJoystick(int index) {
@@ -156,16 +150,15 @@ void Recorder::endPass() {
     if (!pass.clock.empty()) lastClock = pass.clock.back();
     keep(std::exchange(pass, {}));
     keepProgress();
-    if (progress.ticks - flushedAt >= flush_interval || progress.ended ||
-        pending.bytes.size() > full_block)
-        flush();
+    const bool isDue = progress.ticked && progress.ticks % flush_interval == 0;
+    if (isDue || progress.ended || pending.bytes.size() > full_block) flush();
 }
 
 void Recorder::keepProgress() {
     if (progress.ended) {
         ++games;
-        bestScore = std::max(bestScore, progress.end.score);
-        keep(progress.end);
+        bestScore = std::max(bestScore, progress.ended->score);
+        keep(*progress.ended);
     }
     if (progress.began) {
         keepSettings();
@@ -196,7 +189,6 @@ void Recorder::flush() {
     if (failed) return;
     if (!file.write(pending.bytes)) giveUp(std::strerror(errno));
     pending.bytes.clear();
-    flushedAt = progress.ticks;
 }
 
 void Recorder::finish() {

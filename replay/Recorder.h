@@ -50,8 +50,7 @@ private:
     bool observing = false; ///< the clock is asked by this program, not by the game
     Progress progress;
     RecordWriter writer;
-    ByteWriter pending;          ///< not yet in the file
-    std::uint32_t flushedAt = 0; ///< tick
+    ByteWriter pending; ///< not yet in the file
 
     std::vector<bool> openedJoysticks;
     SettingValues settings; ///< as they were kept last

@@ -30,7 +30,7 @@ void writeBody(const GameBegin&, ByteWriter&) {}
 void writeBody(const GameEnd& end, ByteWriter& out) {
     out.number(end.score);
     out.number(end.deaths);
-    out.byte(end.lost ? 1 : 0);
+    out.flag(end.lost);
 }
 
 void writeBody(const End& end, ByteWriter& out) {
@@ -54,7 +54,7 @@ GameEnd readGameEnd(ByteReader& in) {
     GameEnd end;
     end.score = static_cast<std::uint32_t>(in.number(UINT32_MAX));
     end.deaths = static_cast<std::uint32_t>(in.number(UINT32_MAX));
-    end.lost = in.byte() != 0;
+    end.lost = in.flag();
     return end;
 }
 

@@ -40,7 +40,7 @@ struct Pass {
 
 /// The state of the game at every hundredth tick, to be compared.
 struct Check {
-    std::uint32_t hash = 0;
+    std::uint32_t hash;
     std::string partHashes; ///< a byte of each part's hash, so that the first that differs is known
 };
 
@@ -53,9 +53,9 @@ struct GameBegin {};
 
 /// How a game ended.
 struct GameEnd {
-    std::uint32_t score = 0;
-    std::uint32_t deaths = 0;
-    bool lost = false; ///< else it was left
+    std::uint32_t score;
+    std::uint32_t deaths;
+    bool lost; ///< else it was left
 
     bool operator==(const GameEnd& other) const {
         return score == other.score && deaths == other.deaths && lost == other.lost;

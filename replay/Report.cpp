@@ -20,7 +20,7 @@ void Report::write(ByteWriter& out) const {
         out.number(game.score);
         out.number(game.begin);
         out.number(game.length);
-        out.byte(game.marked ? 1 : 0);
+        out.flag(game.marked);
         out.text(game.story);
         out.text(game.remarks);
         out.number(game.curve.size());
@@ -41,7 +41,7 @@ Report Report::read(ByteReader& in) {
         game.score = number32(in);
         game.begin = number32(in);
         game.length = number32(in);
-        game.marked = in.byte() != 0;
+        game.marked = in.flag();
         game.story = in.text(longest_text);
         game.remarks = in.text(longest_text);
         game.curve.resize(in.count());

@@ -100,7 +100,7 @@ void Setup::write(ByteWriter& out) const {
     out.number(songs);
     out.number(joysticks.size());
     for (const bool opened : joysticks)
-        out.byte(opened ? 1 : 0);
+        out.flag(opened);
     writeNamed(out, colours, &NamedColour::parts);
     writeNamed(out, points, &NamedPoint::coordinates);
 }
@@ -117,7 +117,7 @@ Setup Setup::read(ByteReader& in) {
     setup.songs = in.number(most_songs);
     setup.joysticks.resize(in.number(most_joysticks));
     for (std::size_t i = 0; i < setup.joysticks.size(); ++i)
-        setup.joysticks[i] = in.byte() != 0;
+        setup.joysticks[i] = in.flag();
     setup.colours = readNamed<NamedColour>(in, &NamedColour::parts, largest_colour);
     setup.points = readNamed<NamedPoint>(in, &NamedPoint::coordinates, largest_coordinate);
     return setup;

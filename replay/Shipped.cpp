@@ -67,25 +67,19 @@ std::size_t countChanged(const std::vector<Named>& shipped, const std::vector<Na
 
 constexpr const char* menu_only = "Menu Select"; // does nothing in play
 
-/// In play, of the key (or button) that has most.
-std::size_t mostActions(const std::vector<int>& keys) {
-    std::size_t most = 1;
-    for (const int key : keys)
-        most = std::max(most, static_cast<std::size_t>(std::count(keys.begin(), keys.end(), key)));
-    return most;
-}
-
 void compareKeys(const Setup& setup, Changes& changes) {
     const auto& shipped = input::KeyMapper::Instance().keys;
-    std::vector<int> keys, buttons;
+    std::map<int, std::size_t> keys, buttons; // and how many actions each has in play
+    const auto countAction = [&](std::size_t& count) {
+        changes.actionsOfAKey = std::max(changes.actionsOfAKey, ++count);
+    };
     for (std::size_t i = 0; i < std::min(shipped.size(), setup.bindings.size()); ++i) {
         const auto& [key, button] = setup.bindings[i];
         changes.keys += (key != shipped[i]->key ? 1 : 0) + (button != shipped[i]->jsButton ? 1 : 0);
         if (shipped[i]->name == menu_only) continue;
-        if (key != input::unknown_key) keys.push_back(key);
-        if (button != input::no_button) buttons.push_back(button);
+        if (key != input::unknown_key) countAction(keys[key]);
+        if (button != input::no_button) countAction(buttons[button]);
     }
-    changes.actionsOfAKey = std::max(mostActions(keys), mostActions(buttons));
 }
 
 } // namespace

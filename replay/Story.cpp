@@ -76,7 +76,7 @@ Story::Story() {
 }
 
 void Story::look(const Progress& progress, const Pass& pass, std::uint32_t time) {
-    if (progress.ended && !games.empty()) games.back().end = progress.end;
+    if (progress.ended && !games.empty()) games.back().end = progress.ended;
     if (progress.began) begin(time);
     if (!progress.inGame && !progress.ended) return;
     GameStory& game = games.back();
@@ -91,9 +91,9 @@ void Story::look(const Progress& progress, const Pass& pass, std::uint32_t time)
 
 void Story::begin(std::uint32_t time) {
     games.emplace_back();
+    games.back().begin = time;
     games.back().settings = settingsOfGame();
-    now = {};
-    games.back().begin = now.lastTick = time;
+    now = {time, 0, 0, 0, {}};
 }
 
 /// A pause and the tick that follows it, or that went before, may be in one pass.

@@ -20,9 +20,9 @@ struct GameStory {
     SettingValues settings;
 
     struct Catch {
-        std::uint32_t time = 0; ///< ms after the game's begin
-        std::uint32_t points = 0;
-        unsigned int triangles = 0;
+        std::uint32_t time; ///< ms after the game's begin
+        std::uint32_t points;
+        unsigned int triangles;
     };
     std::vector<Catch> catches; ///< rectangles that have paid out
     unsigned int shots = 0;
@@ -72,10 +72,10 @@ private:
 
     /// In the game that is being played.
     struct {
-        std::uint32_t score = 0;      ///< after the last catch
-        std::size_t datedCatches = 0; ///< whose time is known
-        std::uint32_t lastTick = 0;   ///< ms after the start, and later by the pauses since then
-        std::uint32_t pauses = 0;     ///< ms, those that have ended, as the game's clock has them
+        std::uint32_t lastTick;   ///< ms after the start, and later by the pauses since then
+        std::uint32_t pauses;     ///< ms, those that have ended, as the game's clock has them
+        std::uint32_t score;      ///< after the last catch
+        std::size_t datedCatches; ///< whose time is known
         std::optional<std::uint32_t> pauseBegin; ///< ms after the start; empty: it goes on
     } now;
 };

@@ -17,8 +17,8 @@ struct Summary {
     Setup setup;
     std::uint32_t start = 0;  ///< ms, the game's clock at its first frame
     std::uint32_t length = 0; ///< ms
-    std::size_t size = 0;     ///< bytes
-    bool cutOff = false;
+    std::size_t size;         ///< bytes
+    bool cutOff;
 };
 
 } // namespace quorva::replay

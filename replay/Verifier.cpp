@@ -64,9 +64,7 @@ bool Verifier::anyGameMarked() const {
 }
 
 Report Verifier::report() {
-    Report report;
-    report.date = script.setup.date;
-    report.verdict = difference();
+    Report report = {script.setup.date, difference(), {}};
     pictures.resize(story.games.size());
     for (std::size_t i = 0; i < story.games.size(); ++i) {
         const GameStory& game = story.games[i];

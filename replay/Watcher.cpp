@@ -26,7 +26,6 @@ void Watcher::moveOn() {
 void Watcher::show() {
     hasBegun = true;
     if (draws()) {
-        waitFor(sessionTime());
         Tape::endFrame();
         showState();
     }
@@ -37,18 +36,16 @@ void Watcher::passIdly() {
     if (Tape::clock() - lastLook >= nap) takeKeys();
 }
 
+/// @param ms of the session, before the end of the pass that is being played
 void Watcher::waitFor(double ms) {
-    if (lastTime == 0) lastTime = Tape::clock();
     for (;;) {
         takeKeys();
         const std::uint32_t time = Tape::clock();
-        pace.goOn(time - lastTime);
+        pace.goOn(time - lastTime.value_or(time));
         lastTime = time;
-        if (pace.takeStep()) {
-            pace.position = ms;
-            return;
-        }
-        if (isEnding() || (!pace.standing && pace.position >= ms)) return;
+        if (pace.takeStep()) pace.position = stepEnd = pass().clock.back() - times.start;
+        const bool mayGoOn = !pace.standing || ms <= stepEnd;
+        if (isEnding() || (mayGoOn && pace.position >= ms)) return;
         FMOD_System_Update(FModSystem::Instance().system);
         SDL_Delay(nap);
     }

@@ -4,6 +4,7 @@
 #include "replay/WindowPlayback.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace quorva::replay {
@@ -36,9 +37,10 @@ private:
 
     const Times times;
     Pace pace;
-    std::uint32_t lastTime = 0; ///< ms, the real clock; as the next
-    std::uint32_t lastLook = 0; ///< at the keys
-    bool hasBegun = false;      ///< the first frame is there
+    std::optional<std::uint32_t> lastTime;  ///< ms, the real clock; as the next
+    std::uint32_t lastLook = Tape::clock(); ///< at the keys
+    double stepEnd = 0.0;                   ///< ms of the session: how far the last step goes
+    bool hasBegun = false;                  ///< the first frame is there
     std::string shownTitle;
 };
 

@@ -48,6 +48,11 @@ Uint32 SDL_GetTicks() {
     return sdl().ticks;
 }
 
+void SDL_Delay(Uint32 ms) {
+    sdl().ticks += ms;
+    if (sdl().onDelay) sdl().onDelay();
+}
+
 int SDL_PollEvent(SDL_Event* event) {
     if (sdl().events.empty()) return 0;
     *event = sdl().events.front();

@@ -22,11 +22,12 @@ struct VideoMode {
 struct VirtualSDL {
     std::uint32_t ticks = 0; ///< ms, what SDL_GetTicks gives
     std::deque<SDL_Event> events;
-    std::vector<VideoMode> modes; ///< asked for, in order
-    int refusedModes = 0;         ///< how many of the next modes are refused
-    std::uint64_t swaps = 0;      ///< frames shown
-    std::function<void()> onSwap; ///< called at each, the end of a pass
-    std::function<void()> onMode; ///< called at each mode asked for
+    std::vector<VideoMode> modes;  ///< asked for, in order
+    int refusedModes = 0;          ///< how many of the next modes are refused
+    std::uint64_t swaps = 0;       ///< frames shown
+    std::function<void()> onSwap;  ///< called at each, the end of a pass
+    std::function<void()> onMode;  ///< called at each mode asked for
+    std::function<void()> onDelay; ///< called behind each SDL_Delay, which moves the clock on
     int quits = 0;
     int joysticks = 0;
     int refusedJoystick = -1;                          ///< index of a joystick that doesn't open

@@ -1,7 +1,7 @@
 // Bytes and blocks of a replay file, to their limits.
 
 #include "replay/Blocks.h"
-#include "replay/Bytes.h"
+#include "replay/Records.h"
 #include "tests/support/Files.h"
 
 #include <boost/filesystem.hpp>
@@ -52,9 +52,16 @@ TEST_F(Blocks, AreAtMostSoLarge) {
     EXPECT_EQ(readBack(noise), noise);
     EXPECT_THROW(readBack(noise + 'x'), BadFile);
     EXPECT_THROW(BlockWriter writer(path), std::runtime_error) << "there already";
-    BlockReader reader(path);
-    EXPECT_EQ(reader.offset(), BlockWriter::empty_size);
-    EXPECT_EQ(reader.size(), contentsOf(path).size());
+    {
+        BlockReader reader(path);
+        EXPECT_EQ(reader.offset(), BlockWriter::empty_size);
+        EXPECT_EQ(reader.size(), contentsOf(path).size());
+    }
+    constexpr std::size_t largest_file = 64U << 20U; // bytes
+    fs::resize_file(path, largest_file);
+    EXPECT_EQ(BlockReader(path).size(), largest_file);
+    fs::resize_file(path, largest_file + 1);
+    EXPECT_THROW(BlockReader reader(path), BadFile);
 }
 
 TEST(BytesTest, ComeBackAsTheyWere) {
@@ -82,6 +89,7 @@ TEST(BytesTest, ComeBackAsTheyWere) {
 }
 
 TEST(BytesTest, DamageIsSeen) {
+    using namespace std::string_literals;
     const auto refuses = [](const std::string& bytes, auto read) {
         ByteReader in(bytes);
         EXPECT_THROW(read(in), BadFile);
@@ -98,5 +106,7 @@ TEST(BytesTest, DamageIsSeen) {
     refuses("\x01\x7f", [](ByteReader& in) { in.text(9); });
     refuses("\3ab", [](ByteReader& in) { in.text(9); });
     refuses("\4ab", [](ByteReader& in) { in.count(); });
+    for (const std::string& record : {"\x86"s, "\x10\0"s}) // kinds of record that there aren't
+        refuses(record, [](ByteReader& in) { RecordReader().read(in); });
     EXPECT_EQ(ByteReader("\2ab").count(), 2U);
 }

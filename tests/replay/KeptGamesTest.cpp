@@ -70,27 +70,46 @@ TEST_F(KeptGames, OfThoseKeptByThemselvesTheLatestAndTheBestStay) {
     expectLeft({best, latest});
     tidy(".", {1, 1, 8});
     expectLeft({best});
+    tidy(".", {1, 1, 7});
+    expectLeft({});
     tidy("nowhere");
+}
+
+TEST_F(KeptGames, TwentyAndTenAndFiftyMegabytesStay) {
+    for (int i = 10; i < 50; ++i) // ever worse
+        fill(at(i, ' ' + std::to_string(100 - i) + " auto"), "");
+    const std::string oldest = at(30, " 70 auto"); // of the latest
+    fs::resize_file(oldest, 50U << 20U);
+    tidy(".");
+    EXPECT_EQ(names().size(), 30U);
+    EXPECT_TRUE(fs::exists(at(19, " 81 auto")));
+    EXPECT_TRUE(fs::exists(oldest));
+    fill(at(49, " 51 auto"), "a byte more");
+    tidy(".");
+    EXPECT_EQ(names().size(), 29U);
+    EXPECT_FALSE(fs::exists(oldest));
 }
 
 TEST_F(KeptGames, NamesTellWhenAndHowWell) {
     KeptName name = KeptName::now(true);
-    KeptName read;
-    ASSERT_TRUE(KeptName::parse(name.unfinished(), read));
-    EXPECT_EQ(read.date, name.date);
-    EXPECT_EQ(read.score, 0U);
+    auto read = KeptName::parse(name.unfinished());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->date, name.date);
+    EXPECT_EQ(read->score, 0U);
+    EXPECT_TRUE(read->isAutomatic);
     name.score = 45567;
-    ASSERT_TRUE(KeptName::parse(name.finished(), read));
-    EXPECT_EQ(read.score, 45567U);
-    EXPECT_TRUE(read.isAutomatic);
+    read = KeptName::parse(name.finished());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->score, 45567U);
     name.isAutomatic = false;
-    EXPECT_FALSE(KeptName::parse(name.finished(), read));
-    EXPECT_TRUE(KeptName::parse(at(10, " 999999999 auto"), read));
-    EXPECT_EQ(read.score, 999999999U);
+    EXPECT_FALSE(KeptName::parse(name.finished()));
+    read = KeptName::parse(at(10, " 999999999 auto"));
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->score, 999999999U);
     for (const char* rest :
          {"  auto", " 1000000000 auto", " 1x auto", "1 auto", " 1 aut", " -1 auto", ""})
-        EXPECT_FALSE(KeptName::parse(at(10, rest), read)) << rest;
-    EXPECT_FALSE(KeptName::parse("", read));
+        EXPECT_FALSE(KeptName::parse(at(10, rest))) << rest;
+    EXPECT_FALSE(KeptName::parse(""));
     EXPECT_EQ(name.finished(), name.date + " 45567.kovreplay");
 }
 
@@ -139,6 +158,12 @@ TEST_F(KeptGames, AProofIsMadeOnceForEachFileProgramAndFolder) {
     succeeds = false;
     EXPECT_FALSE(last.of("games/b.kovreplay"));
     EXPECT_EQ(std::distance(fs::directory_iterator("games/.proofs"), fs::directory_iterator()), 1);
+
+    fs::create_directory("others");
+    fill("others/.proofs", "no folder");
+    succeeds = true;
+    EXPECT_TRUE(Proofs("others", {}, prove).of("games/a.kovreplay")) << "made, and not kept";
+    EXPECT_EQ(contentsOf("others/.proofs"), "no folder");
 }
 
 TEST_F(KeptGames, TheBestAreInOrderAndNotTooMany) {
@@ -188,7 +213,10 @@ TEST_F(KeptGames, ThePageEscapesNamesAndTakesTheGameForBrowsersAlong) {
     expectParts({"href=\"./" + encoded, ">&lt;b&gt;&amp;&quot;&#39;#&amp;prove= 50%.kovreplay<",
                  "viewBox=\"0 -2 300 84\"", "d=\"M0 80H150V0H300\"", // half a second, then all
                  "<h2>1. 20 points</h2>\n<div class=\"picture\"><img src=\"game-1.svg\""});
-    writePage(".", {game}); // where the file is already
+    RankedGame short_ = {name, 0, {}}; // over at once
+    short_.game.curve = {{0, 0}};
+    writePage(".", {game, short_}); // where the file is already
+    EXPECT_NE(contentsOf("index.html").find("d=\"M0 80H0V80H300\""), std::string::npos);
     EXPECT_EQ(contentsOf(name), "a game");
 
     const auto write = [&](const fs::path& to) { writePage(to, {game}, "build"); };

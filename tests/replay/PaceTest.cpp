@@ -45,6 +45,8 @@ TEST(Pace, HasASlowestAndAFastestSpeed) {
     for (int i = 0; i < 20; ++i)
         pace.press(i % 2 == 0 ? SDLK_UP : SDLK_RIGHT);
     EXPECT_EQ(pace.speed, 64.0);
+    pace.press(SDLK_DOWN);
+    EXPECT_EQ(pace.speed, 32.0);
     for (int i = 0; i < 20; ++i)
         pace.press(i % 2 == 0 ? SDLK_DOWN : SDLK_LEFT);
     EXPECT_EQ(pace.speed, 0.125);

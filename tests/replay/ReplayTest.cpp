@@ -17,6 +17,7 @@
 
 #include "Framework/Managers/PointManager.h"
 #include "Framework/math/MTRand.h"
+#include "tests/replay/Edited.h"
 #include "tests/support/Field.h"
 #include "tests/support/Files.h"
 
@@ -49,6 +50,16 @@ Outcome run(const std::string& command) {
     return outcome;
 }
 
+/// Its clock goes on by a ms whenever it is read.
+class DriftingRecorder : public Recorder {
+public:
+    using Recorder::Recorder;
+    std::uint32_t clock() override {
+        ++standins::sdl().ticks;
+        return Recorder::clock();
+    }
+};
+
 class Replay : public testing::Test {
 protected:
     /// Of a file with these bytes.
@@ -60,19 +71,24 @@ protected:
         return run(KOV_VERIFY " " + path + " " KOV_SOURCE_DIR);
     }
 
-    /// Plays by keys, one every six passes of 30 ms, each held for a pass. In a process of its own,
-    /// a copy of this one, in which no game may have run.
+    /// Plays by keys, one every six passes of some 30 ms, each held for a pass; the first is there
+    /// before the first frame. In a process of its own, a copy of this one, in which no game may
+    /// have run.
     static void record(const std::string& path, const std::vector<int>& keys) {
         const pid_t child = fork();
         if (child == 0) {
             std::size_t passes = 0;
-            standins::sdl().onSwap = [&] {
-                standins::sdl().ticks += 30;
+            const auto press = [&] {
                 const std::size_t key = passes / 6, since = passes++ % 6;
                 if (key == keys.size()) return standins::pushQuit();
                 if (since < 2) standins::pushKey(keys[key], since == 0);
             };
-            Recorder recorder(path);
+            standins::sdl().onSwap = [&] {
+                standins::sdl().ticks += 30;
+                press();
+            };
+            press();
+            DriftingRecorder recorder(path);
             insert(&recorder);
             headless::runGameMain({});
             recorder.finish();
@@ -86,54 +102,14 @@ protected:
     const std::string other = KOV_SOURCE_DIR "/tests/recordings/one-game.kovreplay";
 };
 
-using Edit = std::function<bool(Record&)>; // true: it is done
+/// Plays in no game.
+class BarePlayback : public Playback {
+public:
+    using Playback::Playback;
 
-/// A replay with other contents, as a program that knows the format would write them.
-/// @param once whether the edit has to succeed
-std::string edited(const std::string& path, const Edit& edit,
-                   const std::function<void(replay::Setup&)>& editSetup = {}, bool once = true) {
-    Script script(path);
-    RecordWriter records;
-    ByteWriter bytes;
-    if (editSetup) editSetup(script.setup);
-    script.setup.write(bytes);
-    {
-        std::remove("edited"); // of the edit before
-        BlockWriter blocks("edited");
-        bool done = !edit;
-        while (auto record = script.take()) {
-            if (!done) done = edit(*record);
-            records.write(*record, bytes);
-            if (bytes.bytes.size() < 4000) continue;
-            blocks.write(bytes.bytes);
-            bytes.bytes.clear();
-        }
-        EXPECT_TRUE(done || !once);
-        blocks.write(bytes.bytes);
-    }
-    return contentsOf("edited");
-}
-
-/// Changes the first record of a kind.
-template <class Kind>
-Edit ofFirst(void (*change)(Kind&)) {
-    return [change](Record& record) {
-        auto* const found = std::get_if<Kind>(&record);
-        if (found != nullptr) change(*found);
-        return found != nullptr;
-    };
-}
-
-/// The first key that fires becomes that.
-Edit toFirstShot(const Event& other) {
-    return [other](Record& record) {
-        auto* const pass = std::get_if<Pass>(&record);
-        if (pass == nullptr) return false;
-        for (Event& event : pass->events)
-            if (event.which == SDLK_w) return event = other, true;
-        return false;
-    };
-}
+private:
+    void prepareGame() override {}
+};
 
 class OpeningPlayback : public WindowPlayback {
 public:
@@ -172,8 +148,12 @@ TEST_F(Replay, HoldsWhateverWasPlayed) {
     };
     for (const auto& c : cases) {
         std::remove("recorded");
-        ASSERT_EQ(run(KOV_RECORD " recorded " + std::string(c.options)).code, 0);
+        const Outcome played = run(KOV_RECORD " recorded " + std::string(c.options));
+        ASSERT_EQ(played.code, 0);
+        const std::string best = played.text.substr(played.text.rfind(' ')); // and a line's end
         const Outcome outcome = verifyFile("recorded");
+        EXPECT_NE(outcome.text.find(best.substr(0, best.size() - 1) + " point"), std::string::npos)
+            << c.options << outcome.text << played.text;
         EXPECT_EQ(outcome.code, 0) << c.options << outcome.text;
         EXPECT_NE(outcome.text.find(": holds\n"), std::string::npos) << outcome.text;
         EXPECT_NE(outcome.text.find(c.games), std::string::npos) << outcome.text;
@@ -239,6 +219,7 @@ TEST_F(Replay, AnEditedFileDiffers) {
         {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { ++end.deaths; })},
         {"score, deaths", ofFirst<GameEnd>([](GameEnd& end) { end.lost = true; })},
         {"the first that differs: ", toFirstShot({0, Event::key_down, SDLK_s})},
+        {"the first that differs: ", toFirstShot({1, Event::key_down, SDLK_w})}, // not asked again
         {"goes another way", toFirstShot({0, Event::closed, 0})}, // it ends before the file does
         {"up to tick 0): only the hash differs",
          ofFirst<Check>([](Check& check) { ++check.hash; })},
@@ -433,7 +414,8 @@ TEST_F(Replay, ABlockHoldsSecondsOfPlay) {
     }
     EXPECT_EQ(passes.size(), 12U);
     EXPECT_EQ(passes[0], 291U) << "full before its time, by the setup";
-    EXPECT_EQ(passes[1], 300U);
+    EXPECT_EQ(passes[1], 11U) << "up to tick 300";
+    EXPECT_EQ(passes[2], 300U);
 
     const Summary summary("recorded");
     EXPECT_EQ(summary.start, 5U);
@@ -500,11 +482,46 @@ TEST_F(Replay, SettingsAreThoseOfEachGame) {
     EXPECT_NE(shown.text.find("accuracy 9 (!)"), std::string::npos) << shown.text;
     EXPECT_NE(shown.text.find("\nverdict   holds\n"), std::string::npos) << shown.text;
     EXPECT_EQ(run(KOV_VERIFY " --fair changed " KOV_SOURCE_DIR).code, 4);
+    ASSERT_EQ(run(KOV_VERIFY " --report report changed " KOV_SOURCE_DIR).code, 0);
+    ByteReader report(contentsOf("report"));
+    const auto games = Report::read(report).games;
+    ASSERT_EQ(games.size(), 2U);
+    EXPECT_EQ(games[0].picture + games[1].picture, "") << "nothing was caught";
     const auto refine =
         ofFirst<ChangedSettings>([](ChangedSettings& s) { s.values[2].second = 8; });
     const Outcome edited_ = verify(edited("changed", refine));
     EXPECT_EQ(edited_.code, 1);
     EXPECT_NE(edited_.text.find("the settings"), std::string::npos) << edited_.text;
+}
+
+TEST_F(Replay, ASongThatIsMissingIsADifference) {
+    ASSERT_EQ(run(KOV_RECORD " recorded --seed 6 --ticks 500 --songs 3").code, 0);
+    const auto drop = [](Record& record) {
+        auto* const pass = std::get_if<Pass>(&record);
+        const bool found = pass != nullptr && !pass->songs.empty() && pass->songs[0].result == 0;
+        if (found) pass->songs.clear();
+        return found;
+    };
+    EXPECT_EQ(verifyFile("recorded").code, 0);
+    const Outcome outcome = verify(edited("recorded", drop));
+    EXPECT_EQ(outcome.code, 1) << outcome.text;
+    EXPECT_NE(outcome.text.find("differs at tick"), std::string::npos) << outcome.text;
+}
+
+TEST_F(Replay, AnEventComesAtThePollItCameAt) {
+    edited(kept, ofFirst<Pass>([](Pass& p) {
+               p.events = {{1, Event::key_down, SDLK_x}, {1, Event::key_up, SDLK_y}};
+           }));
+    const auto poll = [] {
+        Script script("edited");
+        BarePlayback playback(script);
+        SDL_Event event = {};
+        for (int i = 0; i < 4; ++i)
+            std::cerr << playback.poll(&event) << ' ' << event.key.keysym.sym << ' '
+                      << static_cast<int>(event.key.state) << ", ";
+        std::_Exit(0);
+    };
+    EXPECT_EXIT(poll(), testing::ExitedWithCode(0), "^0 0 0, 1 120 1, 1 121 0, 0 121 0, $");
 }
 
 TEST_F(Replay, AReportTellsOfEachGame) {
@@ -551,6 +568,18 @@ TEST(StageTest, HasTheColoursAndPointsOfTheGame) {
     EXPECT_EQ(contentsOf("data/Colour.kov"), "Line Colour,0.5 0.25 1 0.100000001\n");
     EXPECT_EQ(contentsOf("data/Point.kov"), "a,0.10000000000000001#-2#1000000000#0\n");
     EXPECT_EQ(Shipped(".").points.size(), 1U);
+
+    for (const char* number : {"3", "1", "4", "5", "2", "9", "6"})
+        fill("data/Colour" + std::string(number) + ".kov", "");
+    const auto files = Shipped(".").files;
+    EXPECT_EQ(files.size(), 11U) << "with two colours that there are, points and keys";
+    EXPECT_TRUE(std::is_sorted(files.begin(), files.end() - 2)) << "whatever order the disk has";
+
+    fs::create_directories("bare/data");
+    for (const char* name : {"Colour", "Point"})
+        fill("bare/data/" + std::string(name) + ".kov", "");
+    const Stage bare("bare", setup);
+    EXPECT_EQ(contentsOf("bind1.conf"), "") << "there, all the same";
 }
 
 TEST(Comparison, NamesTheFirstObjectThatDiffers) {

@@ -44,6 +44,7 @@ protected:
 
 TEST_F(StoryTest, CountsWhatAGameBrings) {
     Watched watched;
+    EXPECT_EQ(watched.game().presses, 0U);
     watched.look({{0, Event::key_down, 1}, {0, Event::key_up, 1}, {0, Event::button_down, 1}});
     watched.look({{0, Event::key_up, 1}, {0, Event::axis_moved, 0}, {0, Event::closed, 0}});
     EXPECT_EQ(watched.game().presses, 2U) << "the most of a pass";
@@ -164,6 +165,11 @@ TEST(RemarksTest, MarkWhatIsUnlikeAnUntouchedGame) {
         {nullptr, [](GameStory& g, Changes&) { g.presses = 6; }},
         {"up to 7 presses at once", [](GameStory& g, Changes&) { g.presses = 7; }},
     };
+    EXPECT_EQ(
+        inWords(remarksOn(usual(), {})),
+        "1000 ticks in 0:40, 40.0 ms each, 0 ms at most, 0 over 60 ms, 0 pauses, accuracy 10, "
+        "window 800x600, 0 colours changed, 0 points changed, 0 keys changed, "
+        "1 action a key, up to 0 presses at once");
     for (const auto& c : cases) {
         GameStory game = usual();
         Changes changes;

@@ -15,6 +15,7 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <optional>
 
 using namespace quorva;
 using namespace quorva::replay;
@@ -90,17 +91,19 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
             glVertex2f(x, y);
         glEnd();
     };
-    FramePicture camera;
-    const auto makeList = [&](float side) {
-        glNewList(5, GL_COMPILE);
+    std::optional<FramePicture> camera(std::in_place);
+    const auto makeList = [&](unsigned int list, float side) {
+        glNewList(list, GL_COMPILE);
         shape(GL_TRIANGLES, {{0, 0}, {side, side}, {0, side}});
         glEndList();
     };
-    makeList(2.0F);
-    camera.skip();
+    makeList(4, 3.0F);
+    makeList(5, 2.0F);
+    camera->skip();
     EXPECT_TRUE(glRecorder().calls.empty());
 
-    makeList(1.0F); // in its place
+    makeList(5, 1.0F);                       // in its place
+    shape(GL_LINES, {{-20, -15}, {20, 15}}); // as the game's last frame has left it
     glScalef(9.0F, 9.0F, 9.0F);
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
@@ -133,18 +136,24 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     glColor4f(1.0F, 1.0F, 1.0F, 0.5F);
     shape(GL_QUADS, {{0, 0}, {1, 0}, {1, 1}, {0, 1}, {0, 1}, {1, 1}, {1, 0}, {0, 0}});
     glCallList(5);
+    glCallList(4);
     shape(GL_LINE_LOOP, {{0, 0}, {0, -1}});
-    const std::string picture = camera.take(800, 600);
+    const std::string picture = camera->take(800, 600);
     EXPECT_EQ(picture.find("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 800 600'>"), 0U);
     const std::string square = "M380.0 320.0L380.0 300.0L400.0 300.0L400.0 320.0Z";
     const std::string half = "fill='#ffffff' opacity='0.5'/>";
     EXPECT_EQ(picture.substr(picture.find("<path")),
+              "<path d='M0.0 600.0L800.0 0.0' fill='none' stroke='#ffffff' stroke-width='1'/>"
               "<path d='M560.0 220.0L640.0 220.0M600.0 320.0L600.0 300.0' fill='none' "
               "stroke='#ff0080' stroke-width='2'/><path d='M480.0 310.0L500.0 300.0L520.0 290.0' "
               "fill='none' stroke='#ff0080' stroke-width='2'/><path d='" +
                   square + square + "' " + half +
                   "<path d='M380.0 320.0L380.0 300.0L400.0 320.0Z' " + half +
+                  "<path d='M340.0 320.0L340.0 260.0L400.0 320.0Z' " + half +
                   "<path d='M400.0 320.0L420.0 320.0Z' fill='none' stroke='#ffffff' "
                   "stroke-width='2' opacity='0.5'/></g></svg>");
+    EXPECT_TRUE(glRecorder().calls.empty());
+    camera.reset();
+    glLineWidth(1.0F);
     EXPECT_TRUE(glRecorder().calls.empty());
 }
