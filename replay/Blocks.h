@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 #include <string>
 
 // The outside of a replay file: what says that it is one, then blocks of bytes. All blocks are one
@@ -19,13 +20,13 @@ constexpr std::uint8_t format_version = 2;
 /// Another one is refused.
 constexpr std::uint8_t rule_set = 2;
 
+/// Of zlib, with the function that ends it.
+using Stream = std::unique_ptr<z_stream, int (*)(z_stream*)>;
+
 class BlockWriter {
 public:
     /// Makes the file, and never overwrites one. Throws std::runtime_error if it can't.
     explicit BlockWriter(const std::string& path);
-    ~BlockWriter();
-    BlockWriter(const BlockWriter&) = delete;
-    BlockWriter& operator=(const BlockWriter&) = delete;
 
     /// Writes a block, at most largest_block bytes before compression, through to the system.
     /// @return false if that has failed, now or before; errno has the reason the first time
@@ -35,19 +36,16 @@ public:
     static constexpr std::size_t empty_size = 13;            ///< of a file without blocks, bytes
 
 private:
-    std::FILE* file;
-    z_stream stream{};
+    std::unique_ptr<std::FILE, int (*)(std::FILE*)> file;
+    Stream stream;
     std::uint32_t checksum = 0;
-    bool failed = false;
+    bool failed;
 };
 
 class BlockReader {
 public:
     /// Throws BadFile for what isn't a replay, or not one for this program.
     explicit BlockReader(const std::string& path);
-    ~BlockReader();
-    BlockReader(const BlockReader&) = delete;
-    BlockReader& operator=(const BlockReader&) = delete;
 
     /// @return the next block's bytes; empty behind the last whole one. Throws BadFile if it isn't
     ///         as it was written.
@@ -62,7 +60,7 @@ private:
 
     std::string bytes; ///< the whole file
     std::size_t at = BlockWriter::empty_size;
-    z_stream stream{};
+    Stream stream;
     std::uint32_t checksum = 0;
 };
 

@@ -51,13 +51,12 @@ bool songIsDue(std::uint32_t clock) {
 Recorder::Recorder(const std::string& path) : file(path) {}
 
 std::uint32_t Recorder::clock() {
-    if (observing) return now;
+    if (observing && now) return *now;
     const std::uint32_t time = Tape::clock();
-    const auto passed = static_cast<std::int32_t>(time - now);
-    now = clockStarted ? now + static_cast<std::uint32_t>(std::max(passed, 0)) : time; // never back
-    clockStarted = true;
-    pass.clock.push_back(now);
-    return now;
+    const auto passed = static_cast<std::int32_t>(time - now.value_or(time));
+    now = time - static_cast<std::uint32_t>(std::min(passed, 0)); // never back
+    pass.clock.push_back(*now);
+    return *now;
 }
 
 int Recorder::poll(SDL_Event* event) {
@@ -145,7 +144,7 @@ bool Recorder::couldRepeat() const {
 
 void Recorder::endPass() {
     // Where all would do the same at the last of these times, that one is enough.
-    if (isPlain() && songIsDue(pass.clock.front()) == songIsDue(now)) pass.clock.assign(1, now);
+    if (isPlain() && songIsDue(pass.clock.front()) == songIsDue(*now)) pass.clock.assign(1, *now);
     pass.idle = std::exchange(idle, 0);
     if (!pass.clock.empty()) lastClock = pass.clock.back();
     keep(std::exchange(pass, {}));

@@ -5,6 +5,7 @@
 #include "replay/Records.h"
 #include "replay/Tape.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -56,11 +57,10 @@ private:
     SettingValues settings; ///< as they were kept last
     Pass pass;              ///< the one that is going on
     std::uint32_t emptyPolls = 0;
-    std::uint32_t lastClock = 0; ///< ms; that of the last kept pass after `endPass`
-    std::uint32_t now = 0;       ///< ms, as the game knows it
-    bool clockStarted = false;
-    int randomIndex = 0;    ///< in the random stream, when the pass began
-    std::uint64_t idle = 0; ///< passes since the last kept one that have to be repeated
+    std::uint32_t lastClock = 0;      ///< ms; that of the last kept pass after `endPass`
+    std::optional<std::uint32_t> now; ///< ms, as the game knows it; empty: not yet
+    int randomIndex = 0;              ///< in the random stream, when the pass began
+    std::uint64_t idle = 0;           ///< passes since the last kept one that have to be repeated
 };
 
 } // namespace quorva::replay

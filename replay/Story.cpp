@@ -29,15 +29,17 @@ bool isCatch(const PhysicsProcessor::Square& square) {
 
 /// In the rectangle that has just paid out.
 unsigned int caughtTriangles() {
-    const auto* const physics = activeComponent<PhysicsProcessor>();
-    if (physics == nullptr) return 0;
-    const auto square = std::find_if(physics->squares.begin(), physics->squares.end(), isCatch);
-    if (square == physics->squares.end()) return 0;
-    return static_cast<unsigned int>(std::count_if(
-        physics->entities.begin(), physics->entities.end(), [&](const Entity* entity) {
-            return entity->physics->type == physics::shape_triangle &&
-                   PhysicsProcessor::holds(*square, *entity->physics);
-        }));
+    const auto& processor = *activeComponent<PhysicsProcessor>(); // which has said so
+    unsigned int count = 0;
+    for (const PhysicsProcessor::Square& square : processor.squares) {
+        if (!isCatch(square)) continue;
+        for (const Entity* const entity : processor.entities)
+            if (entity->physics->type == physics::shape_triangle &&
+                PhysicsProcessor::holds(square, *entity->physics))
+                ++count;
+        break; // each rectangle is among them four times
+    }
+    return count;
 }
 
 } // namespace

@@ -115,10 +115,10 @@ const char* __wrap_SDL_JoystickName(int) {
     return "";
 }
 int __wrap_SDL_JoystickNumAxes(SDL_Joystick*) {
-    return 0;
+    return {};
 }
 int __wrap_SDL_JoystickNumButtons(SDL_Joystick*) {
-    return 0;
+    return {};
 }
 Sint16 __wrap_SDL_JoystickGetAxis(SDL_Joystick* joystick, int axis) {
     return tape().axis(joystick, axis);

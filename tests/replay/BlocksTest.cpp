@@ -6,7 +6,10 @@
 
 #include <boost/filesystem.hpp>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
+#include <cerrno>
+#include <csignal>
 #include <limits>
 
 using namespace quorva::replay;
@@ -45,7 +48,7 @@ TEST_F(Blocks, GrowNoMoreThanTheirShare) {
 }
 
 TEST_F(Blocks, AreAtMostSoLarge) {
-    std::string noise(BlockWriter::largest_block, ' ');
+    std::string noise(64U << 10U, ' ');
     std::uint32_t seed = 1;
     for (char& c : noise)
         c = static_cast<char>((seed = seed * 1664525 + 1013904223) >> 24U);
@@ -62,6 +65,26 @@ TEST_F(Blocks, AreAtMostSoLarge) {
     EXPECT_EQ(BlockReader(path).size(), largest_file);
     fs::resize_file(path, largest_file + 1);
     EXPECT_THROW(BlockReader reader(path), BadFile);
+}
+
+TEST_F(Blocks, FailForGoodOnAFullDisk) {
+    rlimit limit = {};
+    getrlimit(RLIMIT_FSIZE, &limit);
+    const auto setLimit = [&](rlim_t bytes) {
+        const rlimit changed = {bytes, limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &changed);
+    };
+    std::signal(SIGXFSZ, SIG_IGN);
+    BlockWriter writer(path);
+    EXPECT_TRUE(writer.write("all is well"));
+    const auto size = fs::file_size(path);
+    setLimit(size + 5);
+    EXPECT_FALSE(writer.write("all is well no more"));
+    EXPECT_EQ(errno, EFBIG);
+    setLimit(limit.rlim_cur);
+    EXPECT_FALSE(writer.write("nor later"));
+    EXPECT_EQ(fs::file_size(path), size + 5);
+    EXPECT_EQ(BlockReader(path).read(), "all is well");
 }
 
 TEST(BytesTest, ComeBackAsTheyWere) {

@@ -14,9 +14,22 @@
 using namespace quorva::replay;
 namespace fs = boost::filesystem;
 
+namespace {
+
+/// The number that the next file gets, if none is left open meanwhile.
+int freeFile() {
+    const int file = open("/", O_RDONLY);
+    close(file);
+    return file;
+}
+
+} // namespace
+
 TEST(PipeTest, GivesAllToTheProgramAndKnowsHowItEnded) {
     const fs::path file = fs::temp_directory_path() / fs::unique_path();
-    const std::string much(3U << 20U, 'x'); // more than a pipe holds
+    std::string much(3U << 20U, ' '); // more than a pipe holds
+    for (std::size_t i = 0; i < much.size(); ++i)
+        much[i] = static_cast<char>('a' + i % 23);
     Pipe pipe({"sh", "-c", "sleep 0.1; cat >" + file.string()});
     EXPECT_TRUE(pipe.write(much.data(), much.size()));
     EXPECT_TRUE(pipe.write("!", 1));
@@ -33,7 +46,9 @@ TEST(PipeTest, GivesAllToTheProgramAndKnowsHowItEnded) {
     EXPECT_FALSE(deaf.write(much.data(), 1)) << "nor later";
     EXPECT_FALSE(deaf.finish());
     EXPECT_FALSE(Pipe({"sh", "-c", "kill -KILL $$"}).finish());
+    const int nextFile = freeFile();
     EXPECT_THROW(Pipe({"no-such-program"}), std::runtime_error);
+    EXPECT_EQ(freeFile(), nextFile);
 }
 
 TEST(PipeTest, RunsProgramsToTheirEnd) {
@@ -45,7 +60,9 @@ TEST(PipeTest, RunsProgramsToTheirEnd) {
     EXPECT_EQ(runProgram({"true"}).code, 0);
     EXPECT_EQ(runProgram({"no-such-program"}).code, -1);
     EXPECT_EQ(runProgram({"sh", "-c", "kill -TERM $$; exit 1"}).code, -1) << "it gets its signals";
+    const int nextFile = freeFile();
     EXPECT_FALSE(runProgram({"true"}).interrupted);
+    EXPECT_EQ(freeFile(), nextFile);
     pthread_sigmask(SIG_UNBLOCK, &ours, &held);
     EXPECT_FALSE(sigismember(&held, SIGTERM)) << "only meanwhile";
     EXPECT_TRUE(sigismember(&held, SIGUSR1)) << "as before";

@@ -61,6 +61,12 @@ TEST_F(Layer, GoesThroughWithoutATape) {
     const auto before = std::chrono::steady_clock::now();
     usleep(20000);
     EXPECT_GE(std::chrono::steady_clock::now() - before, std::chrono::milliseconds(20));
+    FMOD_SOUND* effect = nullptr;
+    FMOD_CHANNEL* channel = nullptr;
+    FMOD_System_CreateSound(nullptr, "Sounds/hit.wav", 0, nullptr, &effect);
+    standins::sound().recording = true;
+    FMOD_System_PlaySound(nullptr, FMOD_CHANNEL_ANY, effect, 0, &channel);
+    EXPECT_EQ(standins::sound().take(), "play Sounds/hit.wav; ");
 }
 
 TEST_F(Layer, SilencesEffectsButNoSongAndWidensLines) {
@@ -137,6 +143,8 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     shape(GL_QUADS, {{0, 0}, {1, 0}, {1, 1}, {0, 1}, {0, 1}, {1, 1}, {1, 0}, {0, 0}});
     glCallList(5);
     glCallList(4);
+    shape(GL_TRIANGLE_STRIP, {{5, 5}, {6, 5}, {5, 6}, {6, 6}});
+    shape(GL_TRIANGLE_FAN, {{5, 5}, {6, 5}, {6, 6}, {5, 6}});
     shape(GL_LINE_LOOP, {{0, 0}, {0, -1}});
     const std::string picture = camera->take(800, 600);
     EXPECT_EQ(picture.find("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 800 600'>"), 0U);
@@ -150,6 +158,12 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
                   square + square + "' " + half +
                   "<path d='M380.0 320.0L380.0 300.0L400.0 320.0Z' " + half +
                   "<path d='M340.0 320.0L340.0 260.0L400.0 320.0Z' " + half +
+                  "<path d='M280.0 220.0L300.0 200.0L300.0 220.0Z"
+                  "M300.0 200.0L280.0 220.0L280.0 200.0Z' " +
+                  half +
+                  "<path d='M280.0 200.0L300.0 200.0L300.0 220.0Z"
+                  "M280.0 220.0L280.0 200.0L300.0 220.0Z' " +
+                  half +
                   "<path d='M400.0 320.0L420.0 320.0Z' fill='none' stroke='#ffffff' "
                   "stroke-width='2' opacity='0.5'/></g></svg>");
     EXPECT_TRUE(glRecorder().calls.empty());
