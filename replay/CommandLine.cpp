@@ -51,9 +51,9 @@ CommandLine::CommandLine(const Words& words, const std::vector<Option>& known, O
     files.assign(given + optind, given + count);
 }
 
-std::string CommandLine::value(const std::string& option) const {
+std::string CommandLine::value(const std::string& option, const std::string& unset) const {
     const auto found = values.find(option);
-    return found == values.end() ? "" : found->second;
+    return found == values.end() ? unset : found->second;
 }
 
 std::uint32_t toTime(const std::string& text) {

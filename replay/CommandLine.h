@@ -32,7 +32,8 @@ public:
     CommandLine(const Words& words, const std::vector<Option>& known, Order order = mixed);
 
     bool has(const std::string& option) const { return values.count(option) != 0; }
-    std::string value(const std::string& option) const; ///< empty if it isn't there
+    /// @param unset for an option that isn't there
+    std::string value(const std::string& option, const std::string& unset = "") const;
 
     Words files;
 

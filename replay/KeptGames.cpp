@@ -26,7 +26,7 @@ bool fits(const std::string& text, const std::string& pattern) {
 
 struct Kept {
     fs::path path;
-    KeptName name;
+    NamedGame name;
     std::uintmax_t size; ///< bytes
 };
 
@@ -36,7 +36,7 @@ std::vector<Kept> automaticGamesIn(const fs::path& folder) {
     for (const fs::path& path : replaysIn(folder)) {
         boost::system::error_code error; // somebody else may tidy up, too
         const std::uintmax_t size = fs::file_size(path, error);
-        const auto name = KeptName::parse(path.filename().string());
+        const auto name = parseName(path.filename().string());
         if (!error && name) games.push_back({path, *name, size});
     }
     std::stable_sort(games.begin(), games.end(),
@@ -74,10 +74,10 @@ KeptName KeptName::now(bool isAutomatic) {
     const std::time_t time = std::time(nullptr);
     char text[sizeof "-2147483648-12-31 23.59.59"];
     std::strftime(text, sizeof text, "%Y-%m-%d %H.%M.%S", std::localtime(&time));
-    return {text, 0, isAutomatic};
+    return {text, isAutomatic};
 }
 
-std::optional<KeptName> KeptName::parse(const std::string& fileName) {
+std::optional<NamedGame> parseName(const std::string& fileName) {
     const std::string end = automatic + replay_ending;
     const std::size_t dateEnd = std::strlen(date_pattern);
     if (fileName.size() < dateEnd + end.size()) return {};
@@ -88,14 +88,14 @@ std::optional<KeptName> KeptName::parse(const std::string& fileName) {
         (!score.empty() && !fits(score, ' ' + std::string(score.size() - 1, 'd'))) ||
         score.size() == 1 || score.size() > longest_score)
         return {};
-    return {{date, score.empty() ? 0 : static_cast<std::uint32_t>(std::stoul(score)), true}};
+    return {{date, score.empty() ? 0 : static_cast<std::uint32_t>(std::stoul(score))}};
 }
 
 std::string KeptName::unfinished() const {
     return date + (isAutomatic ? automatic : "") + replay_ending;
 }
 
-std::string KeptName::finished() const {
+std::string KeptName::finished(std::uint32_t score) const {
     return date + ' ' + std::to_string(score) + (isAutomatic ? automatic : "") + replay_ending;
 }
 

@@ -20,17 +20,22 @@ std::vector<boost::filesystem::path> replaysIn(const boost::filesystem::path& fo
 /// those alone are ever thrown out.
 struct KeptName {
     std::string date; ///< such as "2026-11-26 20.15.00", which also sorts by time
-    std::uint32_t score;
     bool isAutomatic;
 
-    static KeptName now(bool isAutomatic); ///< without score
-    /// @return empty if it isn't one of those that are kept by themselves. A game that broke off
-    ///         has no score in its name.
-    static std::optional<KeptName> parse(const std::string& fileName);
+    static KeptName now(bool isAutomatic);
 
     std::string unfinished() const; ///< the file's name, without score
-    std::string finished() const;   ///< with it
+    std::string finished(std::uint32_t score) const;
 };
+
+/// What the name of a game tells that was kept by itself.
+struct NamedGame {
+    std::string date;
+    std::uint32_t score; ///< 0: none is named, the game broke off
+};
+
+/// @return empty if it isn't such a name
+std::optional<NamedGame> parseName(const std::string& fileName);
 
 /// What stays of the games that are kept by themselves.
 struct KeepLimits {

@@ -76,7 +76,7 @@ private:
     Progress progress_;
     std::vector<GameEnd> results_;
     std::string difference_, damage_;
-    bool prepared = false, observing = false, ending = false;
+    bool prepared = false, ending = false;
     std::uint32_t lastEqual = 0; ///< tick
 
     Pass pass_; ///< `idle` counts down: what is still to be played before it

@@ -38,9 +38,13 @@ Tape& tape() {
 
 } // namespace
 
-void insert(Tape* tape) {
-    inserted = tape;
+Insertion::Insertion(Tape& tape) {
+    inserted = &tape;
     graphics::Renderer::drawsFrame = [] { return replay::tape().draws(); };
+}
+
+Insertion::~Insertion() {
+    inserted = nullptr;
 }
 
 std::uint32_t Tape::clock() {

@@ -38,7 +38,14 @@ protected:
     static void placeViewport(int x, int y, int width, int height); ///< in the window
 };
 
-/// From now on the calls go to this tape, which the caller owns; null: to the libraries again.
-void insert(Tape* tape);
+/// While it lasts, the calls go to this tape; then to the libraries again. One at a time.
+class Insertion {
+public:
+    /// @param tape not owned
+    explicit Insertion(Tape& tape);
+    ~Insertion();
+    Insertion(const Insertion&) = delete;
+    Insertion& operator=(const Insertion&) = delete;
+};
 
 } // namespace quorva::replay

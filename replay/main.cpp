@@ -54,8 +54,8 @@ constexpr int smallest_picture = 16, largest_picture = 8192; // pixels
 
 /// Folders that are given in front of the command.
 struct Folders {
-    fs::path data = ".";          ///< of the game
-    fs::path replays = "Replays"; ///< where games are kept that have no other place
+    fs::path data;    ///< of the game
+    fs::path replays; ///< where games are kept that have no other place
 };
 
 /// By SIGINT, SIGTERM or SIGHUP.
@@ -82,8 +82,7 @@ fs::path finishFile(const fs::path& path, const Recorder& recorder, KeptName* na
         return {};
     }
     if (name == nullptr) return path;
-    name->score = recorder.bestScore;
-    const fs::path finished = path.parent_path() / name->finished();
+    const fs::path finished = path.parent_path() / name->finished(recorder.bestScore);
     fs::rename(path, finished, ignored);
     return fs::exists(finished) ? finished : path;
 }
@@ -108,10 +107,9 @@ void removeIfEmptyAtExit(const fs::path& path) {
 /// @param name by which it is kept; null if the path is the player's choice
 int record(Recorder& recorder, const fs::path& path, KeptName* name, const Words& gameOptions) {
     removeIfEmptyAtExit(path);
-    insert(&recorder);
+    const Insertion insertion(recorder);
     const int code = quorva::headless::runGameMain(gameOptions);
     recorder.finish();
-    insert(nullptr);
     const fs::path kept = finishFile(path, recorder, name);
     const bool isAutomatic = name != nullptr && name->isAutomatic;
     if (isAutomatic) tidy(path.parent_path());
@@ -145,7 +143,6 @@ int record(const Folders& folders, const Words& words) {
 /// Says what has been found; the window is gone.
 int judge(Playback& playback, std::uint32_t start) {
     playback.finish();
-    insert(nullptr);
     if (!playback.damage().empty()) return complain(playback.damage());
     if (!playback.difference().empty()) {
         complain(playback.difference());
@@ -165,20 +162,18 @@ fs::path demonstration(const Folders& folders) {
 int watch(const Folders& folders, const Words& words) {
     const CommandLine line(words, {{"speed", true}, {"from", true}});
     requireFiles(line, 0, 1);
-    const std::string speed = line.value("speed"), from = line.value("from");
     const std::string path =
         fs::absolute(line.files.empty() ? demonstration(folders) : fs::path(line.files[0]))
             .string();
     const Summary summary(path);
-    const Watcher::Times times = {summary.start, summary.length, from.empty() ? 0 : toTime(from),
-                                  speed.empty() ? 1.0
-                                                : toSpeed(speed, Pace::slowest, Pace::fastest)};
+    const Watcher::Times times = {summary.start, summary.length, toTime(line.value("from", "0")),
+                                  toSpeed(line.value("speed", "1"), Pace::slowest, Pace::fastest)};
     requireDisplay();
     const fs::path songs = fs::absolute(folders.data) / "Songs";
     Script script(path);
     const Stage stage(folders.data, script.setup);
     Watcher watcher(script, songs, times);
-    insert(&watcher);
+    const Insertion insertion(watcher);
     runGame(script.setup);
     return judge(watcher, summary.start);
 }
@@ -232,10 +227,10 @@ void takeSize(const std::string& size, Film::Format& format) {
 
 Film::Format toFormat(const CommandLine& line, const Summary& summary) {
     const SettingValues& settings = summary.setup.settings;
-    Film::Format format = {valueOf(settings, 'w'), valueOf(settings, 'l'), summary.start, 0,
+    Film::Format format = {valueOf(settings, 'w'), valueOf(settings, 'l'),
+                           summary.start,          toTime(line.value("from", "0")),
                            summary.length,         line.has("full")};
     if (line.has("size")) takeSize(line.value("size"), format);
-    if (line.has("from")) format.from = toTime(line.value("from"));
     if (line.has("to")) format.to = std::min(format.to, toTime(line.value("to")));
     if (format.from >= format.to)
         throw std::runtime_error("the file is " + minutes(summary.length) +
@@ -257,7 +252,7 @@ int film(const Folders& folders, const Words& words) {
     Script script(path);
     const Stage stage(folders.data, script.setup);
     Film film(script, songs, format);
-    insert(&film);
+    const Insertion insertion(film);
     runGame(script.setup);
     const int code = judge(film, summary.start);
     if (code != exit_interrupted) film.finishFilm(out);
@@ -337,9 +332,7 @@ int run(const Words& words) {
     if (line.has("version")) return sayVersion();
     if (line.files.empty()) throw BadUsage("");
     // The launcher says where the game is installed; what the user says comes behind it.
-    Folders folders;
-    if (line.has("data")) folders.data = line.value("data");
-    if (line.has("replays")) folders.replays = line.value("replays");
+    const Folders folders = {line.value("data", "."), line.value("replays", "Replays")};
     for (const auto& command : commands)
         if (line.files[0] == command.name)
             return command.run(folders, Words(line.files.begin() + 1, line.files.end()));

@@ -65,13 +65,12 @@ int verify(const CommandLine& line) {
     Verifier verifier(script, stage.shipped, line.has("report"));
     Meter meter;
     verifier.onProgress = [&meter](double part) { meter.show(part); };
-    insert(&verifier);
+    const Insertion insertion(verifier);
     std::cerr.setstate(std::ios::failbit); // what the game had to say is of no interest
     runGame(script.setup);
     std::cerr.clear();
     verifier.finish();
     meter.clear();
-    insert(nullptr);
     if (!verifier.damage().empty()) throw BadFile(verifier.damage());
     if (line.has("report"))
         writeReport(reportPath, verifier.report());

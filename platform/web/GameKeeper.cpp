@@ -22,13 +22,7 @@ std::string makeRoom(const std::string& file) {
 } // namespace
 
 GameKeeper::GameKeeper()
-    : name(replay::KeptName::now(true)), path(makeRoom(name.unfinished())), recorder(path) {
-    replay::insert(&recorder);
-}
-
-GameKeeper::~GameKeeper() {
-    replay::insert(nullptr);
-}
+    : name(replay::KeptName::now(true)), path(makeRoom(name.unfinished())), recorder(path) {}
 
 void GameKeeper::look() {
     if (recorder.games != namedGames) nameByScore();
@@ -43,8 +37,7 @@ void GameKeeper::finish() {
 
 void GameKeeper::nameByScore() {
     namedGames = recorder.games;
-    name.score = recorder.bestScore;
-    const std::string named = folder + '/' + name.finished();
+    const std::string named = folder + '/' + name.finished(recorder.bestScore);
     boost::system::error_code error; // it keeps the name that it has
     if (named != path) fs::rename(path, named, error);
     if (!error) path = named;

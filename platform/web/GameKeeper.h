@@ -12,9 +12,6 @@ class GameKeeper {
 public:
     /// Throws std::runtime_error with the reason if there can be no file.
     GameKeeper();
-    ~GameKeeper();
-    GameKeeper(const GameKeeper&) = delete;
-    GameKeeper& operator=(const GameKeeper&) = delete;
 
     /// After each pass: once a game has ended, its score goes into the file's name. Few players
     /// end the program before they leave the page.
@@ -29,6 +26,7 @@ private:
     replay::KeptName name;
     std::string path;
     replay::Recorder recorder;
+    replay::Insertion insertion{recorder};
     unsigned int namedGames = 0; ///< that the file's name knows of
 };
 

@@ -46,14 +46,13 @@ std::uint32_t tickSeen = 0;              // the last that has been drawn
 /// A kept game that is watched.
 struct Watched {
     explicit Watched(const std::string& path)
-        : summary(path), script(path), stage("/kov", script.setup), watcher(script, summary) {
-        replay::insert(&watcher);
-    }
+        : summary(path), script(path), stage("/kov", script.setup), watcher(script, summary) {}
 
     replay::Summary summary;
     replay::Script script;
     replay::Stage stage;
     web::PageWatcher watcher;
+    replay::Insertion insertion{watcher};
     bool hasEnded = false;
     std::string verdict; ///< once it has ended; empty: as it was recorded
 };

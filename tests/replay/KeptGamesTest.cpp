@@ -92,25 +92,23 @@ TEST_F(KeptGames, TwentyAndTenAndFiftyMegabytesStay) {
 
 TEST_F(KeptGames, NamesTellWhenAndHowWell) {
     KeptName name = KeptName::now(true);
-    auto read = KeptName::parse(name.unfinished());
+    auto read = parseName(name.unfinished());
     ASSERT_TRUE(read);
     EXPECT_EQ(read->date, name.date);
     EXPECT_EQ(read->score, 0U);
-    EXPECT_TRUE(read->isAutomatic);
-    name.score = 45567;
-    read = KeptName::parse(name.finished());
+    read = parseName(name.finished(45567));
     ASSERT_TRUE(read);
     EXPECT_EQ(read->score, 45567U);
     name.isAutomatic = false;
-    EXPECT_FALSE(KeptName::parse(name.finished()));
-    read = KeptName::parse(at(10, " 999999999 auto"));
+    EXPECT_FALSE(parseName(name.finished(45567)));
+    read = parseName(at(10, " 999999999 auto"));
     ASSERT_TRUE(read);
     EXPECT_EQ(read->score, 999999999U);
     for (const char* rest :
          {"  auto", " 1000000000 auto", " 1x auto", "1 auto", " 1 aut", " -1 auto", ""})
-        EXPECT_FALSE(KeptName::parse(at(10, rest))) << rest;
-    EXPECT_FALSE(KeptName::parse(""));
-    EXPECT_EQ(name.finished(), name.date + " 45567.kovreplay");
+        EXPECT_FALSE(parseName(at(10, rest))) << rest;
+    EXPECT_FALSE(parseName(""));
+    EXPECT_EQ(name.finished(45567), name.date + " 45567.kovreplay");
 }
 
 TEST_F(KeptGames, AProofIsMadeOnceForEachFileProgramAndFolder) {

@@ -90,7 +90,7 @@ protected:
             };
             press();
             Recorder recorder(path);
-            insert(&recorder);
+            const Insertion insertion(recorder);
             headless::runGameMain({});
             recorder.finish();
             std::_Exit(0);
@@ -483,7 +483,7 @@ TEST_F(Replay, AWatcherTakesKeysWhileNothingIsShown) {
         Script script("a");
         const Stage stage(KOV_SOURCE_DIR, script.setup);
         EscapingWatcher watcher(script, "Songs", {0, 1000, 0, 1.0});
-        insert(&watcher);
+        const Insertion insertion(watcher);
         runGame(script.setup);
         std::_Exit(watcher.passes < 1010 ? 0 : 1);
     };
@@ -593,13 +593,12 @@ TEST(Frames, StayEmptyWhileTheTapeShowsNone) {
     game.startLevel();
     game.process();
     for (Tape* const tape : {static_cast<Tape*>(&none), &any}) {
-        insert(tape);
+        const Insertion insertion(*tape);
         standins::glRecorder().start();
         game.frame();
         EXPECT_EQ(standins::glRecorder().callsTo("glVertex3f").empty(), tape == &none);
     }
     standins::glRecorder().stop();
-    insert(nullptr);
 }
 
 TEST(StageTest, HasTheColoursAndPointsOfTheGame) {

@@ -35,7 +35,6 @@ class Layer : public testing::Test {
 protected:
     void SetUp() override { sdl() = {}; }
     void TearDown() override {
-        insert(nullptr);
         glRecorder().stop();
         sdl() = {};
         standins::sound() = {};
@@ -71,7 +70,7 @@ TEST_F(Layer, GoesThroughWithoutATape) {
 
 TEST_F(Layer, SilencesEffectsButNoSongAndWidensLines) {
     Changed tape;
-    insert(&tape);
+    const Insertion insertion(tape);
     FMOD_SOUND *effect = nullptr, *song = nullptr;
     FMOD_CHANNEL* channel = nullptr;
     FMOD_System_CreateSound(nullptr, "Sounds/hit.wav", 0, nullptr, &effect);

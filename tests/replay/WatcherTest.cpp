@@ -2,6 +2,7 @@
 
 #include "replay/Watcher.h"
 #include "headless/Sandbox.h"
+#include "platform/standins/GLRecorder.h"
 #include "platform/standins/SoundRecorder.h"
 #include "platform/standins/VirtualSDL.h"
 #include "replay/Stage.h"
@@ -32,7 +33,7 @@ public:
         : Watcher(script_, "Songs", times_), times(times_) {}
 
     double worst = 0.0; ///< ms of the session
-    unsigned int shown = 0;
+    unsigned int shown = 0, titles = 0;
 
 private:
     void moveOn() override {
@@ -41,7 +42,11 @@ private:
     }
     void show() override {
         const std::uint64_t before = sdl().swaps;
+        standins::glRecorder().start();
         Watcher::show();
+        for (const standins::GLCall& call : standins::glRecorder().calls)
+            titles += call.name.find("SDL_WM_SetCaption") == 0 ? 1 : 0;
+        standins::glRecorder().stop();
         if (sdl().swaps == before) return;
         ++shown;
         compare();
@@ -69,7 +74,7 @@ using Step = std::function<void(Timed&)>;
     const Stage stage(KOV_SOURCE_DIR, script.setup);
     Timed watcher(script, {summary.start, summary.length, how.from, how.speed});
     if (begin) begin(watcher);
-    insert(&watcher);
+    const Insertion insertion(watcher);
     runGame(script.setup);
     judge(watcher);
     std::_Exit(0);
@@ -86,15 +91,16 @@ protected:
 TEST_F(WatcherDeathTest, KeepsTheTimeOfTheGame) {
     const auto judge = [](Timed& watcher) {
         std::cerr << watcher.shown << " shown, " << watcher.worst << " ms late, "
-                  << standins::sound().updates << " updates" << watcher.difference();
+                  << standins::sound().updates << " updates, " << watcher.titles << " titles"
+                  << watcher.difference();
     };
     const struct {
         How how;
         const char* words; ///< a nap is 5 ms; besides, the game looks at the sound 999 times
-    } cases[] = {{{1.0, 0}, "^1000 shown, 0 ms late, 6999 updates$"},
-                 {{0.5, 10000}, "^666 shown, 0 ms late, 8999 updates$"},
-                 {{2.0, 20000}, "^333 shown, 0 ms late, 1999 updates$"},
-                 {{64.0, 0}, "^1000 shown, 310 ms late, 1093 updates$"}};
+    } cases[] = {{{1.0, 0}, "^1000 shown, 0 ms late, 6999 updates, 30 titles$"},
+                 {{0.5, 10000}, "^666 shown, 0 ms late, 8999 updates, 20 titles$"},
+                 {{2.0, 20000}, "^333 shown, 0 ms late, 1999 updates, 10 titles$"},
+                 {{64.0, 0}, "^1000 shown, 310 ms late, 1093 updates, 30 titles$"}};
     for (const auto& c : cases)
         EXPECT_EXIT(watch(kept, c.how, {}, judge), testing::ExitedWithCode(0), c.words);
 }

@@ -78,13 +78,20 @@ sleep 1
 press Return && sleep 0.5
 press w Escape && sleep 0.5 && press Up Return
 ends "keeping by itself" 0 ""
-grep -q "kept in" said && fail "keeping by itself: $(cat said)"
+grep -qv "bind1.conf" said && fail "keeping by itself: $(cat said)" # no file is named
 [ "$(find auto -name '*.kovreplay' -size +0 | grep -c ' 0 auto')" = 1 ] || fail "kept: $(ls auto)"
 [ "$(find auto -type f | wc -l)" = 20 ] || fail "kept: $(ls auto)"
 start --replays none record --auto
 kill -TERM "$(pgrep -P $process)"
 ends "nothing to keep" 0 ""
 [ ! -e none ] || fail "nothing to keep, and yet: $(ls none)"
+grep -q "can't write" said && fail "nothing to keep: $(cat said)"
+start --replays /dev/null record --auto
+kill -TERM "$(pgrep -P $process)"
+ends "keeping where nothing can be" 0 "kov-replay: can't write /dev/null/"
+DISPLAY=:9999 expect "no display, no file" 2 "there is no display here" record none.kovreplay
+GALLIUM_DRIVER=none expect "no window, no file" 255 "" record none.kovreplay
+[ ! -e none.kovreplay ] || fail "a game that wasn't there was kept"
 
 expect "show" 0 "4 shots, 0 of them a side" show one.kovreplay
 grep -q "1 pause of 0:0[0-2]" said || fail "show tells no pause: $(cat said)"
@@ -98,12 +105,42 @@ cmp -s one.kovreplay page/one.kovreplay || fail "best: the file to download"
 head -c $(($(stat -c %s one.kovreplay) - 9)) one.kovreplay >cut.kovreplay
 cp one.kovreplay longer.kovreplay && echo >>longer.kovreplay
 expect "watching a damaged one" 2 "the file is damaged" watch longer.kovreplay --speed 64
-for wrong in "" nonsense verify "watch a b" "film a" "show a b" "best a b"; do
+for wrong in "" verify "record a b" "record --auto a" "watch a b" "film a" "film a b c" show \
+    "show a b" "best a b" "--page a best"; do
     # shellcheck disable=SC2086 # words
     expect "usage: $wrong" 2 "usage: kov-replay record" $wrong
+    [[ $wrong == --* ]] || [[ $(cat said) == usage:* ]] || fail "usage: $wrong: $(head -n 1 said)"
 done
+expect "usage: nonsense" 2 "no such command: nonsense" nonsense
+expect "usage: a page with the web's" 2 "--with-web wants --page" best . --with-web .
+expect "help" 0 "usage: kov-replay record" --replays a --replays b --help
 expect "best of nowhere" 2 "no such folder" best nowhere
 expect "best of none" 0 "no games are kept in" best tmp
+expect "best where nothing was kept" 0 "no games are kept in $folder/nowhere" --replays nowhere best
+
+# The best ten, of which one is forged, and a file that is none. Proofs stay as long as their game and
+# the program that has made them.
+mkdir many
+for seed in $(seq 1 12); do "$record" many/$seed.kovreplay --seed $seed --ticks 300 >/dev/null; done
+"$record" forged.kovreplay --seed 1 --ticks 300 --forge 1 >/dev/null
+cp forged.kovreplay many/
+echo nonsense >many/nonsense.kovreplay
+expect "best of many" 0 "forged.kovreplay: differs at tick" best many
+[ "$(grep -c '^ *[0-9]*\. ' said)" = 10 ] || fail "best of many: $(cat said)"
+[ "$(ls many/.proofs | wc -l)" = 13 ] || fail "proofs: $(ls many/.proofs)"
+rm many/[3-9].kovreplay many/1?.kovreplay
+cp "$(dirname "$replay")"/kov-replay{,-verify} bin
+expect "best of fewer" 0 "2.kovreplay" best many
+before=$(ls many/.proofs)
+[ "$(echo "$before" | wc -l)" = 3 ] || fail "proofs that stay: $before"
+echo >>bin/kov-replay-verify
+replay=bin/kov-replay expect "best, by another program" 0 "2.kovreplay" best many
+comm -12 <(echo "$before") <(ls many/.proofs) | grep -q . && fail "proofs of another program"
+for how in verify "watch --speed 64" "film --size 64x48 --from 0:08"; do
+    target=$([[ $how != film* ]] || echo forged.mp4)
+    # shellcheck disable=SC2086 # words
+    expect "a forged one: $how" 1 "differs at tick 200" $how forged.kovreplay $target
+done
 expect "no file" 2 "nothing.kovreplay: no such file, or none that can be read" \
     verify nothing.kovreplay
 expect "several files, one cut off" 0 "holds, but is cut off" verify cut.kovreplay one.kovreplay
@@ -126,6 +163,19 @@ grep -q "[0-9] % " said && grep -q $'\r      \r.*: holds' said || fail "verify o
 timeout -s TERM 0.3 sh -c 'trap "" TERM; exec "$@"' sh \
     "$replay" --data "$sources" verify long.kovreplay >said
 grep -q ": holds" said || fail "verify, TERM ignored: $(cat said)"
+for signal in TERM KILL; do
+    words=$([ $signal = TERM ] && echo interrupted || echo "the game has failed")
+    code=$([ $signal = TERM ] && echo 3 || echo 1)
+    "$replay" --data "$sources" verify long.kovreplay >said 2>&1 </dev/null &
+    process=$!
+    until [ -n "$(ls tmp)" ]; do sleep 0.02; done
+    pkill -$signal -P $process
+    ends "verify, $signal to the one that plays" $code "$words"
+    rm -rf tmp/*
+done
+timeout --preserve-status -s TERM 0.3 "$replay" --data "$sources" verify long.kovreplay >said 2>&1 &
+process=$!
+ends "verify, TERM" 3 "interrupted"
 timeout -s KILL 1 "$record" killed.kovreplay --seed 3 --ticks 10000000 >/dev/null 2>&1
 expect "a game that was killed" 0 "holds, but is cut off" verify killed.kovreplay
 ticks=$(sed -n 's/.*replay: \([0-9]*\) ticks.*/\1/p' said)

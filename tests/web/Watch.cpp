@@ -37,6 +37,7 @@ private:
 
 std::unique_ptr<Script> script; // for as long as the page
 std::unique_ptr<Watcher> watcher;
+std::unique_ptr<Insertion> insertion;
 
 } // namespace
 
@@ -49,7 +50,7 @@ int main() {
     try {
         script = std::make_unique<Script>("/game.kovreplay");
         watcher = std::make_unique<Watcher>(*script);
-        insert(watcher.get());
+        insertion = std::make_unique<Insertion>(*watcher);
         return runGame(script->setup);
     } catch (const std::exception& e) {
         std::cerr << "kov_watch: " << e.what() << '\n';

@@ -1,8 +1,8 @@
 // Lets the bot play and keeps its game: for the games that the tests play again.
 //   kov_record FILE [--seed S] [--ticks N] [--pages 1] [--songs N] [--stick 1] [--music 0]
-//     [--idle N] [--wait S] [--song-length MS]
+//     [--idle N] [--wait S] [--song-length MS] [--forge 1]
 // With --idle, N passes go by between two ticks, as on a real machine; with --wait, the game stands
-// in a pause for S seconds halfway.
+// in a pause for S seconds halfway; with --forge, a point comes from nowhere there.
 
 #include "headless/Bot.h"
 #include "headless/GameMain.h"
@@ -64,11 +64,12 @@ void makeSongs(unsigned long count, unsigned long length) {
 int main(int argc, char* argv[]) {
     Options options = {{"--seed", 1},  {"--ticks", 5000}, {"--pages", 0},
                        {"--songs", 0}, {"--stick", 0},    {"--music", 1},
-                       {"--idle", 0},  {"--wait", 0},     {"--song-length", 20000}};
+                       {"--idle", 0},  {"--wait", 0},     {"--song-length", 20000},
+                       {"--forge", 0}};
     if (!parse(argc, argv, options)) {
         std::cerr << "usage: kov_record FILE [--seed S] [--ticks N] [--pages 1] [--songs N] "
                      "[--stick 1] [--music 0] [--idle N] [--wait S] "
-                     "[--song-length MS]\n";
+                     "[--song-length MS] [--forge 1]\n";
         return 2;
     }
     const std::string path = boost::filesystem::absolute(argv[1]).string();
@@ -88,10 +89,11 @@ int main(int argc, char* argv[]) {
         if (options["--wait"] != 0) waitAt(passes, options["--ticks"] / 2, options["--wait"]);
         bot.play();
         if (options["--stick"] != 0) moveStick(passes);
+        if (passes == options["--ticks"] / 2) Marvo::Instance().score += options["--forge"];
         if (++passes == options["--ticks"]) standins::pushQuit();
     };
     replay::Recorder recorder(path);
-    replay::insert(&recorder);
+    const replay::Insertion insertion(recorder);
     const int code = headless::runGameMain({options["--music"] != 0 ? "-m" : "-M"});
     recorder.finish();
     std::cout << passes << " passes, games " << bot.games << ", best score " << recorder.bestScore
