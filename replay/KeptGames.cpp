@@ -39,9 +39,7 @@ std::vector<Kept> automaticGamesIn(const fs::path& folder) {
         const auto name = parseName(path.filename().string());
         if (!error && name) games.push_back({path, *name, size});
     }
-    std::stable_sort(games.begin(), games.end(),
-                     [](const Kept& a, const Kept& b) { return a.name.date < b.name.date; });
-    return games;
+    return games; // by their names, which begin with the date
 }
 
 /// Their places, by falling score, the latest first of equals.

@@ -111,7 +111,7 @@ ProgramEnd runProgram(const std::vector<std::string>& words) {
     int status;
     while (process != -1 && waitpid(process, &status, WNOHANG) == 0) {
         const int signal = sigwaitinfo(&held, nullptr);
-        if (signal < 0 || signal == SIGCHLD) continue; // below 0: stopped and continued
+        if (signal == -1 || signal == SIGCHLD) continue; // -1: stopped and continued
         end.interrupted = true;
         kill(process, SIGTERM);
     }

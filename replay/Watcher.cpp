@@ -20,7 +20,7 @@ bool Watcher::draws() {
 
 /// Here, so that the music of a pause stands as long as the picture does.
 void Watcher::moveOn() {
-    if (hasBegun && draws()) waitFor(sessionTime());
+    if (hasBegun) waitFor(sessionTime());
 }
 
 void Watcher::show() {

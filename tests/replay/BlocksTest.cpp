@@ -111,6 +111,35 @@ TEST(BytesTest, ComeBackAsTheyWere) {
     EXPECT_THROW(in.byte(), BadFile);
 }
 
+TEST(RecordsTest, ComeBackAsTheyWere) {
+    Pass pass;
+    pass.idle = 7;
+    pass.clock = {4000000000U, 4000000000U, 5}; // around 2^32
+    pass.events = {{3, Event::key_down, 0x10ffff}, {4, Event::axis_moved, 0}};
+    pass.axes = {5, -7, 32767, -32768, -32768};
+    pass.songs = {{23, 0}, {0, 4000000000U}};
+    RecordWriter writer;
+    ByteWriter out;
+    for (int times = 0; times < 2; ++times, pass.clock = {100, 100})
+        writer.write(Record(pass), out);
+    pass.clock = {4000000000U, 4000000000U, 5};
+    ByteReader in(out.bytes);
+    RecordReader reader;
+    for (int times = 0; times < 2; ++times) {
+        const Pass read = std::get<Pass>(reader.read(in));
+        EXPECT_EQ(read.idle, pass.idle);
+        EXPECT_EQ(read.clock, pass.clock);
+        EXPECT_EQ(read.axes, pass.axes);
+        EXPECT_EQ(read.events.at(0).emptyPolls, 3U);
+        EXPECT_EQ(read.events.at(0).which, 0x10ffff);
+        EXPECT_EQ(read.events.at(1).kind, Event::axis_moved);
+        EXPECT_EQ(read.songs.at(0).result, 23U);
+        EXPECT_EQ(read.songs.at(1).length, 4000000000U);
+        pass.clock = {100, 100};
+    }
+    EXPECT_EQ(in.left(), 0U);
+}
+
 TEST(BytesTest, DamageIsSeen) {
     using namespace std::string_literals;
     const auto refuses = [](const std::string& bytes, auto read) {

@@ -107,7 +107,10 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     camera->skip();
     EXPECT_TRUE(glRecorder().calls.empty());
 
-    makeList(5, 1.0F);                       // in its place
+    makeList(5, 1.0F); // in its place
+    glPushMatrix();
+    glScalef(9.0F, 9.0F, 9.0F);
+    glPopMatrix();
     shape(GL_LINES, {{-20, -15}, {20, 15}}); // as the game's last frame has left it
     glScalef(9.0F, 9.0F, 9.0F);
     glMatrixMode(GL_PROJECTION);

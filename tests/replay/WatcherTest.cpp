@@ -103,6 +103,11 @@ TEST_F(WatcherDeathTest, KeepsTheTimeOfTheGame) {
                  {{64.0, 0}, "^1000 shown, 310 ms late, 1093 updates, 30 titles$"}};
     for (const auto& c : cases)
         EXPECT_EXIT(watch(kept, c.how, {}, judge), testing::ExitedWithCode(0), c.words);
+    edited(kept, ofFirst<Pass>([](Pass& p) { // a clock that goes on before the first frame
+               p.clock.insert(p.clock.begin(), p.clock.front() - 20);
+           }));
+    EXPECT_EXIT(watch("edited", {1.0, 0}, {}, judge), testing::ExitedWithCode(0),
+                "^1000 shown, 0 ms late, 6999 updates, 30 titles");
 }
 
 TEST_F(WatcherDeathTest, StandsAndStepsByKeys) {

@@ -173,6 +173,13 @@ for signal in TERM KILL; do
     ends "verify, $signal to the one that plays" $code "$words"
     rm -rf tmp/*
 done
+"$replay" --data "$sources" verify long.kovreplay >said 2>&1 </dev/null &
+process=$!
+until [ -n "$(ls tmp)" ]; do sleep 0.02; done
+kill -KILL $process && wait $process 2>/dev/null
+while pgrep -f "kov-replay-verify.* long.kovreplay" >/dev/null; do sleep 0.02; done
+grep -q ": holds" said && fail "verify went on, all alone"
+rm -rf tmp/*
 timeout --preserve-status -s TERM 0.3 "$replay" --data "$sources" verify long.kovreplay >said 2>&1 &
 process=$!
 ends "verify, TERM" 3 "interrupted"
