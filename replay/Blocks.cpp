@@ -37,9 +37,9 @@ void setBuffers(z_stream& stream, const char* input, std::size_t inputSize, std:
 } // namespace
 
 BlockWriter::BlockWriter(const std::string& path)
-    : file(std::fopen(path.c_str(), "wbx"), std::fclose), stream(new z_stream(), deflateEnd) {
+    : file(std::fopen(path.c_str(), "wbx"), std::fclose) {
     if (file == nullptr) throw std::runtime_error(std::strerror(errno));
-    deflateInit(stream.get(), Z_BEST_COMPRESSION);
+    deflateInit(&stream, Z_BEST_COMPRESSION);
     const std::string head =
         magic + static_cast<char>(format_version) + static_cast<char>(rule_set);
     failed = std::fwrite(head.data(), 1, head.size(), file.get()) != head.size();
@@ -47,10 +47,10 @@ BlockWriter::BlockWriter(const std::string& path)
 
 bool BlockWriter::write(const std::string& bytes) {
     if (failed) return false;
-    std::string output(deflateBound(stream.get(), bytes.size()) + free_growth, '\0');
-    setBuffers(*stream, bytes.data(), bytes.size(), output);
-    deflate(stream.get(), Z_SYNC_FLUSH); // has room, so it can't fail
-    output.resize(output.size() - stream->avail_out);
+    std::string output(deflateBound(&stream, bytes.size()) + free_growth, '\0');
+    setBuffers(stream, bytes.data(), bytes.size(), output);
+    deflate(&stream, Z_SYNC_FLUSH); // has room, so it can't fail
+    output.resize(output.size() - stream.avail_out);
     checksum = checksumBehind(checksum, bytes);
 
     ByteWriter head;
@@ -63,7 +63,7 @@ bool BlockWriter::write(const std::string& bytes) {
     return !failed;
 }
 
-BlockReader::BlockReader(const std::string& path) : stream(new z_stream(), inflateEnd) {
+BlockReader::BlockReader(const std::string& path) {
     std::ifstream file = utility::openForReading(path, largest_file);
     if (!file) throw BadFile("no such file, or none that can be read");
     bytes.assign(std::istreambuf_iterator<char>(file), {});
@@ -73,7 +73,7 @@ BlockReader::BlockReader(const std::string& path) : stream(new z_stream(), infla
         throw BadFile("the file is of a newer version of KOV");
     if (static_cast<std::uint8_t>(bytes[magic.size() + 1]) != rule_set)
         throw BadFile("the game was played by the rules of another version of KOV");
-    inflateInit(stream.get());
+    inflateInit(&stream);
 }
 
 std::uint32_t BlockReader::number(std::size_t offset) const {
@@ -99,9 +99,9 @@ std::string BlockReader::read() {
 
 std::string BlockReader::inflated(std::size_t compressedSize, std::size_t rawSize) {
     std::string block(rawSize + 1, '\0'); // one more shows a block that is too long
-    setBuffers(*stream, bytes.data() + at, compressedSize, block);
-    const int result = inflate(stream.get(), Z_SYNC_FLUSH);
-    if (result != Z_OK || stream->avail_in != 0 || stream->avail_out != 1) damaged();
+    setBuffers(stream, bytes.data() + at, compressedSize, block);
+    const int result = inflate(&stream, Z_SYNC_FLUSH);
+    if (result != Z_OK || stream.avail_in != 0 || stream.avail_out != 1) damaged();
     block.pop_back();
     return block;
 }

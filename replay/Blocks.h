@@ -20,8 +20,8 @@ constexpr std::uint8_t format_version = 2;
 /// Another one is refused.
 constexpr std::uint8_t rule_set = 2;
 
-/// Of zlib, with the function that ends it.
-using Stream = std::unique_ptr<z_stream, int (*)(z_stream*)>;
+/// Ends a stream of zlib, of which it isn't the owner, at the end of its scope.
+using StreamEnd = const std::unique_ptr<z_stream, int (*)(z_stream*)>;
 
 class BlockWriter {
 public:
@@ -37,7 +37,8 @@ public:
 
 private:
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> file;
-    Stream stream;
+    z_stream stream{};
+    StreamEnd streamEnd{&stream, deflateEnd};
     std::uint32_t checksum = 0;
     bool failed;
 };
@@ -60,7 +61,8 @@ private:
 
     std::string bytes; ///< the whole file
     std::size_t at = BlockWriter::empty_size;
-    Stream stream;
+    z_stream stream{};
+    StreamEnd streamEnd{&stream, inflateEnd};
     std::uint32_t checksum = 0;
 };
 

@@ -178,6 +178,8 @@ TEST_F(KeptGames, TheBestAreInOrderAndNotTooMany) {
     EXPECT_EQ(games[1].game.score, 7U);
     EXPECT_EQ(games[2].date, 98) << "the earlier of two equals";
     EXPECT_EQ(best(games, 5).size(), 3U);
+    EXPECT_EQ(minutes(59999) + ' ' + minutes(3661000), "0:59 61:01");
+    EXPECT_EQ(dateText(INT64_MAX), "unknown");
     games[1].game.length = 83000;
     games[1].game.begin = 9000;
     games[1].game.marked = true;
