@@ -109,7 +109,7 @@ public:
     using Playback::Playback;
 
 private:
-    void prepareGame() override {}
+    void prepareGame() override { std::cerr << "once: "; }
 };
 
 class OpeningPlayback : public WindowPlayback {
@@ -548,7 +548,7 @@ TEST_F(Replay, AnEventComesAtThePollItCameAt) {
                       << static_cast<int>(event.key.state) << ", ";
         std::_Exit(0);
     };
-    EXPECT_EXIT(poll(), testing::ExitedWithCode(0), "^0 0 0, 1 120 1, 1 121 0, 0 121 0, $");
+    EXPECT_EXIT(poll(), testing::ExitedWithCode(0), "^once: 0 0 0, 1 120 1, 1 121 0, 0 121 0, $");
 }
 
 TEST_F(Replay, AReportTellsOfEachGame) {
