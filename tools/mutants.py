@@ -42,6 +42,7 @@ WHOLE_PROGRAMS = {  # run in one process, before all else; and the programs that
 OTHER_PROGRAMS = ["tests/kov_fault_tests", "kov", "replay/kov-replay"]
 SLOW_SECONDS = 1  # a test that takes longer waits until the others have passed
 MEMORY_LIMIT = 4 << 30  # bytes a test process may map: a fault may ask for all there is
+FILE_LIMIT = 1 << 30  # bytes that it may write to a file, for the same reason
 OUTPUT = "mutants.log"  # of the last command
 FAILED_TEST = re.compile(r"^\[  FAILED  \] ([\w./]+)|^\s+\d+ - (\S+) \(", re.M)
 SLACK_SECONDS = 30  # on top of three times what the same tests take without a fault
@@ -239,6 +240,7 @@ class Copy:
             os.setsid()
             if are_tests:
                 resource.setrlimit(resource.RLIMIT_AS, (MEMORY_LIMIT, MEMORY_LIMIT))
+                resource.setrlimit(resource.RLIMIT_FSIZE, (FILE_LIMIT, FILE_LIMIT))
         with open(self.folder / OUTPUT, "wb") as output:
             cwd = self.build if self.build.exists() else self.folder
             process = subprocess.Popen(command, cwd=cwd, stdout=output, stderr=output,
