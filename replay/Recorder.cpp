@@ -96,8 +96,8 @@ FMOD_RESULT Recorder::songLength(FMOD_SOUND* song, unsigned int* ms) {
 }
 
 void Recorder::endFrame() {
+    if (!begun) begin();
     if (!failed) {
-        if (!begun) begin();
         progress.look();
         if (!isIdle())
             endPass();
@@ -185,7 +185,6 @@ void Recorder::keep(const Record& record) {
 }
 
 void Recorder::flush() {
-    if (failed) return;
     if (!file.write(pending.bytes)) giveUp(std::strerror(errno));
     pending.bytes.clear();
 }

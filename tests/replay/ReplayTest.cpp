@@ -227,6 +227,10 @@ TEST_F(Replay, AnEditedFileDiffers) {
          ofFirst<Check>([](Check& check) { ++check.hash; })},
         {"differs: score and lives", ofFirst<Check>([](Check& check) { ++check.partHashes[0]; })},
         {"the first that differs: ", ofFirst<End>([](End& end) { ++end.check.partHashes[0]; })},
+        {"differs at tick 47 (as recorded up to tick 0): the game goes another way",
+         [passes = 0](Record& r) mutable {
+             return std::holds_alternative<Pass>(r) && ++passes == 50 && (r = GameBegin(), true);
+         }},
         {"goes another way",
          [](Record& r) { return std::holds_alternative<GameBegin>(r) && (r = Check(), true); }},
     };
@@ -235,6 +239,17 @@ TEST_F(Replay, AnEditedFileDiffers) {
         EXPECT_EQ(outcome.code, 1) << &c - cases << outcome.text;
         EXPECT_NE(outcome.text.find(c.words), std::string::npos) << &c - cases << outcome.text;
     }
+    record("menu", {SDLK_DOWN});
+    const Outcome unclosed = verify(edited("menu", [](Record& r) {
+        auto* const pass = std::get_if<Pass>(&r);
+        const bool isLast =
+            pass != nullptr && !pass->events.empty() && pass->events[0].kind == Event::closed;
+        if (isLast) pass->events.clear();
+        return isLast;
+    }));
+    EXPECT_NE(unclosed.text.find("differs at tick 6 (as recorded up to tick 0): the game goes on"),
+              std::string::npos)
+        << unclosed.text;
     const auto bind = [](replay::Setup& s) { s.bindings[8].first = s.bindings[7].first; };
     const auto fade = [](replay::Setup& s) {
         for (auto& colour : s.colours)
