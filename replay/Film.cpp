@@ -111,7 +111,6 @@ void Film::show() {
     look();
     if (sessionTime() < format.from) return;
     hasBegun = true;
-    catchUp();
     if (sessionTime() >= format.to) return stop();
     if (somethingGoesOn()) time.enliven();
     takePicture();
@@ -138,8 +137,7 @@ void Film::fill(std::uint32_t ms) {
     };
     while ((pictureCount + 1) * picture_duration <= filmed && !isEnding()) {
         look();
-        ++pictureCount;
-        const std::uint64_t at = std::max(before, pictureCount * picture_duration);
+        const std::uint64_t at = ++pictureCount * picture_duration;
         hear(at * rate / 1000, volumeAt(at));
         if (!pictures.write(picture.data(), picture.size() * sizeof picture[0])) stop();
     }

@@ -2,6 +2,7 @@
 
 #include "platform/standins/GLRecorder.h"
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <sstream>
@@ -53,6 +54,7 @@ const std::map<GLenum, const char*> symbol_names = {
     {GL_REPEAT, "REPEAT"},
     {GL_RGB, "RGB"},
     {GL_RGBA, "RGBA"},
+    {GL_BGRA, "BGRA"},
     {GL_UNSIGNED_BYTE, "UNSIGNED_BYTE"},
     {GL_UNPACK_ALIGNMENT, "UNPACK_ALIGNMENT"},
 };
@@ -242,6 +244,13 @@ void GLAPIENTRY glCullFace(GLenum mode) {
 }
 void GLAPIENTRY glClear(GLbitfield mask) {
     record("glClear", Symbol(mask));
+    if ((mask & GL_COLOR_BUFFER_BIT) != 0) ++quorva::standins::glRecorder().frames;
+}
+/// Each pixel, of four bytes, is the number of the frame.
+void GLAPIENTRY glReadPixels(GLint x, GLint y, GLsizei w, GLsizei h, GLenum format, GLenum type,
+                             GLvoid* pixels) {
+    record("glReadPixels", x, y, w, h, Symbol(format), Symbol(type));
+    std::fill_n(static_cast<std::uint32_t*>(pixels), w * h, quorva::standins::glRecorder().frames);
 }
 void GLAPIENTRY glClearColor(GLclampf r, GLclampf g, GLclampf b, GLclampf a) {
     record("glClearColor", r, g, b, a);

@@ -34,6 +34,7 @@ public:
 
     bool recording = false; ///< else calls are only counted
     std::uint64_t total = 0;
+    std::uint32_t frames = 0; ///< begun
     std::vector<GLCall> calls;
     std::int32_t unpackAlignment = 4; ///< bytes: rows of an image start at multiples of it
     std::vector<unsigned char> image; ///< the last texture's, as GL has read it from memory

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@ struct SoundRecorder {
     /// While recording, such as "play Sounds/hit.wav": on any channel and at once, unless more
     /// follows.
     std::vector<std::string> calls;
+    static constexpr std::int16_t rendered = 10000; ///< each sample, into memory
     bool recording = false;
     std::vector<std::string> unreadable; ///< paths that can't be opened: result 23
     unsigned int songLength = 90000;     ///< ms, of every stream
