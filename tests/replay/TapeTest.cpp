@@ -115,7 +115,7 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     glScalef(9.0F, 9.0F, 9.0F);
     glMatrixMode(GL_PROJECTION);
     glLoadIdentity();
-    glOrtho(-20.0, 20.0, -14.0, 16.0, -1.0, 1.0); // a unit higher than the field
+    glOrtho(-18.0, 22.0, -14.0, 16.0, -1.0, 1.0); // to the right of the field and higher
     glMatrixMode(GL_MODELVIEW);
     glLoadIdentity();
     glPushMatrix();
@@ -141,7 +141,10 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     glEnd();
     glPopMatrix();
     glRotatef(90.0F, 0.0F, 0.0F, 1.0F);
+    glColor4f(1.0F, 1.0F, 1.0F, 0.0F);
+    shape(GL_LINES, {{0, 0}, {9, 9}}); // can't be seen
     glColor4f(1.0F, 1.0F, 1.0F, 0.5F);
+    shape(GL_QUADS, {{0, 0}, {1, 0}, {1, 1}}); // nor can a part of one
     shape(GL_QUADS, {{0, 0}, {1, 0}, {1, 1}, {0, 1}, {0, 1}, {1, 1}, {1, 0}, {0, 0}});
     glCallList(5);
     glCallList(4);
@@ -150,23 +153,23 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     shape(GL_LINE_LOOP, {{0, 0}, {0, -1}});
     const std::string picture = camera->take(800, 600);
     EXPECT_EQ(picture.find("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 800 600'>"), 0U);
-    const std::string square = "M380.0 320.0L380.0 300.0L400.0 300.0L400.0 320.0Z";
+    const std::string square = "M340.0 320.0L340.0 300.0L360.0 300.0L360.0 320.0Z";
     const std::string half = "fill='#ffffff' opacity='0.5'/>";
     EXPECT_EQ(picture.substr(picture.find("<path")),
               "<path d='M0.0 600.0L800.0 0.0' fill='none' stroke='#ffffff' stroke-width='1'/>"
-              "<path d='M560.0 220.0L640.0 220.0M600.0 320.0L600.0 300.0' fill='none' "
-              "stroke='#ff0080' stroke-width='2'/><path d='M480.0 310.0L500.0 300.0L520.0 290.0' "
+              "<path d='M520.0 220.0L600.0 220.0M560.0 320.0L560.0 300.0' fill='none' "
+              "stroke='#ff0080' stroke-width='2'/><path d='M440.0 310.0L460.0 300.0L480.0 290.0' "
               "fill='none' stroke='#ff0080' stroke-width='2'/><path d='" +
                   square + square + "' " + half +
-                  "<path d='M380.0 320.0L380.0 300.0L400.0 320.0Z' " + half +
-                  "<path d='M340.0 320.0L340.0 260.0L400.0 320.0Z' " + half +
-                  "<path d='M280.0 220.0L300.0 200.0L300.0 220.0Z"
-                  "M300.0 200.0L280.0 220.0L280.0 200.0Z' " +
+                  "<path d='M340.0 320.0L340.0 300.0L360.0 320.0Z' " + half +
+                  "<path d='M300.0 320.0L300.0 260.0L360.0 320.0Z' " + half +
+                  "<path d='M240.0 220.0L260.0 200.0L260.0 220.0Z"
+                  "M260.0 200.0L240.0 220.0L240.0 200.0Z' " +
                   half +
-                  "<path d='M280.0 200.0L300.0 200.0L300.0 220.0Z"
-                  "M280.0 220.0L280.0 200.0L300.0 220.0Z' " +
+                  "<path d='M240.0 200.0L260.0 200.0L260.0 220.0Z"
+                  "M240.0 220.0L240.0 200.0L260.0 220.0Z' " +
                   half +
-                  "<path d='M400.0 320.0L420.0 320.0Z' fill='none' stroke='#ffffff' "
+                  "<path d='M360.0 320.0L380.0 320.0Z' fill='none' stroke='#ffffff' "
                   "stroke-width='2' opacity='0.5'/></g></svg>");
     EXPECT_TRUE(glRecorder().calls.empty());
     camera.reset();
