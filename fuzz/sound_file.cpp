@@ -2,6 +2,7 @@
 // memory.
 
 #include "fuzz/Playground.h"
+#include "platform/fmodex/Loopback.h"
 #include "platform/fmodex/Mixer.h"
 
 #include <array>

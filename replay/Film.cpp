@@ -1,7 +1,7 @@
 #include "replay/Film.h"
 
 #include "game/FModSystem.h"
-#include "platform/fmodex/Mixer.h"
+#include "platform/fmodex/Loopback.h"
 #include "replay/Interruption.h"
 #include "replay/Words.h"
 
@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cmath>
 #include <cstring>
 #include <iostream>
 
@@ -95,7 +96,8 @@ SDL_Surface* Film::openWindow(int, int, int depth, std::uint32_t flags) {
 void Film::setViewport(int width, int height) {
     scale = std::min(static_cast<double>(format.width) / width,
                      static_cast<double>(format.height) / height);
-    const auto w = static_cast<int>(width * scale), h = static_cast<int>(height * scale);
+    const auto w = static_cast<int>(std::lround(width * scale));
+    const auto h = static_cast<int>(std::lround(height * scale));
     placeViewport((format.width - w) / 2, (format.height - h) / 2, w, h);
 }
 
@@ -154,8 +156,8 @@ void Film::hear(std::uint64_t until, double volume) {
         platform::fmodex::render(system, samples.data(), static_cast<int>(count));
         heard += count;
         const double loudness = time.nextVolume(volume);
-        for (std::uint64_t i = 0; i < 2 * count && loudness < 1.0; ++i)
-            samples[i] = static_cast<std::int16_t>(samples[i] * loudness);
+        for (std::int16_t& sample : samples)
+            sample = static_cast<std::int16_t>(sample * loudness);
         if (!sound.write(samples.data(), 2 * count * sizeof samples[0])) stop();
     }
 }
@@ -179,8 +181,8 @@ void Film::look() {
 
 void Film::sayProgress() const {
     if (!hasBegun) return;
-    const double length = std::max<std::uint32_t>(format.to - format.from, 1);
-    const double done = std::clamp((lastTime - format.from) / length, 0.001, 1.0);
+    const double length = format.to - format.from;
+    const double done = std::max((lastTime - format.from) / length, 0.001);
     const double left = looked * (1.0 / done - 1.0); // the clock began with the program
     std::cout << "\r" << static_cast<int>(100.0 * done) << " %, time left "
               << minutes(static_cast<std::uint64_t>(left)) << "   " << std::flush;

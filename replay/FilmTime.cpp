@@ -5,10 +5,10 @@
 namespace quorva::replay {
 
 std::uint32_t FilmTime::advance(std::uint32_t ms) {
-    const std::uint64_t before = still;
+    const auto shown = [this] { return std::min<std::uint64_t>(still, longest_still); };
+    const std::uint64_t before = shown();
     still += ms;
-    if (full || still <= longest_still) return ms;
-    return before < longest_still ? static_cast<std::uint32_t>(longest_still - before) : 0;
+    return full ? ms : static_cast<std::uint32_t>(shown() - before);
 }
 
 double FilmTime::volume(std::uint32_t ms) const {

@@ -1,5 +1,7 @@
 #include "platform/fmodex/Mixer.h"
 
+#include "platform/fmodex/Loopback.h"
+
 #include <AL/alext.h>
 #include <AL/efx.h>
 #include <fcntl.h>

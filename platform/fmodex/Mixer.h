@@ -76,13 +76,3 @@ private:
     std::vector<Channel> channels;
     std::uint64_t starts = 0;
 };
-
-namespace platform::fmodex {
-
-/// For tests: from now on the system renders into memory instead of to a card. To be called
-/// before FMOD_System_Init, in a process of its own.
-void useLoopback();
-/// Mixes the next stereo frames at 44.1 kHz, 16 bits, of the loopback output.
-void render(FMOD_SYSTEM* system, std::int16_t* samples, int frames);
-
-} // namespace platform::fmodex

@@ -13,7 +13,7 @@
 #include "replay/Stage.h"
 #include "replay/Summary.h"
 #include "replay/Tape.h"
-#include "replay/Watcher.h"
+#include "replay/WindowPlayback.h"
 
 #include "Framework/Managers/PointManager.h"
 #include "Framework/math/MTRand.h"
@@ -116,22 +116,6 @@ class OpeningPlayback : public WindowPlayback {
 public:
     using WindowPlayback::openSongOf;
     using WindowPlayback::WindowPlayback;
-};
-
-/// Gets an Escape after a thousand passes in which nothing is shown, of a ms each.
-class EscapingWatcher : public Watcher {
-public:
-    using Watcher::Watcher;
-    unsigned int passes = 0;
-
-private:
-    void passIdly() override {
-        ++standins::sdl().ticks;
-        if (++passes == 1000)
-            for (const bool down : {true, false})
-                standins::pushKey(SDLK_ESCAPE, down);
-        Watcher::passIdly();
-    }
 };
 
 } // namespace
@@ -495,19 +479,6 @@ TEST_F(Replay, ASongOfTheSameLengthIsHeard) {
               "RIFF\x64\x1f\0\0WAVEfmt \x10\0\0\0\x01\0\x01\0\x40\x1f\0\0\x40\x1f\0\0"
               "\x01\0\x08\0data\x40\x1f\0\0"s +
                   std::string(8000, '\x80'));
-}
-
-TEST_F(Replay, AWatcherTakesKeysWhileNothingIsShown) {
-    fill("a", edited(kept, ofFirst<Pass>([](Pass& p) { p.idle = 1500000; })));
-    const auto watch = [] {
-        Script script("a");
-        const Stage stage(KOV_SOURCE_DIR, script.setup);
-        EscapingWatcher watcher(script, "Songs", {0, 1000, 0, 1.0});
-        const Insertion insertion(watcher);
-        runGame(script.setup);
-        std::_Exit(watcher.passes < 1010 ? 0 : 1);
-    };
-    EXPECT_EXIT(watch(), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(Replay, SettingsAreThoseOfEachGame) {

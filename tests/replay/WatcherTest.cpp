@@ -33,7 +33,8 @@ public:
         : Watcher(script_, "Songs", times_), times(times_) {}
 
     double worst = 0.0; ///< ms of the session
-    unsigned int shown = 0, titles = 0;
+    unsigned int shown = 0, titles = 0, idlePasses = 0;
+    std::function<void()> onIdlePass;
 
 private:
     void moveOn() override {
@@ -50,6 +51,11 @@ private:
         if (sdl().swaps == before) return;
         ++shown;
         compare();
+    }
+    void passIdly() override {
+        ++idlePasses;
+        if (onIdlePass) onIdlePass();
+        Watcher::passIdly();
     }
     void compare() {
         const double wanted = times.from + sdl().ticks * times.speed;
@@ -69,14 +75,16 @@ using Step = std::function<void(Timed&)>;
 /// @param judge says on standard error how it went
 [[noreturn]] void watch(const std::string& path, const How& how, const Step& begin,
                         const Step& judge) {
-    const Summary summary(path);
-    Script script(path);
-    const Stage stage(KOV_SOURCE_DIR, script.setup);
-    Timed watcher(script, {summary.start, summary.length, how.from, how.speed});
-    if (begin) begin(watcher);
-    const Insertion insertion(watcher);
-    runGame(script.setup);
-    judge(watcher);
+    {
+        const Summary summary(path);
+        Script script(path);
+        const Stage stage(KOV_SOURCE_DIR, script.setup);
+        Timed watcher(script, {summary.start, summary.length, how.from, how.speed});
+        if (begin) begin(watcher);
+        const Insertion insertion(watcher);
+        runGame(script.setup);
+        judge(watcher);
+    }
     std::_Exit(0);
 }
 
@@ -146,4 +154,17 @@ TEST_F(WatcherDeathTest, GoesOnBehindADifferenceAndNamesTheFirst) {
         watch("edited", {64.0, 0}, {}, judge), testing::ExitedWithCode(0),
         "^5000 differs at tick 400 .as recorded up to tick 300.: 32 objects in place of 33, "
         "the first that differs: list of lines$");
+}
+
+TEST_F(WatcherDeathTest, TakesKeysWhileNothingIsShown) {
+    edited(kept, ofFirst<Pass>([](Pass& p) { p.idle = 1500000; }));
+    const auto begin = [](Timed& watcher) {
+        watcher.onIdlePass = [&watcher] {
+            ++sdl().ticks;
+            if (watcher.idlePasses == 998) standins::pushKey(SDLK_ESCAPE, true);
+        };
+    };
+    const auto judge = [](Timed& watcher) { std::cerr << watcher.idlePasses << " passes"; };
+    EXPECT_EXIT(watch("edited", {1.0, 0}, begin, judge), testing::ExitedWithCode(0),
+                "^1000 passes$");
 }

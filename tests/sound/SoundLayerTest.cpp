@@ -1,4 +1,6 @@
 #include "platform/fmodex/Mixer.h"
+
+#include "platform/fmodex/Loopback.h"
 #include "tests/support/Files.h"
 
 #include <boost/filesystem.hpp>
