@@ -97,7 +97,9 @@ TEST_F(Saving, KilledAtAnySystemCallItLeavesTheOldFileOrTheNewOne) {
     }
 }
 
-TEST_F(Saving, OnAFullDiskThroughALinkLosesNothing) {
+TEST_F(Saving, OnAFullDiskLosesAndLeavesNothing) {
+    EXPECT_FALSE(save([] { leaveRoom(5); }));
+    EXPECT_EQ(std::distance(fs::directory_iterator("."), {}), 1);
     makeLink();
     EXPECT_FALSE(save([] { leaveRoom(5); }));
     EXPECT_EQ(contentsOf("s.dat"), old_contents);

@@ -191,8 +191,8 @@ TEST_F(AudioTest, ReportsASongThatIsNotThere) {
     PlaySong message;
     message.songId = 1;
     publish(message);
-    message.songId = -2;
-    EXPECT_EQ(errorsOf([&] { publish(message); }), "Can't play song id: -2. Only 2 songs exist.\n");
+    message.songId = 2;
+    EXPECT_EQ(errorsOf([&] { publish(message); }), "Can't play song id: 2. Only 2 songs exist.\n");
     EXPECT_EQ(audio.lastSongID, 1);
     // A song that can't be opened is reported once, and the silence lasts as long as the song
     // before; at the very first song, a second.

@@ -9,6 +9,14 @@
 
 using namespace quorva::math;
 
+TEST(Point, CalculatesAsTheVectorFromTheOrigin) {
+    Point p = Point(1, 1, 3) * 2.0 - Vector(0, 1, 2);
+    p += Vector(0, 2, 2);
+    EXPECT_EQ(p.dot({1, 10, 100}), 632.0);
+    p.normalise();
+    EXPECT_EQ(p, Point(2.0 / 7, 3.0 / 7, 6.0 / 7));
+}
+
 TEST(MTRand, IsSeededByAKeyAsPublished) {
     MTRand_int32 random;
     const unsigned long key[] = {0x123, 0x234, 0x345, 0x456};
