@@ -4,12 +4,9 @@
 #include "Framework/Graphics/GraphicObject.h"
 #include "Framework/Graphics/RenderableThing.h"
 #include "Framework/Graphics/Stuff/GWord.h"
-#include "Framework/Managers/FontManager.h"
 #include "Framework/menus/ConfigMenu.h"
 #include "Framework/menus/MainMenu.h"
-#include "game/CDLineIcon.h"
 #include "game/GameOverScreen.h"
-#include "game/PUPLineIcon.h"
 #include "tests/support/Field.h"
 #include "tests/support/Settings.h"
 
@@ -22,7 +19,7 @@ namespace {
 // Of the narrowest field, 4 by 3, in world units from its centre.
 constexpr double half_width = 20.0, half_height = 15.0;
 
-/// What a text or an icon covers of the page, in world units.
+/// What a text covers of the page, in world units.
 struct Ink {
     std::string text;
     double left, right, bottom, top;
@@ -39,23 +36,13 @@ Ink inkOf(const graphics::GWord& word) {
             word.position.y + word.scale.y * box.bottom, word.position.y + word.scale.y * box.top};
 }
 
-Ink inkOf(const char* name, const math::Point& middle) {
-    constexpr double half = 0.25; // of both icons
-    return {name, middle.x - half, middle.x + half, middle.y - half, middle.y + half};
-}
-
 std::vector<Ink> inksOf(const Entity& page) {
     std::vector<Ink> inks;
     for (const graphics::RenderableThing* thing : page.graphics->things)
         for (const graphics::RenderInterface* shape : thing->graphics) {
             if (!thing->active || !shape->active) continue;
-            if (const auto* word = dynamic_cast<const graphics::GWord*>(shape)) {
-                if (!word->word.empty()) inks.push_back(inkOf(*word));
-            } else if (const auto* lines = dynamic_cast<const PUPLineIcon*>(shape)) {
-                inks.push_back(inkOf("line icon", lines->position));
-            } else if (const auto* box = dynamic_cast<const CDLineIcon*>(shape)) {
-                inks.push_back(inkOf("cooldown icon", box->position));
-            }
+            const auto* const word = dynamic_cast<const graphics::GWord*>(shape);
+            if (word != nullptr && !word->word.empty()) inks.push_back(inkOf(*word));
         }
     return inks;
 }
@@ -99,21 +86,19 @@ TEST_F(TextTest, TheConfigurationWithAllItsValues) {
     press(run, {SDLK_DOWN, SDLK_DOWN, SDLK_DOWN});
     run.tick(); // the lines of help follow the selection
     expectInOrder(menu, still + 2);
-    press(run, {SDLK_DOWN, SDLK_RIGHT}); // saves the processor
-    expectInOrder(menu, still + 2);
 }
 
 TEST_F(TextTest, TheDisplayOfALongGameAndItsPause) {
     run.startLevel();
     GameLevel& level = *run.game().level;
     run.tick();
-    expectInOrder(level, 7);
+    expectInOrder(level, 5);
     level.scoreWord->word = "9999999";
     level.livesWord->word = "1UP!     99   lives";
     level.nextLifeWord->word = "Next    Life    10000000";
     level.linePupWord->word = level.cooldownPupWord->word = "99";
     level.pauseWord->activate();
-    expectInOrder(level, 8);
+    expectInOrder(level, 6);
 }
 
 TEST_F(TextTest, EveryVerdictOnAGame) {
@@ -127,16 +112,4 @@ TEST_F(TextTest, EveryVerdictOnAGame) {
             expectInOrder(page, 5);
         }
     marvo.score = marvo.highScore = 0;
-}
-
-TEST_F(TextTest, ARunOfBlanksLooksLikeOneWiderGap) {
-    graphics::Font& font = FontManager::Instance().getV("Menu Font");
-    const auto width = [&font](std::size_t blanks) {
-        const primitives::Box box = font.getBoundingBox("Save" + std::string(blanks, ' ') + "CPU");
-        return box.right - box.left;
-    };
-    for (const std::size_t blanks : {3, 4, 5}) {
-        EXPECT_GT(width(blanks), width(1));
-        EXPECT_LE(width(blanks), width(1) + 0.25) << blanks << " blanks";
-    }
 }

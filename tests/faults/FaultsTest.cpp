@@ -17,7 +17,6 @@
 
 #include <cstring>
 #include <functional>
-#include <random>
 #include <set>
 #include <sstream>
 
@@ -137,15 +136,7 @@ const char* const harm_names[] = {"missing",          "empty",   "a folder or fi
                                   "unreadable",       "garbage", "a pipe",
                                   "an endless device"};
 
-std::string noise() {
-    std::string bytes;
-    std::mt19937 random;
-    for (int i = 0; i < 4096; ++i) {
-        const char byte = static_cast<char>(random());
-        bytes += byte == ',' ? '.' : byte; // no line of it counts
-    }
-    return bytes;
-}
+const std::string garbage_bytes(4096, '\xc3'); ///< neither text nor any file's start
 
 void spoil(const fs::path& path, Harm harm) {
     const bool isFolder = fs::is_directory(path);
@@ -158,7 +149,7 @@ void spoil(const fs::path& path, Harm harm) {
     if (wantsFolder)
         fs::create_directory(path);
     else
-        fill(path.string(), harm == garbage ? noise() : "");
+        fill(path.string(), harm == garbage ? garbage_bytes : "");
 }
 
 /// What is harmed, all of it at once, and the lines of each harm. A pipe and a device are no

@@ -45,7 +45,6 @@ signal=HUP expect "asleep between ticks" 0 "" "$game" -u
 icon=$folder/data/kov.ico
 rm "$icon" && expect "no icon" 0 "" "$game"
 mkfifo "$icon" && expect "a pipe for an icon" 0 "" "$game"
-rm "$icon" && head -c 4000 "$game" >"$icon" && expect "no image for an icon" 0 "" "$game"
-head -c 300 "$sources/data/kov.ico" >"$icon" && expect "half an icon" 0 "" "$game"
+rm "$icon" && head -c 300 "$sources/data/kov.ico" >"$icon" && expect "half an icon" 0 "" "$game"
 
 exit $failures

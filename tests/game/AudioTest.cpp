@@ -124,19 +124,15 @@ TEST_F(AudioTest, ListsSongsByTheirExactEnding) {
               "");
 }
 
-TEST_F(AudioTest, DrawsFromTheSharedStreamOnlyWhereThereIsAChoice) {
-    math::MTRand_int32 random;
-    const auto draws = [&random] {
-        FModMP3Input audio;
-        random.seed(3UL);
-        random(); // makes the words
-        const int before = math::MTRand_int32::p;
-        audio.getRandomSongID();
-        return math::MTRand_int32::p - before;
-    };
-    EXPECT_EQ(draws(), 0);
+TEST_F(AudioTest, DrawsFromTheSharedStreamForASingleSongToo) {
     songs({"a.mp3"});
-    EXPECT_EQ(draws(), 1);
+    FModMP3Input audio;
+    math::MTRand_int32 random;
+    random.seed(3UL);
+    random(); // makes the words
+    const int before = math::MTRand_int32::p;
+    audio.getRandomSongID();
+    EXPECT_EQ(math::MTRand_int32::p, before + 1);
 }
 
 TEST_F(AudioTest, PlaysSongsByTheClock) {
@@ -152,8 +148,7 @@ TEST_F(AudioTest, PlaysSongsByTheClock) {
          "release A; open B 64; play B; volume B 0.75; "},
         {"clock set back, below its start", 0, [] { sdl().ticks = near_wrap; }, ""},
         {"start there", 0, start, "release B; open A 64; play A; volume A 0.75; "},
-        {"not anew at each pass", 1, nothing, ""},
-        {"wrapped", 89999, nothing, ""},
+        {"wrapped", 90000, nothing, ""},
         {"end behind the wrap", 1, nothing, "release A; open B 64; play B; volume B 0.75; "},
         {"stop", 1, stop, "release B; "},
         {"start while off", 0, [] { set("NoPlayMusic", 0), start(); }, ""},
@@ -178,20 +173,14 @@ TEST_F(AudioTest, HoldsTheSongsWhileTheGameIsPaused) {
         {"the first of two pauses", 30000, halt, "pause B; "},
         {"over its end", 100000, goOn, "resume B; "},
         {"the second", 30000, halt, "pause B; "},
-        {"told again", 100000, halt, "pause B; "},
-        {"also over its end", 100000, goOn, "resume B; "},
-        {"resumed without a pause", 10000, goOn, "resume B; "},
-        {"what is left", 20000, nothing, ""},
+        {"also over its end", 200000, goOn, "resume B; "},
+        {"what is left", 30000, nothing, ""},
         {"end of that", 1, nothing, "release B; open A 64; play A; volume A 1; "},
 
         {"a game that ends in its pause", 1000, halt, "pause A; "},
         {"ends", 200000, stop, "release A; "},
         {"the next game", 1000, start, "open B 64; play B; volume B 1; "},
         {"isn't paused", 90001, nothing, "release B; open A 64; play A; volume A 1; "},
-        {"a song for a paused one", 10, [&] { halt(), start(); },
-         "pause A; release A; open B 64; play B; volume B 1; "},
-        {"of its full length", 90000, nothing, ""},
-        {"has no pause", 1, nothing, "release B; open A 64; play A; volume A 1; "},
         {"stop", 0, stop, "release A; "},
     });
 }
@@ -199,14 +188,12 @@ TEST_F(AudioTest, HoldsTheSongsWhileTheGameIsPaused) {
 TEST_F(AudioTest, ReportsASongThatIsNotThere) {
     songs({"a.mp3", "b.mp3"});
     FModMP3Input audio;
-    for (const auto& [id, errors] : {std::pair{1, ""},
-                                     {2, "Can't play song id: 2. Only 2 songs exist.\n"},
-                                     {-2, "Can't play song id: -2. Only 2 songs exist.\n"}}) {
-        PlaySong message;
-        message.songId = static_cast<std::int16_t>(id);
-        EXPECT_EQ(errorsOf([&] { publish(message); }), errors);
-        EXPECT_EQ(audio.lastSongID, 1);
-    }
+    PlaySong message;
+    message.songId = 1;
+    publish(message);
+    message.songId = 2;
+    EXPECT_EQ(errorsOf([&] { publish(message); }), "Can't play song id: 2. Only 2 songs exist.\n");
+    EXPECT_EQ(audio.lastSongID, 1);
     // A song that can't be opened is reported once, and the silence lasts as long as the song
     // before; at the very first song, a second.
     sound().unreadable = {"Songs/a.mp3", "Songs/b.mp3"};

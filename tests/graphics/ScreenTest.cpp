@@ -1,23 +1,11 @@
 #include "tests/support/FieldTest.h"
 
 #include "Framework/Graphics/Camera.h"
-#include "Framework/Graphics/Draw.h"
-#include "tests/pictures/Pictures.h"
 #include "tests/support/Errors.h"
 #include "tests/support/Settings.h"
 
 using namespace quorva;
 using namespace quorva::graphics;
-
-TEST(BlendModes, AnyNumberIsKeptButOnlyTheFirstReachesGL) {
-    GLFunctions& functions = draw::i_fun;
-    const auto unknown = static_cast<BlendModeEnum>(7);
-    EXPECT_EQ(callsOf([&] { functions.setBlendMode(unknown); }), "");
-    functions.saveBlendMode();
-    functions.setBlendMode(BLEND_STANDARD);
-    EXPECT_EQ(callsOf([&] { functions.restoreBlendMode(); }), "");
-    EXPECT_EQ(functions.currentBlendMode, unknown);
-}
 
 TEST_F(FieldTest, ARefusedModeFallsBackButKeepsTheSettings) {
     activate({{"ScreenWidth", 1280}, {"ScreenHeight", 800}, {"FullScreen", 1}});

@@ -77,14 +77,9 @@ TEST_F(BindFileTest, SetsTheOldFileAside) {
 
     std::filesystem::remove("bind1.conf");
     EXPECT_EQ(save(before, after).text, "bind1.conf is written, for the next start.");
-    KeyMapperClass& mapper = KeyMapper::Instance(); // the game's
-    for (const InputKey& key : before)
-        mapper.addMappableKey(key.name, SDLK_z, no_button, 0);
-    mapper.readBindFiles();
-    for (const InputKey& key : after) {
-        EXPECT_EQ(mapper.getButton(key.name, 0)->key, key.key) << key.name;
-        EXPECT_EQ(mapper.getButton(key.name, 0)->jsButton, key.jsButton) << key.name;
-    }
+    EXPECT_EQ(contentsOf("bind1.conf"),
+              "# The keys and buttons of KOV, as kov-keys has written them. The manual says how to "
+              "edit them.\nUp, UP\nFire Up, NUM8, JOY4\n");
 }
 
 TEST_F(BindFileTest, WhatCannotBeWrittenStaysAsItWas) {

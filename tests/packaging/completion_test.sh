@@ -35,13 +35,8 @@ offers "" kov-replay watch --from 2 :
 offers "" kov-replay watch --from 2 : 3
 offers "game.kovreplay films" kov-replay watch --from 2 : 30 --speed 4 ""
 offers "" kov-replay watch game.kovreplay ""
-offers "films" kov-replay film game.kovreplay ""
 offers "films" kov-replay film --size 640x480 game.kovreplay f
-offers "" kov-replay film --size ""
 offers "game.kovreplay films" kov-replay verify game.kovreplay ""
-offers "--fair" kov-replay verify --
-offers "--size --from --to --full" kov-replay film --
 offers "films" kov-replay best ""
 offers "films" kov-replay best films --page films --with-web ""
-offers "" kov-replay best films ""
 exit $failures

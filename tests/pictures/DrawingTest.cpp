@@ -38,15 +38,11 @@ const Colour colour(0.1F, 0.2F, 0.3F, 0.4F);
 const math::Point a(1, 2, 3), b(-4, 5, 6), c(7, -8, 9);
 
 void drawShapes() {
+    const primitives::Box box(4, -2, -1, 3);
     GLinedBox outline;
-    outline.box = primitives::Box(4, -2, -1, 3);
+    outline.box = box;
     outline.render();
-    GCircle disc;
-    disc.radius = 2;
-    for (const unsigned int points : {5U, 0U}) {
-        disc.resolution = points;
-        disc.render();
-    }
+    GCircle().render();
     GLinedCube cube;
     cube.sizeX = 2;
     cube.sizeY = 4;
@@ -59,23 +55,19 @@ void drawShapes() {
     GSlideBar bar;
     bar.halfWidth = 2;
     bar.halfHeight = 0.5;
-    bar.render();
     const float value = 0.75F;
     bar.value = &value;
     bar.render();
     GGrid grid;
-    grid.box = outline.box;
-    for (const int divisions : {0, 1, 3}) {
+    grid.box = box;
+    for (const int divisions : {0, 3}) {
         grid.divisions = divisions;
         grid.render();
     }
-    GAxesIndicator axes;
-    axes.length = 2;
-    axes.render();
+    GAxesIndicator().render();
     SillyGrid sheet;
     sheet.rows = 5;
     sheet.planes = 9;
-    sheet.spacing = 2;
     sheet.render();
 }
 
@@ -126,6 +118,12 @@ void callFunctions() {
         note(draw::isOutLineMode());
     }
     draw::smoothShapes(false);
+    draw::setBlendMode(BLEND_STANDARD);
+    draw::saveBlendMode();
+    draw::setBlendMode(static_cast<BlendModeEnum>(7)); // is known, but not to GL
+    note(draw::i_fun.currentBlendMode);
+    draw::restoreBlendMode();
+    note(draw::i_fun.currentBlendMode);
 }
 
 /// With the colours that count.
@@ -135,7 +133,6 @@ void useMaterials() {
     material.diffuse = material.emissive = &colours::orange;
     useMaterial(&material); // not yet
     material.hasAmbient = material.hasDiffuse = true;
-    useMaterial(material);
     material.hasSpecular = material.hasEmissive = true;
     useMaterial(material);
 }
@@ -163,8 +160,6 @@ TEST(Pictures, OfTheCameraAsItMoves) {
                       camera.zoomIn(); // no further than home
                       for (const auto move : moves)
                           (camera.*move)();
-                      camera.strafeLeft(2);
-                      camera.rotateXPos(3);
                       camera.orthographic = false;
                       camera.perspectiveScaleZ = 2;
                       for (int visit = 0; visit < 2; ++visit) {

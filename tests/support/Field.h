@@ -36,11 +36,10 @@ public:
         level = run.game().level;
         player = level->player;
         physics = run.game().physicsProcessor;
-        for (const auto& [id, entity] : quorva::Engine::Instance().entities)
-            if (auto* const triangle = dynamic_cast<Triangle*>(entity)) {
-                triangle->explodes = false;
-                triangle->dead = true;
-            }
+        for (Triangle* const triangle : all<Triangle>()) {
+            triangle->explodes = false;
+            triangle->dead = true;
+        }
         quorva::Engine::Instance().cleanupDeadEntities();
         body(player).isActive = false;
     }
@@ -90,19 +89,17 @@ public:
     TrapLine* across(double y, double x1, double x2) { return stand({x1, y, 0}, {x2, y, 0}); }
     TrapLine* upright(double x, double y1, double y2) { return stand({x, y1, 0}, {x, y2, 0}); }
 
+    /// The oldest first.
     template <class T>
-    static T* newest() {
-        T* found = nullptr;
+    static std::vector<T*> all() {
+        std::vector<T*> found;
         for (const auto& [id, entity] : quorva::Engine::Instance().entities)
-            if (auto* const match = dynamic_cast<T*>(entity)) found = match;
+            if (auto* const match = dynamic_cast<T*>(entity)) found.push_back(match);
         return found;
     }
     template <class T>
-    static int countOf() {
-        int count = 0;
-        for (const auto& [id, entity] : quorva::Engine::Instance().entities)
-            if (dynamic_cast<T*>(entity) != nullptr) ++count;
-        return count;
+    static T* newest() {
+        return all<T>().back();
     }
 
     quorva::headless::HeadlessGame run;
