@@ -38,9 +38,9 @@ CommandLine::CommandLine(const Words& words, const std::vector<Option>& known, O
     const auto count = static_cast<int>(arguments.size());
     char* const* const given = const_cast<char* const*>(arguments.data()); // it only sorts them
 
-    optind = 0;                                              // starts anew
-    opterr = 0;                                              // we say it ourselves
-    const char* const letters = order == mixed ? ":" : "+:"; // no option has one
+    optind = 0; // starts anew
+    // No option has a letter; with the colon it leaves it to us to say what is wrong.
+    const char* const letters = order == mixed ? ":" : "+:";
     for (int found; (found = getopt_long(count, given, letters, options.data(), nullptr)) != -1;) {
         if (found == '?' || found == ':') refuse(found, known, given[std::max(optind - 1, 1)]);
         const Option& option = known[static_cast<std::size_t>(found) - 1];

@@ -106,7 +106,7 @@ void Setup::write(ByteWriter& out) const {
 }
 
 Setup Setup::read(ByteReader& in) {
-    Setup setup;
+    Setup setup = {};
     setup.date = in.signedNumber();
     setup.settings = readSettings(in);
     setup.bindings.resize(in.count());

@@ -28,10 +28,10 @@ struct Setup {
         std::array<double, 3> coordinates; ///< world units
     };
 
-    std::int64_t date = 0;                     ///< seconds since 1970, UTC
+    std::int64_t date;                         ///< seconds since 1970, UTC
     SettingValues settings;                    ///< of the start
     std::vector<std::pair<int, int>> bindings; ///< key and button of each action, in their order
-    std::size_t songs = 0;                     ///< in the song folder
+    std::size_t songs;                         ///< in the song folder
     std::vector<bool> joysticks;               ///< whether each could be opened
     std::vector<NamedColour> colours;          ///< their alphas are lifetimes, too
     std::vector<NamedPoint> points;

@@ -33,7 +33,7 @@ void requireReadable(const Setup& setup) {
 } // namespace
 
 Setup setupOfGame() {
-    Setup setup;
+    Setup setup = {};
     setup.date = std::time(nullptr);
     setup.settings = settingsOfGame();
     for (const auto& key : input::KeyMapper::Instance().keys)

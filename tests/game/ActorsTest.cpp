@@ -101,6 +101,18 @@ TEST_F(ActorsTest, ATriangleOnThePlayersVeryPlaceCrashesNothing) {
     EXPECT_NE(run.game().level, nullptr);
 }
 
+TEST_F(ActorsTest, ABulletThatEndsBehindThePhysicsGoesWithoutAFade) {
+    fire(1, 0);
+    TrapLine* const line = physics->lines.back();
+    Bullet* const bullet = line->bullet;
+    body(bullet).position = math::Point(3, 0, 0);
+    bullet->fakeKill();
+    line->update();
+    EXPECT_EQ(line->end, body(bullet).position);
+    EXPECT_EQ(line->bullet, nullptr);
+    EXPECT_TRUE(bullet->dead);
+}
+
 TEST_F(ActorsTest, TheBorderKnowsItsEnds) {
     Border border;
     math::Point& place = body(layAt(0, 0)).position;

@@ -286,7 +286,7 @@ TEST_F(Replay, ASetupIsReadUpToItsLimits) {
     using Points = std::vector<Setup::NamedPoint>;
     using Colours = std::vector<Setup::NamedColour>;
     const auto with = [](auto member, auto value) {
-        Setup setup;
+        Setup setup = {};
         setup.*member = value;
         return setup;
     };
@@ -521,9 +521,10 @@ TEST_F(Replay, ASongThatIsMissingIsADifference) {
     EXPECT_NE(outcome.text.find("differs at tick"), std::string::npos) << outcome.text;
 }
 
-TEST_F(Replay, AnEventComesAtThePollItCameAt) {
+TEST_F(Replay, EventsAndSongsComeAsTheyCame) {
     edited(kept, ofFirst<Pass>([](Pass& p) {
                p.events = {{1, Event::key_down, SDLK_x}, {1, Event::key_up, SDLK_y}};
+               p.songs = {{37, 0}, {0, 500}};
            }));
     const auto poll = [] {
         Script script("edited");
@@ -532,9 +533,15 @@ TEST_F(Replay, AnEventComesAtThePollItCameAt) {
         for (int i = 0; i < 4; ++i)
             std::cerr << playback.poll(&event) << ' ' << event.key.keysym.sym << ' '
                       << static_cast<int>(event.key.state) << ", ";
+        FMOD_SOUND* song = nullptr;
+        unsigned int length = 0;
+        for (int i = 0; i < 3; ++i)
+            std::cerr << playback.openSong(nullptr, "", &song) << ' ';
+        std::cerr << playback.songLength(song, &length) << ' ' << length;
         std::_Exit(0);
     };
-    EXPECT_EXIT(poll(), testing::ExitedWithCode(0), "^once: 0 0 0, 1 120 1, 1 121 0, 0 121 0, $");
+    EXPECT_EXIT(poll(), testing::ExitedWithCode(0),
+                "^once: 0 0 0, 1 120 1, 1 121 0, 0 121 0, 37 0 23 0 500$");
 }
 
 TEST_F(Replay, AReportTellsOfEachGame) {
@@ -594,7 +601,7 @@ TEST(Frames, StayEmptyWhileTheTapeShowsNone) {
 
 TEST(StageTest, HasTheColoursAndPointsOfTheGame) {
     const headless::Sandbox sandbox(KOV_SOURCE_DIR);
-    replay::Setup setup;
+    replay::Setup setup = {};
     setup.colours = {{"Line Colour", {0.5, 0.25, 1.0, 0.1F}}};
     setup.points = {{"a", {0.1, -2.0, 1e9}}};
     const Stage stage(KOV_SOURCE_DIR, setup);

@@ -193,7 +193,7 @@ TEST_F(StoryTest, ComparesWithWhatIsShipped) {
     ASSERT_EQ(shipped.palettes.size(), 2U);
     EXPECT_GT(shipped.palettes[1].size(), 15U);
     EXPECT_EQ(shipped.bindings.filename(), "bind1.conf");
-    replay::Setup untouched;
+    replay::Setup untouched = {};
     untouched.colours = shipped.palettes[1]; // of the two, the usual
     untouched.colours.push_back({"made by the game", {1.0, 1.0, 1.0, 0.5}});
     untouched.points = {{"made by the game", {0, 0, 0}}};
