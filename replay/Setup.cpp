@@ -13,12 +13,6 @@ namespace {
 constexpr std::size_t most_names = 256, longest_name = 64, most_songs = 10000, most_joysticks = 32;
 constexpr double largest_colour = 8.0, largest_coordinate = 1e9;
 
-bool isValid(const config::Setting& setting, int value) {
-    const auto& list = setting.validValues;
-    if (!list.empty()) return std::find(list.begin(), list.end(), value) != list.end();
-    return value >= setting.range.min && value <= setting.range.max;
-}
-
 template <std::size_t Size>
 void checkRange(const std::array<double, Size>& values, double largest) {
     for (const double value : values)
@@ -79,7 +73,8 @@ SettingValues readSettings(ByteReader& in) {
         value = static_cast<int>(kept);
         const config::Setting* const setting = config::findSetting(config::allSettings(), letter);
         if (setting == nullptr || setting->has(config::not_in_replays) ||
-            !letters.insert(letter).second || value != kept || !isValid(*setting, value))
+            !letters.insert(letter).second || value != kept ||
+            !config::isValid(value, setting->validValues, setting->range))
             damaged();
     }
     return settings;

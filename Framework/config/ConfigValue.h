@@ -55,6 +55,13 @@ public:
     int reason;
 };
 
+/// If there are valid values, they alone decide; otherwise the range does.
+template <class T>
+bool isValid(T v, const std::vector<T>& validValues, const CVRange<T>& range) {
+    if (validValues.empty()) return range.min <= v && v <= range.max;
+    return std::find(validValues.begin(), validValues.end(), v) != validValues.end();
+}
+
 /// One setting with its value, in one table of settings.
 template <class T>
 class ConfigValue : public ConfigValueAnon {
@@ -69,11 +76,7 @@ public:
 
     void addValid(T v) { validValues.push_back(v); }
 
-    /// If there are valid values, they alone decide; otherwise the range does.
-    bool isValid(T v) const {
-        if (validValues.empty()) return range.min <= v && v <= range.max;
-        return std::find(validValues.begin(), validValues.end(), v) != validValues.end();
-    }
+    bool isValid(T v) const { return config::isValid(v, validValues, range); }
 
     /// Throws ConfigValueException if `v` is not valid.
     void set(T v) {

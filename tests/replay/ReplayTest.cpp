@@ -75,7 +75,8 @@ protected:
     /// before the first frame. In a process of its own, a copy of this one, in which no game may
     /// have run.
     template <class Recorder = DriftingRecorder>
-    static void record(const std::string& path, const std::vector<int>& keys) {
+    static void record(const std::string& path, const std::vector<int>& keys,
+                       const std::string& option = "-m") {
         const pid_t child = fork();
         if (child == 0) {
             std::size_t passes = 0;
@@ -91,7 +92,7 @@ protected:
             press();
             Recorder recorder(path);
             const Insertion insertion(recorder);
-            headless::runGameMain({});
+            headless::runGameMain({option});
             recorder.finish();
             std::_Exit(0);
         }
@@ -300,6 +301,7 @@ TEST_F(Replay, ASetupIsReadUpToItsLimits) {
         {true, with(&Setup::settings, SettingValues{{'w', 640}, {'l', 480}})},
         {false, with(&Setup::settings, SettingValues{{'w', 640}, {'w', 640}})},
         {false, with(&Setup::settings, SettingValues{{'w', 1921}})},
+        {false, with(&Setup::settings, SettingValues{{'c', 16}})}, // doesn't belong there
         {false, with(&Setup::settings, SettingValues{{'x', 1}})},
         {true, with(&Setup::colours, Colours{{"a", {8.0, -8.0, 0.0, 1.0}}})},
         {false, with(&Setup::colours, Colours{{"a", {0.0, 0.0, 0.0, -8.001}}})},
@@ -519,6 +521,26 @@ TEST_F(Replay, ASongThatIsMissingIsADifference) {
     const Outcome outcome = verify(edited("recorded", drop));
     EXPECT_EQ(outcome.code, 1) << outcome.text;
     EXPECT_NE(outcome.text.find("differs at tick"), std::string::npos) << outcome.text;
+}
+
+TEST_F(Replay, APassInWhichNothingCameHasOneTime) {
+    class Waking : public DriftingRecorder {
+    public:
+        using DriftingRecorder::DriftingRecorder;
+        void sleep(std::uint32_t) override {}
+    };
+    for (const std::string option : {"-U", "-u"}) { // with "-u" the game asks how long to sleep
+        record<Waking>(option, {SDLK_RETURN, SDLK_w, SDLK_d, SDLK_p, SDLK_p, SDLK_w}, option);
+        EXPECT_EQ(verifyFile("./" + option).code, 0);
+        Script script(option);
+        std::size_t passes = 0, times = 0;
+        script.take(); // from the start to the first frame
+        while (const auto record = script.take())
+            if (const auto* const pass = std::get_if<Pass>(&*record); pass && pass->events.empty())
+                ++passes, times += pass->clock.size();
+        EXPECT_GE(passes, 20U) << option;
+        EXPECT_EQ(times, passes) << option;
+    }
 }
 
 TEST_F(Replay, EventsAndSongsComeAsTheyCame) {
