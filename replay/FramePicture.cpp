@@ -9,6 +9,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <iomanip>
 #include <sstream>
 #include <string_view>
 #include <utility>
@@ -188,9 +189,9 @@ void Painter::endShape() {
 }
 
 std::string point(char command, const Position& p) {
-    char text[64];
-    std::snprintf(text, sizeof text, "%c%.1f %.1f", command, p.x, p.y);
-    return text;
+    std::ostringstream text;
+    text << command << std::fixed << std::setprecision(1) << p.x << ' ' << p.y;
+    return text.str();
 }
 
 void Painter::outline(std::size_t step, bool closed) {

@@ -141,7 +141,7 @@ void __wrap_glLineWidth(GLfloat width) {
 }
 int __wrap_usleep(useconds_t microseconds) {
     tape().sleep(microseconds);
-    return 0;
+    return {};
 }
 FMOD_RESULT __wrap_FMOD_System_CreateStream(FMOD_SYSTEM* system, const char* path, unsigned int,
                                             void*, FMOD_SOUND** sound) {

@@ -40,6 +40,9 @@ TEST(PipeTest, GivesAllToTheProgramAndKnowsHowItEnded) {
         EXPECT_EQ(close(each), 0) << "only the first time";
     EXPECT_TRUE(contentsOf(file.string()) == much + '!');
     fs::remove(file);
+    const std::string slow = "sleep 0.1; : >" + file.string();
+    Pipe({"sh", "-c", slow}); // waits
+    EXPECT_TRUE(fs::remove(file));
 
     Pipe deaf({"sh", "-c", "exec <&-; sleep 0.1; exit 3"});
     EXPECT_FALSE(deaf.write(much.data(), much.size()));

@@ -354,6 +354,28 @@ TEST_F(Replay, ANightWithoutMusicIsReadAndHalfOfItIsNot) {
     }
 }
 
+TEST_F(Replay, IdlePassesAreInProportion) {
+    std::uint64_t idle = 3000000;
+    for (int step = 0; step < 12; ++step) { // comes near the limit, then goes beyond it
+        const auto wait = [idle, passes = 0](Record& r) mutable {
+            auto* const pass = std::get_if<Pass>(&r);
+            return pass != nullptr && ++passes == 101 && (pass->idle = idle, true);
+        };
+        const std::uint64_t size = edited(kept, wait).size();
+        const std::uint64_t most = 1000 * size + 10 * 3000; // for its bytes, and for its 3 s
+        Script script("edited");
+        const auto readAll = [&] {
+            while (script.take()) {
+            }
+        };
+        if (idle <= most)
+            EXPECT_NO_THROW(readAll()) << idle << " of " << most;
+        else
+            EXPECT_THROW(readAll(), BadFile) << idle << " of " << most;
+        idle = step < 6 ? most : idle + 1;
+    }
+}
+
 TEST_F(Replay, AnInterruptionIsNoDifferenceAndLeavesNothing) {
     // More passes to repeat than could be played in a minute.
     fill("a", edited(kept, ofFirst<Pass>([](Pass& p) { p.idle = 1500000; })));
@@ -547,6 +569,7 @@ TEST_F(Replay, EventsAndSongsComeAsTheyCame) {
     edited(kept, ofFirst<Pass>([](Pass& p) {
                p.events = {{1, Event::key_down, SDLK_x}, {1, Event::key_up, SDLK_y}};
                p.songs = {{37, 0}, {0, 500}};
+               p.clock.clear();
            }));
     const auto poll = [] {
         Script script("edited");
@@ -559,11 +582,11 @@ TEST_F(Replay, EventsAndSongsComeAsTheyCame) {
         unsigned int length = 0;
         for (int i = 0; i < 3; ++i)
             std::cerr << playback.openSong(nullptr, "", &song) << ' ';
-        std::cerr << playback.songLength(song, &length) << ' ' << length;
+        std::cerr << playback.songLength(song, &length) << ' ' << length << ' ' << playback.clock();
         std::_Exit(0);
     };
     EXPECT_EXIT(poll(), testing::ExitedWithCode(0),
-                "^once: 0 0 0, 1 120 1, 1 121 0, 0 121 0, 37 0 23 0 500$");
+                "^once: 0 0 0, 1 120 1, 1 121 0, 0 121 0, 37 0 23 0 500 0$");
 }
 
 TEST_F(Replay, AReportTellsOfEachGame) {

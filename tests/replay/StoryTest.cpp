@@ -172,7 +172,10 @@ TEST(RemarksTest, MarkWhatIsUnlikeAnUntouchedGame) {
         "1000 ticks in 0:40, 40.0 ms each, 0 ms at most, 0 over 60 ms, 0 pauses, accuracy 10, "
         "window 800x600, 0 colours changed, 0 points changed, 0 keys changed, "
         "1 action a key, up to 0 presses at once");
-    EXPECT_EQ(inWords(remarksOn({}, {})).find("0 ticks in 0:00, 0.0 ms each, "), 0U);
+    GameStory none; // over at once
+    EXPECT_EQ(inWords(remarksOn(none, {})).find("0 ticks in 0:00, 0.0 ms each, "), 0U);
+    none.ticks = 1;
+    EXPECT_EQ(inWords(remarksOn(none, {})).find("1 tick in 0:00, 0.0 ms each, "), 0U);
     for (const auto& c : cases) {
         GameStory game = usual();
         Changes changes;

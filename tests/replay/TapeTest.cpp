@@ -150,6 +150,7 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
     glCallList(4);
     shape(GL_TRIANGLE_STRIP, {{5, 5}, {6, 5}, {5, 6}, {6, 6}});
     shape(GL_TRIANGLE_FAN, {{5, 5}, {6, 5}, {6, 6}, {5, 6}});
+    shape(GL_TRIANGLES, {{0, 0}, {0.01F, 0}, {0, 0.01F}}); // a fifth of a pixel
     shape(GL_LINE_LOOP, {{0, 0}, {0, -1}});
     const std::string picture = camera->take(800, 600);
     EXPECT_EQ(picture.find("<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 800 600'>"), 0U);
@@ -168,7 +169,7 @@ TEST_F(Layer, PicturesShowLinesAreasAndLetters) {
                   half +
                   "<path d='M240.0 200.0L260.0 200.0L260.0 220.0Z"
                   "M240.0 220.0L240.0 200.0L260.0 220.0Z' " +
-                  half +
+                  half + "<path d='M359.8 320.0L360.0 319.8L360.0 320.0Z' " + half +
                   "<path d='M360.0 320.0L380.0 320.0Z' fill='none' stroke='#ffffff' "
                   "stroke-width='2' opacity='0.5'/></g></svg>");
     EXPECT_TRUE(glRecorder().calls.empty());
