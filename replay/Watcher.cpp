@@ -20,7 +20,7 @@ bool Watcher::draws() {
 
 /// Here, so that the music of a pause stands as long as the picture does.
 void Watcher::moveOn() {
-    if (hasBegun) waitFor(sessionTime());
+    if (hasBegun && draws()) waitFor(sessionTime());
 }
 
 void Watcher::show() {

@@ -145,6 +145,22 @@ TEST_F(WatcherDeathTest, StandsAndStepsByKeys) {
                 "^50 stands, 51 a step, 61 goes on$");
 }
 
+TEST_F(WatcherDeathTest, TakesKeysOnTheWayToWhereItBegins) {
+    const auto judge = [](Timed& watcher) {
+        std::cerr << watcher.shown << " shown, left at " << watcher.now();
+    };
+    for (const auto& [key, words] : {std::pair{SDLK_SPACE, "^0 shown, left at 20015$"},
+                                     {SDLK_ESCAPE, "^0 shown, left at 5$"}}) {
+        const auto begin = [key = key](Timed&) {
+            standins::pushKey(key, true);
+            sdl().onDelay = [naps = 0]() mutable {
+                if (++naps == 50) standins::pushKey(SDLK_ESCAPE, true);
+            };
+        };
+        EXPECT_EXIT(watch(kept, {1.0, 20000}, begin, judge), testing::ExitedWithCode(0), words);
+    }
+}
+
 TEST_F(WatcherDeathTest, GoesOnBehindADifferenceAndNamesTheFirst) {
     edited(other, toFirstShot({0, Event::key_down, SDLK_s}));
     const auto judge = [](Timed& watcher) {
