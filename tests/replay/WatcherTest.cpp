@@ -143,6 +143,8 @@ TEST_F(WatcherDeathTest, StandsAndStepsByKeys) {
     const auto judge = [](Timed& watcher) { std::cerr << watcher.shown << " goes on"; };
     EXPECT_EXIT(watch(kept, {1.0, 0}, begin, judge), testing::ExitedWithCode(0),
                 "^50 stands, 51 a step, 61 goes on$");
+    EXPECT_EXIT(watch(kept, {64.0, 0}, begin, judge), testing::ExitedWithCode(0),
+                "^50 stands, 51 a step, 691 goes on$"); // at once, though more are due
 }
 
 TEST_F(WatcherDeathTest, TakesKeysOnTheWayToWhereItBegins) {
