@@ -693,4 +693,8 @@ TEST(Comparison, NamesTheFirstObjectThatDiffers) {
         EXPECT_NE(found.find(c.words), std::string::npos) << found;
         EXPECT_EQ(found.empty(), *c.words == '\0') << found;
     }
+    Check longer = checkOfGame();
+    longer.partHashes += 'x';
+    EXPECT_NE(firstDifference(longer, checkOfGame()).find("the last are missing"),
+              std::string::npos);
 }
