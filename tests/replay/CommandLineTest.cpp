@@ -1,7 +1,6 @@
-// The command line, and the time of a film.
+// The command line.
 
 #include "replay/CommandLine.h"
-#include "replay/FilmTime.h"
 
 #include <gtest/gtest.h>
 
@@ -68,38 +67,4 @@ TEST(CommandLineTest, ReadsTimesAndSpeeds) {
     EXPECT_EQ(toSpeed("4", 0.5, 4.0), 4.0);
     for (const char* text : {"", "0.49", "4.01", "nan", "2x"})
         EXPECT_THROW(toSpeed(text, 0.5, 4.0), BadUsage) << text;
-}
-
-TEST(FilmTimeTest, ShortensWhereNothingGoesOn) {
-    FilmTime time(false);
-    EXPECT_EQ(time.advance(5000), 5000U);
-    EXPECT_EQ(time.advance(1), 0U);
-    EXPECT_EQ(time.advance(3600000), 0U);
-    time.enliven();
-    EXPECT_EQ(time.advance(4990), 4990U);
-    EXPECT_EQ(time.advance(30), 10U) << "the last of it";
-    time.enliven();
-    EXPECT_EQ(time.advance(3600000), 5000U) << "at once";
-
-    FilmTime full(true);
-    EXPECT_EQ(full.advance(3600000), 3600000U);
-    EXPECT_EQ(full.volume(0), 1.0);
-}
-
-TEST(FilmTimeTest, FadesTowardsTheCut) {
-    FilmTime time(false);
-    EXPECT_EQ(time.volume(4000), 1.0);
-    EXPECT_EQ(time.volume(4500), 0.5);
-    EXPECT_EQ(time.volume(5000), 0.0);
-    EXPECT_EQ(time.volume(9000), 0.0);
-    time.advance(4250);
-    EXPECT_EQ(time.volume(0), 0.75);
-    time.enliven();
-    EXPECT_EQ(time.volume(0), 1.0);
-
-    EXPECT_EQ(time.nextVolume(1.0), 1.0);
-    EXPECT_EQ(time.nextVolume(0.25), 0.25) << "at once";
-    EXPECT_DOUBLE_EQ(time.nextVolume(1.0), 0.35) << "but back in steps";
-    EXPECT_DOUBLE_EQ(time.nextVolume(1.0), 0.45);
-    EXPECT_DOUBLE_EQ(time.nextVolume(0.5), 0.5);
 }

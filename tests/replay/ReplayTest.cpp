@@ -136,10 +136,13 @@ TEST_F(Replay, HoldsWhateverWasPlayed) {
         std::remove("recorded");
         const Outcome played = run(KOV_RECORD " recorded " + std::string(c.options));
         ASSERT_EQ(played.code, 0);
-        const std::string best = played.text.substr(played.text.rfind(' ')); // and a line's end
         const Outcome outcome = verifyFile("recorded");
-        EXPECT_NE(outcome.text.find(best.substr(0, best.size() - 1) + " point"), std::string::npos)
-            << c.options << outcome.text << played.text;
+        if (&c == cases) {                                                       // one of two games
+            const std::string best = played.text.substr(played.text.rfind(' ')); // and a line's end
+            EXPECT_LT(outcome.text.find(best.substr(0, best.size() - 1) + " points, "),
+                      outcome.text.find(": holds"))
+                << outcome.text << played.text;
+        }
         EXPECT_EQ(outcome.code, 0) << c.options << outcome.text;
         EXPECT_NE(outcome.text.find(": holds\n"), std::string::npos) << outcome.text;
         EXPECT_NE(outcome.text.find(c.games), std::string::npos) << outcome.text;
@@ -389,16 +392,6 @@ TEST_F(Replay, AnInterruptionIsNoDifferenceAndLeavesNothing) {
         EXPECT_NE(outcome.text.find("interrupted\n"), std::string::npos) << outcome.text;
         EXPECT_TRUE(fs::is_empty("tmp")) << signal;
     }
-}
-
-TEST_F(Replay, ARecorderThatSawNoFrameWritesNothing) {
-    {
-        Recorder recorder("empty");
-        recorder.finish();
-        EXPECT_EQ(recorder.games, 0U);
-        EXPECT_EQ(recorder.bestScore, 0U);
-    }
-    EXPECT_EQ(contentsOf("empty").size(), BlockWriter::empty_size);
 }
 
 TEST_F(Replay, WhatCouldNotBeReadIsNotKept) {
