@@ -188,18 +188,18 @@ TEST_F(FilmDeathTest, CutsALongPauseAndFadesTowardsIt) {
     const auto change = [](Pass& pass, unsigned int n) {
         delay(pass, (n > 40 ? 8000 : 0) + (n < 20 ? 0 : 10));
     };
-    const Step judge = [](const Filming&) { // percent, of both channels
-        std::cerr << runs<std::int16_t>("sound.mka", standins::SoundRecorder::rendered / 100);
+    const Step judge = [](const Filming&) { // thousandths, of both channels
+        std::cerr << runs<std::int16_t>("sound.mka", standins::SoundRecorder::rendered / 1000);
     };
     std::ostringstream volumes;
-    volumes << "100x457758 "; // of 4 s, and before
-    for (int volume = 99; volume >= 0; volume -= 3)
+    volumes << "1000x457758 "; // of 4 s, and before
+    for (int volume = 990; volume >= 0; volume -= 30)
         volumes << volume << "x2646 ";
-    for (int volume = 10; volume < 90; volume += 20)
-        volumes << volume << "x2048 " << volume + 10 << "x598 ";
-    volumes << "90x2048 100x117022 ";
+    for (int volume = 100; volume < 900; volume += 200)
+        volumes << volume << "x2048 " << volume + 100 << "x598 ";
+    volumes << "900x2048 1000x117022 ";
     expect(done + volumes.str(), changed(change), part(0, 10710), judge);
-    expect(done + "100x944622 ", changed(change), part(0, 10710, true), judge);
+    expect(done + "1000x944622 ", changed(change), part(0, 10710, true), judge);
 }
 
 TEST_F(FilmDeathTest, KeepsWhereSomethingGoesOn) {

@@ -84,8 +84,6 @@ TEST_F(StoryTest, CountsWhatAGameBrings) {
     EXPECT_EQ(watched.game().sides(), 8U);
     EXPECT_EQ(watched.game().powerUps, 3U);
     EXPECT_FALSE(watched.game().end);
-    publish(SoundSquare());
-    EXPECT_EQ(watched.game().catches.back().triangles, 0U) << "without a rectangle";
 
     watched.run.press(SDLK_ESCAPE);
     watched.tick();
@@ -94,6 +92,17 @@ TEST_F(StoryTest, CountsWhatAGameBrings) {
     EXPECT_EQ(watched.game().end->score, Marvo::Instance().score);
     EXPECT_NE(inWords(watched.game()).find("3 triangles"), std::string::npos);
     EXPECT_EQ(watched.story.games.size(), 1U);
+}
+
+TEST_F(StoryTest, TheFirstOfEqualCatchesIsTheBest) {
+    Watched watched;
+    unsigned int bests = 0;
+    watched.story.onBestCatch = [&bests] { ++bests; };
+    for (int times = 0; times < 2; ++times)
+        publish(SoundSquare());
+    EXPECT_EQ(bests, 1U);
+    EXPECT_EQ(watched.game().best(), &watched.game().catches.at(0));
+    EXPECT_EQ(watched.game().triangles(), 0U) << "without a rectangle";
 }
 
 TEST_F(StoryTest, TakesPausesOutOfTheClock) {
