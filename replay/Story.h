@@ -77,7 +77,7 @@ private:
         std::uint32_t score;      ///< after the last catch
         std::size_t datedCatches; ///< whose time is known
         std::optional<std::uint32_t> pauseBegin; ///< ms after the start; empty: it goes on
-    } now;
+    } now{};
 };
 
 } // namespace quorva::replay
