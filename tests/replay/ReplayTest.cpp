@@ -110,7 +110,7 @@ public:
     using Playback::Playback;
 
 private:
-    void prepareGame() override { std::cerr << "once: "; }
+    void prepareGame() override { std::cerr << "prepared, "; }
 };
 
 class OpeningPlayback : public WindowPlayback {
@@ -137,8 +137,9 @@ TEST_F(Replay, HoldsWhateverWasPlayed) {
         const Outcome played = run(KOV_RECORD " recorded " + std::string(c.options));
         ASSERT_EQ(played.code, 0);
         const Outcome outcome = verifyFile("recorded");
-        if (&c == cases) {                                                       // one of two games
-            const std::string best = played.text.substr(played.text.rfind(' ')); // and a line's end
+        if (&c == cases) {
+            // Of two games; behind it the line ends.
+            const std::string best = played.text.substr(played.text.rfind(' '));
             EXPECT_LT(outcome.text.find(best.substr(0, best.size() - 1) + " points, "),
                       outcome.text.find(": holds"))
                 << outcome.text << played.text;
@@ -579,7 +580,7 @@ TEST_F(Replay, EventsAndSongsComeAsTheyCame) {
         std::_Exit(0);
     };
     EXPECT_EXIT(poll(), testing::ExitedWithCode(0),
-                "^once: 0 0 0, 1 120 1, 1 121 0, 0 121 0, 37 0 23 0 500 0$");
+                "^prepared, 0 0 0, 1 120 1, 1 121 0, 0 121 0, 37 0 23 0 500 0$");
 }
 
 TEST_F(Replay, AReportTellsOfEachGame) {
