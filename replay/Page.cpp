@@ -136,10 +136,10 @@ void copyBuild(const fs::path& build, const fs::path& folder) {
             throw std::runtime_error("no build of the game for browsers: " + build.string());
     const fs::path copy = folder / web_folder, source = fs::canonical(build);
     if (fs::exists(copy) && fs::equivalent(source, copy)) return;
-    for (fs::path each = fs::canonical(folder); !each.empty(); each = each.parent_path()) {
-        if (each == source) throw std::runtime_error("the page can't lie within the build");
-        if (each == each.root_path()) break;
-    }
+    fs::path each = fs::canonical(folder);
+    while (each != source && each != each.root_path())
+        each = each.parent_path();
+    if (each == source) throw std::runtime_error("the page can't lie within the build");
     fs::copy(source, copy, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
 }
 

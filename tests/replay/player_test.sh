@@ -92,6 +92,13 @@ DISPLAY=:9999 expect "no display, no file" 2 "there is no display here" record n
 GALLIUM_DRIVER=none expect "no window, no file" 255 "" record none.kovreplay
 [ ! -e none.kovreplay ] || fail "a game that wasn't there was kept"
 
+start record ended.kovreplay -- --NoPlayMusic
+sleep 1
+press Return w
+kill -TERM "$(pgrep -P $process)"
+ends "record, TERM" 0 "kept in $folder/ended.kovreplay"
+expect "a game that a signal has ended" 0 ": holds" verify ended.kovreplay
+rm ended.kovreplay
 expect "show" 0 "4 shots, 0 of them a side" show one.kovreplay
 grep -q "1 pause of 0:0[0-2]" said || fail "show tells no pause: $(cat said)"
 grep -q "ScreenWidth=800" said || fail "show tells no settings: $(cat said)"
@@ -208,8 +215,7 @@ for signal in INT TERM; do
     kill -$signal "$(pgrep -P $process)"
     ends "watch, $signal" 3 "interrupted at 0:0"
 done
-start watch one.kovreplay --speed=64
-ends "watch to the end" 0 ""
+expect "watch to the end" 0 "" watch one.kovreplay --speed=64
 
 start watch --speed=64
 soon "watch the game that comes with it" " / 2:0"
