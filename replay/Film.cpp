@@ -148,7 +148,7 @@ void Film::fill(std::uint32_t ms) {
 
 /// @param volume 0 to 1, to be reached at that sample, but for a slow return
 void Film::hear(std::uint64_t until, double volume) {
-    std::array<std::int16_t, 2 * piece> samples;
+    std::array<std::int16_t, 2 * piece> samples{};
     FMOD_SYSTEM* const system = FModSystem::Instance().system;
     while (heard < until && !isEnding()) {
         const std::uint64_t count = std::min(piece, until - heard);

@@ -94,7 +94,7 @@ bool Pipe::write(const void* bytes, std::size_t size) {
 bool Pipe::finish() {
     if (process == -1) return good;
     close(end);
-    int status;
+    int status = 0; // where nobody may wait: SIGCHLD is ignored
     waitpid(process, &status, 0);
     good = codeOf(status) == 0 && good;
     process = -1;
@@ -108,7 +108,7 @@ ProgramEnd runProgram(const std::vector<std::string>& words) {
     const pid_t process = start(words, nothing, before);
     close(nothing);
     ProgramEnd end = {-1, false};
-    int status;
+    int status = 0;
     while (process != -1 && waitpid(process, &status, WNOHANG) == 0) {
         const int signal = sigwaitinfo(&held, nullptr);
         if (signal == -1 || signal == SIGCHLD) continue; // -1: stopped and continued
