@@ -38,7 +38,6 @@ for target; do :; done
 target=${target#file:}
 case $target in
 $FAILING) exit 1 ;;
-interrupted) kill -TERM $PPID && exec sleep 9 ;;
 esac
 printf '%s\n' "$@" >"$target.arguments"
 exec cat >"$target"
@@ -290,29 +289,5 @@ TEST_F(FilmDeathTest, StopsAndFailsWithFfmpeg) {
         setenv("FAILING", failing.c_str(), 1);
         expect(done + "ffmpeg has failed\n" + (failing == "out" ? "goes on" : "stops"), kept,
                format, judge);
-    }
-}
-
-TEST_F(FilmDeathTest, FindsOutWhatFfmpegMakes) {
-    const struct {
-        const char *target, *failing, *reason;
-    } cases[] = {
-        {"o.mp4", "", ""},
-        {"o.xyz", "*.xyz",
-         "ffmpeg makes no films like o.xyz; an ending such as .mp4 or .mkv tells it how"},
-        {"o.mp4", "*", "films are made by the program ffmpeg; please install the package ffmpeg"},
-        {"interrupted", "", ""},
-        {"no/o.mp4", "", "can't make no/o.mp4: No such file or directory"},
-    };
-    for (const auto& c : cases) {
-        setenv("FAILING", c.failing, 1);
-        std::string reason;
-        try {
-            Film::requireTarget(c.target);
-        } catch (const std::runtime_error& e) {
-            reason = e.what();
-        }
-        EXPECT_EQ(reason, c.reason);
-        EXPECT_FALSE(fs::exists(c.target)) << c.target;
     }
 }

@@ -28,18 +28,6 @@ TEST(Pace, FollowsTimeAtItsSpeedButNotThroughASleep) {
     }
 }
 
-TEST(Pace, StepsOnlyWhileItStands) {
-    Pace pace(0.0, 1.0);
-    pace.press(SDLK_RIGHT);
-    EXPECT_FALSE(pace.takeStep());
-    EXPECT_EQ(pace.speed, 2.0);
-    for (const int key : {SDLK_SPACE, SDLK_RIGHT})
-        pace.press(key);
-    EXPECT_TRUE(pace.takeStep());
-    EXPECT_FALSE(pace.takeStep()) << "one for each key";
-    EXPECT_EQ(pace.speed, 2.0);
-}
-
 TEST(Pace, HasASlowestAndAFastestSpeed) {
     Pace pace(0.0, 1.0);
     for (int i = 0; i < 20; ++i)

@@ -13,10 +13,10 @@ mkdir Songs tmp bin
 export TMPDIR=$folder/tmp PATH=$folder/bin:$PATH
 cat >bin/ffmpeg <<'DOUBLE'
 #!/bin/bash
-# Counts what it is given, in bytes, and keeps the last of it; makes any film but *.xyz.
+# Counts what it is given, in bytes, and keeps the last of it; makes any film but *$NO_FILM.
 for target; do :; done
 case $target in
-*.xyz) exit 1 ;;
+*$NO_FILM) exit 1 ;;
 esac
 target=${target#file:}
 case " $* " in
@@ -26,6 +26,7 @@ case " $* " in
 esac
 DOUBLE
 chmod +x bin/ffmpeg
+export NO_FILM=.xyz
 
 fail() { echo "FAILED: $*" && failures=1; }
 expect() { # what, exit code, text that must have been said, command...
@@ -239,6 +240,7 @@ for size in "" 15x16 16x15 8193x16 16x8193 16x16x; do
     expect "film, $size" 2 "no size such as" film one.kovreplay part.mp4 --size=$size
 done
 expect "film, no such ending" 2 "ffmpeg makes no films like o.xyz" film one.kovreplay o.xyz
+NO_FILM="" expect "film, no ffmpeg" 2 "please install the package ffmpeg" film one.kovreplay o.mp4
 expect "film, no such part" 2 "nothing lies between" film one.kovreplay o.mp4 --from 9:00
 expect "film, nothing of it" 2 "nothing lies between" film one.kovreplay o.mp4 --from 0:02 --to=0:02
 start film night.kovreplay stopped.mp4 --full # the whole night

@@ -167,10 +167,7 @@ void testTrianglesAndPoints(const Participants& participants) {
 void retireLines(PhysicsProcessor& processor) {
     auto& lines = processor.lines;
     for (TrapLine* line : lines) {
-        if (line->bullet != nullptr && line->bullet->fakeKilled) {
-            line->line->end = line->bullet->physics->position;
-            line->bullet = nullptr;
-        }
+        line->updateBullet();
         if (!line->fakeDone) continue;
         for (Entity* e : processor.entities) {
             auto& known = e->physics->lines;
